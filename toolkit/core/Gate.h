@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Export.h"
+
+#include <atomic>
+#include <cstdint>
+
+#if !defined(__linux__) && !defined(TOOLKIT_PORTABLE_GATE)
+#define TOOLKIT_PORTABLE_GATE 1
+#endif
+
+#if TOOLKIT_PORTABLE_GATE
+#include <condition_variable>
+#include <mutex>
+#endif
+
+/// The one place where threads of the toolkit sleep: a counter that never goes above its maximum, with an
+/// end that lets a waiter go without a count.
+///
+/// A waiter may destroy the gate as soon as it is awake: the change of the word is the opener's last touch of
+/// it, and the wake call behind uses the address alone. It may then wake a stranger, so every sleep tests its
+/// word again. Nothing spins.
+class TOOLKIT_EXPORT Gate {
+public:
+    explicit Gate(std::uint32_t count = 0, std::uint32_t maximum = 1);
+    Gate(const Gate&) = delete;
+    Gate& operator=(const Gate&) = delete;
+
+    /// Takes one count, and sleeps until there is one. Returns false after abandon(), or when `milliseconds`
+    /// have passed; a negative number means without limit.
+    bool pass(int milliseconds = -1);
+
+    /// Adds a count, unless the maximum is reached, and wakes one sleeper if there is any.
+    void open();
+
+    /// Lets one waiter go with the result false; kept if nobody waits yet.
+    void abandon();
+
+private:
+    bool passSlowly(int milliseconds);
+    void release(std::uint32_t what);
+
+#if TOOLKIT_PORTABLE_GATE
+    std::mutex mMutex;
+    std::condition_variable mChanged;
+    bool mAbandoned = false;
+    std::uint32_t mCount;
+#else
+    // Bits 0 to 14 count, bit 15 is the abandonment, the bits above count the sleepers.
+    std::atomic<std::uint32_t> mWord;
+#endif
+    const std::uint32_t mMaximum;
+};

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "Export.h"
+
+#include <cstdint>
+#include <vector>
+
+/// A rectangle of widgets: signed 16-bit corners, all of them inside. Right below left, or bottom above
+/// top, is an empty rectangle.
+class TOOLKIT_EXPORT URect {
+public:
+    URect() = default;
+    URect(int left, int top, int right, int bottom)
+        : mLeft(static_cast<std::int16_t>(left))
+        , mTop(static_cast<std::int16_t>(top))
+        , mRight(static_cast<std::int16_t>(right))
+        , mBottom(static_cast<std::int16_t>(bottom))
+    {
+    }
+
+    int left() const { return mLeft; }
+    int top() const { return mTop; }
+    int right() const { return mRight; }
+    int bottom() const { return mBottom; }
+    int width() const { return mRight - mLeft + 1; }
+    int height() const { return mBottom - mTop + 1; }
+    bool isEmpty() const { return mRight < mLeft || mBottom < mTop; }
+
+    /// True when the other rectangle lies wholly inside this one.
+    bool contains(const URect& other) const;
+
+    bool operator==(const URect&) const = default;
+
+private:
+    std::int16_t mLeft = 0;
+    std::int16_t mTop = 0;
+    std::int16_t mRight = -1;
+    std::int16_t mBottom = -1;
+};
+
+namespace DisplayAPI {
+
+/// A rectangle of the library: corner and size. right() and bottom() are the last column and row inside;
+/// a width or height of 0 or less makes it empty.
+class TOOLKIT_EXPORT Rect {
+public:
+    Rect() = default;
+    Rect(int left, int top, int width, int height)
+        : mLeft(left)
+        , mTop(top)
+        , mWidth(width)
+        , mHeight(height)
+    {
+    }
+
+    int left() const { return mLeft; }
+    int top() const { return mTop; }
+    int right() const { return mLeft + mWidth - 1; }
+    int bottom() const { return mTop + mHeight - 1; }
+    int width() const { return mWidth; }
+    int height() const { return mHeight; }
+    bool isEmpty() const { return mWidth <= 0 || mHeight <= 0; }
+
+    /// True when the other rectangle lies wholly inside this one.
+    bool contain(const Rect& other) const;
+
+    /// True when the two share at least one pixel.
+    bool Overlap(const Rect& other) const;
+
+    /// What the two share; empty when they don't overlap.
+    Rect getIntersection(const Rect& other) const;
+
+    /// What stays of this rectangle when the others are taken off it: at most four pieces for each, in the
+    /// order above, below, left, right.
+    std::vector<Rect> subtract(const std::vector<Rect>& others) const;
+
+    bool operator==(const Rect&) const = default;
+
+private:
+    int mLeft = 0;
+    int mTop = 0;
+    int mWidth = 0;
+    int mHeight = 0;
+};
+
+}
