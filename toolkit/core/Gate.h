@@ -37,15 +37,14 @@ public:
     void abandon();
 
 private:
-    bool passSlowly(int milliseconds);
-    void release(std::uint32_t what);
-
 #if TOOLKIT_PORTABLE_GATE
     std::mutex mMutex;
     std::condition_variable mChanged;
     bool mAbandoned = false;
     std::uint32_t mCount;
 #else
+    bool passSlowly(int milliseconds);
+
     // Bits 0 to 14 count, bit 15 is the abandonment, the bits above count the sleepers.
     std::atomic<std::uint32_t> mWord;
 #endif

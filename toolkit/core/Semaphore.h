@@ -2,6 +2,7 @@
 
 #include "Export.h"
 #include "Gate.h"
+#include "ThreadSafety.h"
 
 #include <atomic>
 
@@ -9,7 +10,7 @@
 /// re-entrant one belongs to the thread that took it, which may take it again; the last give() frees it.
 ///
 /// A waiter may destroy it right after waking.
-class TOOLKIT_EXPORT Semaphore {
+class TOOLKIT_EXPORT CAPABILITY("semaphore") Semaphore {
 public:
     enum State : int {
         NOT_AVAILABLE = 0,
@@ -34,18 +35,18 @@ private:
     Gate mGate;
     const bool mReentrant;
     std::atomic<unsigned int> mOwner = 0;
-    int mDepth = 0;
+    std::atomic<int> mDepth = 0;
 };
 
 /// A take of a semaphore for as long as a scope lasts.
-class TOOLKIT_EXPORT CriticalSection {
+class TOOLKIT_EXPORT SCOPED_CAPABILITY CriticalSection {
 public:
-    explicit CriticalSection(Semaphore& semaphore)
+    explicit CriticalSection(Semaphore& semaphore) ACQUIRE(semaphore)
         : mSemaphore(semaphore)
     {
         mSemaphore.take(-1);
     }
-    ~CriticalSection() { mSemaphore.give(); }
+    ~CriticalSection() RELEASE() { mSemaphore.give(); }
     CriticalSection(const CriticalSection&) = delete;
     CriticalSection& operator=(const CriticalSection&) = delete;
 

@@ -62,13 +62,17 @@ public:
     /// The application of now, or null. Threads: any.
     static VantoUApplication* getCurrentApplication();
 
-    /// Leaves the process without a current application; the queue is closed.
+    /// Leaves the process without a current application, for the cases in which there is none.
     static void endCurrent();
 
     // Loop
 
     int exec();
     void quit();
+
+    /// Destroys what waits in the queue without running it, and refuses later posts, until a new exec() or a
+    /// new application.
+    void closeEventQueue();
 
     // Settings
 

@@ -2,13 +2,13 @@
 
 #include "Export.h"
 #include "Gate.h"
+#include "UAgent.h"
 
 #include <atomic>
 #include <cstdint>
 #include <map>
 #include <utility>
 
-class UAgent;
 class UEvent;
 class UTimer;
 
@@ -30,7 +30,7 @@ public:
     int exec();
 
     /// Ends exec() after the event in hand; without effect outside of it. Threads: GUI thread.
-    void quit() { mQuit = true; }
+    void quit() { mQuit = mIsExecuting; }
 
     /// Runs one pass, for tests and the simulator. It neither opens nor closes the queue.
     void processEvents();
@@ -61,17 +61,20 @@ private:
     void runQueue();
     void runTimers();
     void sleep();
-    UEvent* takeAll();
+    void fetchQueue();
+    bool hasWork() const;
     static UEvent* inOrderOfPosting(UEvent* newest);
     static void destroyAll(UEvent* first);
 
     // Null, an event (the newest of a chain), or one of the two marks of the source file.
     std::atomic<UEvent*> mNewest = nullptr;
     Gate mGate;
+    UEvent* mPass = nullptr; // what is left of the pass in hand, oldest first
     bool mQuit = false;
     bool mIsExecuting = false;
     bool mIsClockManual = false;
     std::uint64_t mManualTime = 0;
+    std::uint64_t mClockOffset = 0; // what advance() has added to the real clock
     std::uint64_t mTimerOrder = 0;
     std::map<TimerKey, UTimer*> mTimers;
 };
@@ -99,12 +102,11 @@ public:
 
 private:
     friend class ULoop;
-    struct Agent;
 
-    void schedule(std::uint64_t from);
-    void fire();
+    void schedule(std::uint64_t due);
+    void fire(std::uint64_t now);
 
-    Agent* mAgent; // a guarded pointer, kept out of this header
+    UPointer<UAgent> mAgent;
     std::uint64_t mId;
     unsigned long long mInterval;
     ULoop::TimerKey mKey;

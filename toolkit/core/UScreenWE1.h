@@ -16,7 +16,10 @@ public:
     explicit UScreenWE1(int height = 31);
 
     int height() const { return mHeight; }
-    bool pixel(int x, int y) const { return isInside(x, y) && mRows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]; }
+    bool pixel(int x, int y) const
+    {
+        return isInside(x, y) && mRows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+    }
     void setPixel(int x, int y, bool on);
     void clear();
 

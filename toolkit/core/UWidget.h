@@ -53,6 +53,9 @@ public:
     /// Told after a child has left, on its own account or by its death. Only its address may be used then.
     virtual void childLeft(UWidget* child);
 
+    /// Told after this widget has got another parent, or none.
+    virtual void parentChanged() { }
+
     // State
 
     void show() { setVisible(true); }
@@ -69,7 +72,7 @@ public:
     bool isWidgetEnabled() const { return mIsEnabled; }
 
     void setRect(const URect& rect) { mRect = rect; }
-    URect getRect() const { return mRect; }
+    virtual URect getRect() const { return mRect; }
     void setCoordinates(int left, int top, int right, int bottom) { setRect(URect(left, top, right, bottom)); }
 
     /// Told when a status message comes or goes over the first line.
@@ -89,6 +92,10 @@ public:
 
     /// The widget that takes the keys when this one is the topmost shown; null if none does.
     virtual UWidget* focusTarget() { return nullptr; }
+
+    /// True for a widget that only tells something: it joins in the focus by an explicit request alone, and
+    /// the keys that it does not take go on to the next one.
+    virtual bool isPassive() const { return false; }
 
     virtual Role role() const { return Role::None; }
     virtual Layer layer() const { return Layer::Screen; }

@@ -4,6 +4,7 @@
 #include "UAgent.h"
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 class UFont;
@@ -62,8 +63,8 @@ public:
     /// a release goes only to the widget that took the press, while it has the focus. Returns whether it was used.
     bool dispatchKey(UKeyEvent& key);
 
-    /// The topmost shown widget of a role, or null.
-    UWidget* shownWidget(int role) const;
+    /// A shown widget of a UWidget::Role, or null.
+    const UWidget* shownWidget(int role) const;
 
     // Painting
 
@@ -87,7 +88,7 @@ public:
 private:
     struct Popup {
         UWidget* widget = nullptr;
-        const UWidget* boundTo = nullptr; // the screen that was on top; null inside the root's tree
+        const UWidget* boundTo = nullptr; // the screen that was on top when it came up
     };
 
     UWindowManager() = default;
@@ -97,6 +98,7 @@ private:
     void compose();
     void paintTree(UWidget& widget, UPainter& painter) const;
     void paintLayer(int layer, UPainter& painter) const;
+    bool isInRootTree(const UWidget* widget) const;
 
     UPointer<UWidget> mRoot;
     UPointer<UWidget> mFocusRequest;

@@ -1,0 +1,155 @@
+#include "Gate.h"
+
+#include "Disturb.h"
+
+#include <chrono>
+
+#if TOOLKIT_PORTABLE_GATE
+
+Gate::Gate(std::uint32_t count, std::uint32_t maximum)
+    : mCount(count)
+    , mMaximum(maximum)
+{
+}
+
+bool Gate::pass(int milliseconds)
+{
+    disturb();
+    std::unique_lock lock(mMutex);
+    auto isOpen = [this] { return mCount > 0 || mAbandoned; };
+    if (milliseconds < 0)
+        mChanged.wait(lock, isOpen);
+    else if (!mChanged.wait_for(lock, std::chrono::milliseconds(milliseconds), isOpen))
+        return false;
+    if (mCount == 0) {
+        mAbandoned = false;
+        return false;
+    }
+    --mCount;
+    return true;
+}
+
+// Both notify under the mutex: the waiter may destroy the gate as soon as it gets the mutex.
+void Gate::open()
+{
+    disturb();
+    std::lock_guard lock(mMutex);
+    if (mCount < mMaximum)
+        ++mCount;
+    mChanged.notify_one();
+}
+
+void Gate::abandon()
+{
+    std::lock_guard lock(mMutex);
+    mAbandoned = true;
+    mChanged.notify_one();
+}
+
+#else
+
+#include <cerrno>
+#include <ctime>
+#include <linux/futex.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::uint32_t CountMask = 0x7FFF;
+constexpr std::uint32_t Abandoned = 0x8000;
+constexpr std::uint32_t OneSleeper = 0x10000;
+
+// The address alone: the object behind it may be gone when the kernel looks for sleepers.
+void wakeOne(std::atomic<std::uint32_t>* word)
+{
+    syscall(SYS_futex, word, FUTEX_WAKE_PRIVATE, 1, nullptr, nullptr, 0);
+}
+
+/// Sleeps while the word has this value, until the deadline. Returns false when the time is up.
+bool sleepOn(std::atomic<std::uint32_t>* word, std::uint32_t value, const timespec* deadline)
+{
+    const long result
+        = syscall(SYS_futex, word, FUTEX_WAIT_BITSET_PRIVATE, value, deadline, nullptr, FUTEX_BITSET_MATCH_ANY);
+    return !(result == -1 && errno == ETIMEDOUT);
+}
+
+timespec deadlineIn(int milliseconds)
+{
+    timespec time = {};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    time.tv_sec += milliseconds / 1000;
+    time.tv_nsec += static_cast<long>(milliseconds % 1000) * 1'000'000;
+    if (time.tv_nsec >= 1'000'000'000) {
+        time.tv_nsec -= 1'000'000'000;
+        ++time.tv_sec;
+    }
+    return time;
+}
+
+}
+
+Gate::Gate(std::uint32_t count, std::uint32_t maximum)
+    : mWord(count)
+    , mMaximum(maximum < CountMask ? maximum : CountMask)
+{
+}
+
+bool Gate::pass(int milliseconds)
+{
+    disturb();
+    std::uint32_t word = mWord.load(std::memory_order_relaxed);
+    while (word & CountMask) {
+        if (mWord.compare_exchange_weak(word, word - 1, std::memory_order_acquire, std::memory_order_relaxed))
+            return true;
+    }
+    return passSlowly(milliseconds);
+}
+
+bool Gate::passSlowly(int milliseconds)
+{
+    timespec deadline = {};
+    if (milliseconds >= 0)
+        deadline = deadlineIn(milliseconds);
+    std::uint32_t word = mWord.fetch_add(OneSleeper, std::memory_order_relaxed) + OneSleeper;
+    bool isTimeLeft = true;
+    for (;;) {
+        if (word & CountMask) {
+            if (mWord.compare_exchange_weak(
+                    word, word - OneSleeper - 1, std::memory_order_acquire, std::memory_order_relaxed))
+                return true;
+        } else if (word & Abandoned) {
+            if (mWord.compare_exchange_weak(
+                    word, word - OneSleeper - Abandoned, std::memory_order_acquire, std::memory_order_relaxed))
+                return false;
+        } else if (!isTimeLeft) {
+            if (mWord.compare_exchange_weak(
+                    word, word - OneSleeper, std::memory_order_relaxed, std::memory_order_relaxed))
+                return false;
+        } else {
+            isTimeLeft = sleepOn(&mWord, word, milliseconds >= 0 ? &deadline : nullptr);
+            word = mWord.load(std::memory_order_relaxed);
+        }
+    }
+}
+
+void Gate::open()
+{
+    disturb();
+    std::uint32_t word = mWord.load(std::memory_order_relaxed);
+    std::uint32_t next;
+    do {
+        next = (word & CountMask) < mMaximum ? word + 1 : word;
+    } while (!mWord.compare_exchange_weak(word, next, std::memory_order_release, std::memory_order_relaxed));
+    if (next >= OneSleeper)
+        wakeOne(&mWord);
+}
+
+void Gate::abandon()
+{
+    const std::uint32_t word = mWord.fetch_or(Abandoned, std::memory_order_release);
+    if (word >= OneSleeper)
+        wakeOne(&mWord);
+}
+
+#endif

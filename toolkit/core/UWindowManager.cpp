@@ -1,0 +1,261 @@
+#include "UWindowManager.h"
+
+#include "Types.h"
+#include "UEvent.h"
+#include "UPainter.h"
+#include "UScreenWE1.h"
+#include "UWidget.h"
+
+#include <algorithm>
+
+UWindowManager& UWindowManager::instance()
+{
+    static UWindowManager& manager = *new UWindowManager;
+    return manager;
+}
+
+void UWindowManager::setRoot(UWidget* root)
+{
+    mRoot = root;
+    repaint();
+}
+
+UWidget* UWindowManager::root() const
+{
+    return mRoot.get();
+}
+
+void UWindowManager::setScreen(UScreenWE1* screen)
+{
+    mScreen = screen;
+    repaint();
+}
+
+void UWindowManager::setFont(const UFont* font)
+{
+    mFont = font;
+    repaint();
+}
+
+void UWindowManager::setEnabled(bool enabled)
+{
+    mIsEnabled = enabled;
+    repaint();
+}
+
+// Popups
+
+void UWindowManager::raisePopup(UWidget* popup)
+{
+    lowerPopup(popup);
+    mPopups.push_back({popup, topScreen()});
+    repaint();
+}
+
+void UWindowManager::lowerPopup(UWidget* popup)
+{
+    std::erase_if(mPopups, [popup](const Popup& entry) { return entry.widget == popup; });
+    repaint();
+}
+
+bool UWindowManager::isUp(const UWidget* popup) const
+{
+    return std::any_of(mPopups.begin(), mPopups.end(), [popup](const Popup& entry) { return entry.widget == popup; });
+}
+
+bool UWindowManager::isInRootTree(const UWidget* widget) const
+{
+    while (widget->parentWidget())
+        widget = widget->parentWidget();
+    return widget == mRoot.get();
+}
+
+bool UWindowManager::isShown(const Popup& popup) const
+{
+    if (isInRootTree(popup.widget))
+        return popup.widget->isShown();
+    const UWidget* root = mRoot.get();
+    return popup.widget->isVisible() && (!root || root->isVisible()) && popup.boundTo == topScreen();
+}
+
+UWidget* UWindowManager::topScreen() const
+{
+    UWidget* screen = mRoot ? mRoot->lastChild() : nullptr;
+    while (screen && (!screen->isVisible() || screen->layer() != UWidget::Layer::Screen))
+        screen = screen->previousSibling();
+    return screen;
+}
+
+void UWindowManager::addOverlay(UWidget* overlay)
+{
+    if (std::find(mOverlays.begin(), mOverlays.end(), overlay) == mOverlays.end())
+        mOverlays.push_back(overlay);
+    repaint();
+}
+
+// Focus and keys
+
+void UWindowManager::requestFocus(UWidget* widget)
+{
+    mFocusRequest = widget;
+}
+
+void UWindowManager::releaseFocus()
+{
+    mFocusRequest = nullptr;
+}
+
+bool UWindowManager::hasFocusRequest(const UWidget* widget) const
+{
+    return widget && mFocusRequest.get() == widget;
+}
+
+std::vector<UWidget*> UWindowManager::focusCandidates() const
+{
+    std::vector<UWidget*> candidates;
+    auto addTarget = [&candidates](UWidget* widget) {
+        UWidget* target = widget->focusTarget();
+        if (target && std::find(candidates.begin(), candidates.end(), target) == candidates.end())
+            candidates.push_back(target);
+    };
+    for (auto popup = mPopups.rbegin(); popup != mPopups.rend(); ++popup) {
+        if (isShown(*popup))
+            addTarget(popup->widget);
+    }
+    const UWidget* root = mRoot.get();
+    if (!root || !root->isVisible())
+        return candidates;
+    for (UWidget* child = root->lastChild(); child; child = child->previousSibling()) {
+        if (child->isVisible())
+            addTarget(child);
+    }
+    return candidates;
+}
+
+UWidget* UWindowManager::focusWidget() const
+{
+    const std::vector<UWidget*> candidates = focusCandidates();
+    return candidates.empty() ? nullptr : candidates.front();
+}
+
+bool UWindowManager::dispatchKey(UKeyEvent& key)
+{
+    const std::vector<UWidget*> candidates = focusCandidates();
+    if (candidates.empty())
+        return false;
+    if (key.state() != UGlobal::KeyPressed) {
+        UWidget* owner = mPressOwner.get();
+        if (key.state() == UGlobal::KeyReleased)
+            mPressOwner = nullptr;
+        return owner && owner == candidates.front() && owner->keyEvent(&key);
+    }
+
+    // A handler may delete any widget, also the one that comes next.
+    const bool isFirstPassive = candidates.front()->isPassive();
+    UPointer<UWidget> next = isFirstPassive && candidates.size() > 1 ? candidates[1] : nullptr;
+    mPressOwner = candidates.front();
+    if (candidates.front()->keyEvent(&key))
+        return true;
+    mPressOwner = next.get();
+    if (next && next->keyEvent(&key))
+        return true;
+    mPressOwner = nullptr;
+    return false;
+}
+
+const UWidget* UWindowManager::shownWidget(int role) const
+{
+    const UWidget* root = mRoot.get();
+    if (!root || !root->isVisible())
+        return nullptr;
+    // Depth first, from the screen on top to the one at the bottom.
+    std::vector<const UWidget*> open;
+    for (const UWidget* child = root->firstChild(); child; child = child->nextSibling())
+        open.push_back(child);
+    while (!open.empty()) {
+        const UWidget* widget = open.back();
+        open.pop_back();
+        if (!widget->isVisible())
+            continue;
+        if (static_cast<int>(widget->role()) == role)
+            return widget;
+        for (const UWidget* child = widget->firstChild(); child; child = child->nextSibling())
+            open.push_back(child);
+    }
+    return nullptr;
+}
+
+// Painting
+
+void UWindowManager::clearScreen()
+{
+    if (mScreen)
+        mScreen->clear();
+    repaint();
+}
+
+bool UWindowManager::paintIfNeeded()
+{
+    if (!mIsPaintNeeded)
+        return false;
+    mIsPaintNeeded = false;
+    if (mScreen)
+        compose();
+    if (mPaintObserver)
+        mPaintObserver();
+    return true;
+}
+
+void UWindowManager::compose()
+{
+    mScreen->clear();
+    if (!mIsEnabled)
+        return;
+    UPainter painter(*mScreen, mFont);
+    paintLayer(static_cast<int>(UWidget::Layer::Screen), painter);
+    for (const Popup& popup : mPopups) {
+        if (isShown(popup))
+            paintTree(*popup.widget, painter);
+    }
+    for (auto layer :
+        {UWidget::Layer::StatusMessage, UWidget::Layer::Volume, UWidget::Layer::SystemWindow, UWidget::Layer::KeyBar})
+        paintLayer(static_cast<int>(layer), painter);
+}
+
+void UWindowManager::paintLayer(int layer, UPainter& painter) const
+{
+    const UWidget* root = mRoot.get();
+    if (root && root->isVisible()) {
+        for (UWidget* child = root->firstChild(); child; child = child->nextSibling()) {
+            if (static_cast<int>(child->layer()) == layer)
+                paintTree(*child, painter);
+        }
+    }
+    for (UWidget* overlay : mOverlays) {
+        if (static_cast<int>(overlay->layer()) == layer)
+            paintTree(*overlay, painter);
+    }
+}
+
+void UWindowManager::paintTree(UWidget& widget, UPainter& painter) const
+{
+    if (!widget.isVisible())
+        return;
+    widget.paint(painter);
+    if (widget.paintsChildren())
+        return;
+    for (UWidget* child = widget.firstChild(); child; child = child->nextSibling())
+        paintTree(*child, painter);
+}
+
+void UWindowManager::widgetDies(UWidget* widget)
+{
+    std::erase_if(mPopups, [widget](const Popup& entry) { return entry.widget == widget; });
+    std::erase(mOverlays, widget);
+    for (Popup& popup : mPopups) {
+        // Another widget may get this address; the popup itself stands for a screen that never comes back.
+        if (popup.boundTo == widget)
+            popup.boundTo = popup.widget;
+    }
+    repaint();
+}
