@@ -115,6 +115,8 @@ std::vector<Rect> Rect::subtract(const std::vector<Rect>& others) const
     if (isEmpty() || std::any_of(others.begin(), others.end(), [this](const Rect& r) { return r.contain(*this); }))
         return pieces;
 
+    constexpr std::size_t piecesOfOneCut = 4;
+    pieces.reserve(piecesOfOneCut);
     pieces.push_back(*this);
     for (const Rect& taken : others) {
         for (auto piece = pieces.begin(); piece != pieces.end();) {

@@ -98,11 +98,10 @@ char32_t characterAt(const std::u16string& units, std::size_t& next)
     return isHighSurrogate(unit) || isLowSurrogate(unit) ? Replacement : unit;
 }
 
+/// Writes a character of more than a byte.
 void appendBytes(std::string& utf8, char32_t character)
 {
     const auto push = [&utf8](char32_t byte) { utf8.push_back(static_cast<char>(byte)); };
-    if (character < 0x80)
-        return push(character);
     if (character < 0x800) {
         push(0xC0 | character >> 6);
     } else {
@@ -136,8 +135,12 @@ std::string _template_UString<C>::toUTF8() const
 {
     std::string utf8;
     utf8.reserve(mUnits.size());
-    for (std::size_t next = 0; next < mUnits.size();)
-        appendBytes(utf8, characterAt(mUnits, next));
+    for (std::size_t next = 0; next < mUnits.size();) {
+        if (mUnits[next] < 0x80)
+            utf8.push_back(static_cast<char>(mUnits[next++]));
+        else
+            appendBytes(utf8, characterAt(mUnits, next));
+    }
     return utf8;
 }
 
