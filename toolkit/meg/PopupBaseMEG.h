@@ -45,7 +45,7 @@ public:
     /// Whether the list may run past the popup: only then are there marks for further rows, and moves.
     virtual void setListScrollable(bool scrollable);
 
-    /// Sets the icon that stands at the head of a line (0 or 1), in place of the line's own icons. It ends an
+    /// Sets the icon that stands at the head of a line (0 or 1), in place of the line's first one. It ends an
     /// animation.
     virtual void setStateIcon(unsigned short icon, int line);
 
@@ -69,7 +69,7 @@ protected:
     /// Told after the popup has come up or gone down, before its event.
     virtual void upChanged() { }
 
-    /// The icons at the head of line 0 or 1, as they are painted now: the state icon alone, or the line's two.
+    /// The icons at the head of line 0 or 1, as they are painted now; other lines have none.
     std::array<unsigned short, 2> iconsOfLine(int line) const;
 
     unsigned short line2Icon1() const { return mLineIcons[1][0]; }

@@ -86,9 +86,9 @@ protected:
         bool isEmpty() const { return prePrefix.isEmpty() && prefix.isEmpty() && text.isEmpty(); }
     };
 
-    /// Draws the icons of a line and a content behind them; the last column stays free for a mark. A line
-    /// without icons is indented by `indent` columns.
-    void paintLine(UPainter& painter, int glassLine, int iconLine, const Line& content, int indent = 0) const;
+    /// Draws the icons of line `iconLine` (see iconsOfLine()) on a line of the glass, and a content behind them,
+    /// in `columns` cells. Where there are no icons the content is indented.
+    void paintLine(UPainter& painter, int glassLine, int iconLine, const Line& content, int columns, int indent = 0);
 
     /// The columns that the icons of a line take.
     int iconColumns(int iconLine) const;
