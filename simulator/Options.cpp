@@ -12,15 +12,11 @@ constexpr const char* Description = "The telephone on a workstation.\n\n"
                                     "Keys in the terminal: the arrows, Enter (OK), 0 to 9, * and #, Backspace (left),\n"
                                     "Delete (clear), F1 to F8; q leaves.";
 
-constexpr const char* Version = "1.0";
-
-enum class Model { Plain, RX40, RX70 };
-
 struct Wishes {
     Options options;
     bool tour = false;
     double patienceInSeconds = 5;
-    Model model = Model::Plain;
+    std::string model = "plain";
 };
 
 void addModes(CLI::App& app, Wishes& wishes)
@@ -51,9 +47,8 @@ void addSettings(CLI::App& app, Wishes& wishes)
         ->check(CLI::Range(2, 3))
         ->capture_default_str()
         ->type_name("N");
-    const std::map<std::string, Model> models{{"plain", Model::Plain}, {"rx40", Model::RX40}, {"rx70", Model::RX70}};
-    app.add_option("--model", wishes.model, "The telephone: plain, rx40 or rx70")
-        ->transform(CLI::CheckedTransformer(models, CLI::ignore_case).description(""))
+    app.add_option("--model", wishes.model, "Of the telephone: plain, rx40 or rx70")
+        ->check(CLI::IsMember({"plain", "rx40", "rx70"}, CLI::ignore_case).description(""))
         ->type_name("NAME");
 }
 
@@ -72,7 +67,7 @@ Options parseOptions(int argc, const char* const* argv)
 {
     CLI::App app(Description);
     Wishes wishes;
-    app.set_version_flag("--version", std::string("phone ") + Version);
+    app.set_version_flag("--version", "phone " PHONE_VERSION);
     addModes(app, wishes);
     addSettings(app, wishes);
     try {
@@ -87,8 +82,8 @@ Options parseOptions(int argc, const char* const* argv)
     Options options = wishes.options;
     options.mode = options.help.empty() ? modeOf(wishes) : Options::Mode::Help;
     options.patience = std::chrono::milliseconds(static_cast<long>(wishes.patienceInSeconds * 1000));
-    options.hardware.isRX40 = wishes.model == Model::RX40;
-    options.hardware.isRX70 = wishes.model == Model::RX70;
+    options.hardware.isRX40 = CLI::detail::to_lower(wishes.model) == "rx40";
+    options.hardware.isRX70 = CLI::detail::to_lower(wishes.model) == "rx70";
     return options;
 }
 

@@ -1,6 +1,7 @@
 #include "SignalWatch.h"
 
 #include <csignal>
+#include <initializer_list>
 #include <sys/signalfd.h>
 #include <unistd.h>
 

@@ -7,6 +7,7 @@
 
 #include <UScreenWE1.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -16,6 +17,7 @@
 #include <sstream>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Simulator {
 
@@ -81,6 +83,7 @@ int telephoneKey(int key)
 TerminalView::TerminalView(Phone& phone, SignalWatch& signals)
     : mPhone(phone)
     , mSignals(signals)
+    , mInput(STDIN_FILENO)
     , mWakeDescriptor(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
 {
     mPhone.watch().setObserver([descriptor = mWakeDescriptor] {
@@ -102,7 +105,9 @@ void TerminalView::run()
     while (!mPhone.watch().hasEnded()) {
         draw();
         waitForSomething();
-        if (handleSignals(session) == Command::None && handleKeys() == Command::None)
+        const bool mustLeave = handleSignals(session) == Command::Leave || handleKeys() == Command::Leave;
+        const bool isGone = std::exchange(mIsHungUp, false);
+        if (!mustLeave && !isGone)
             continue;
         // The phonelet may be in an endless loop of its own: who wants to leave twice need not wait for it.
         if (mIsLeaving) {
@@ -117,7 +122,7 @@ void TerminalView::run()
 void TerminalView::waitForSomething()
 {
     std::array<pollfd, 3> sources{{
-        {STDIN_FILENO, POLLIN, 0},
+        {mInput, POLLIN, 0},
         {mWakeDescriptor, POLLIN, 0},
         {mSignals.descriptor(), POLLIN, 0},
     }};
@@ -125,9 +130,10 @@ void TerminalView::waitForSomething()
     poll(sources.data(), sources.size(), time ? static_cast<int>(time->count()) : -1);
     std::uint64_t count = 0;
     [[maybe_unused]] const ssize_t taken = read(mWakeDescriptor, &count, sizeof count);
-    // A terminal that has gone gives no keys any more.
-    if ((sources[0].revents & (POLLHUP | POLLERR)) != 0)
-        raise(SIGHUP);
+    if ((sources[0].revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) {
+        mIsHungUp = true;
+        mInput = -1; // poll() passes over it from now on
+    }
 }
 
 TerminalView::Command TerminalView::handleSignals(TerminalSession& session)
@@ -168,10 +174,10 @@ void TerminalView::draw() const
         drawTooSmall();
     } else {
         drawGlass(snapshot);
-        drawText(snapshot.text, glassHeight(snapshot));
         attrset(A_DIM);
-        write(LINES - 1, 1, mIsLeaving ? "Leaving ..." : Help, COLS - 2);
+        write(glassHeight(snapshot), 1, mIsLeaving ? "Leaving ..." : Help, COLS - 2);
         attrset(A_NORMAL);
+        drawText(snapshot.text, glassHeight(snapshot) + 1);
     }
     refresh();
 }
@@ -205,19 +211,19 @@ void TerminalView::drawGlass(const Snapshot& snapshot) const
     attrset(A_NORMAL);
 }
 
-void TerminalView::drawText(const std::string& text, int glassHeight) const
+void TerminalView::drawText(const std::string& text, int lineBelow) const
 {
     const bool isBeside = COLS >= PaneLeft + NarrowestPane;
     const int left = isBeside ? PaneLeft : 1;
-    int line = isBeside ? 0 : glassHeight;
+    int line = isBeside ? 0 : lineBelow;
     const int width = COLS - left;
-    if (line >= LINES - 2)
+    if (line >= LINES - 1)
         return;
     attrset(A_BOLD);
     write(line++, left, "Screen text", width);
     attrset(A_NORMAL);
     std::istringstream lines(text);
-    for (std::string row; line < LINES - 2 && std::getline(lines, row);) {
+    for (std::string row; line < LINES && std::getline(lines, row);) {
         if (!row.empty())
             write(line++, left, row, width);
     }

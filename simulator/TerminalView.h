@@ -34,13 +34,15 @@ private:
     void draw() const;
     void drawTooSmall() const;
     void drawGlass(const Snapshot& snapshot) const;
-    void drawText(const std::string& text, int glassHeight) const;
+    void drawText(const std::string& text, int lineBelow) const;
     int glassHeight(const Snapshot& snapshot) const;
 
     Phone& mPhone;
     SignalWatch& mSignals;
     KeyRepeat mRepeat;
+    int mInput;
     int mWakeDescriptor;
+    bool mIsHungUp = false; // the terminal has gone
     bool mIsLeaving = false;
 };
 
