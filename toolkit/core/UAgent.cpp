@@ -18,8 +18,12 @@ UAgent::~UAgent()
     }
     if (mIsInHub)
         ListenerHub::instance().remove(this);
-    while (mNodes)
-        mNodes->watch(nullptr);
+    while (LifeNode* node = mNodes) {
+        const auto died = node->mDied;
+        node->watch(nullptr);
+        if (died)
+            died(*node);
+    }
 }
 
 void UAgent::setListener(UAgent* listener)
@@ -83,7 +87,7 @@ void UAgent::unlinkFromListener()
     mListener = mNextEmitter = mPreviousEmitter = nullptr;
 }
 
-void LifeNode::watch(UAgent* agent)
+void LifeNode::watch(UAgent* agent, void (*died)(LifeNode&))
 {
     if (mAgent) {
         if (mPrevious)
@@ -94,6 +98,7 @@ void LifeNode::watch(UAgent* agent)
             mNext->mPrevious = mPrevious;
     }
     mAgent = agent;
+    mDied = died;
     mPrevious = nullptr;
     mNext = agent ? agent->mNodes : nullptr;
     if (mNext)

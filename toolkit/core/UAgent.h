@@ -73,7 +73,8 @@ public:
     LifeNode(const LifeNode&) = delete;
     LifeNode& operator=(const LifeNode&) = delete;
 
-    void watch(UAgent* agent);
+    /// Moves the note to another agent; null for none. `died` is called when that agent dies.
+    void watch(UAgent* agent, void (*died)(LifeNode&) = nullptr);
     bool isAlive() const { return mAgent != nullptr; }
     UAgent* agent() const { return mAgent; }
 
@@ -83,6 +84,7 @@ private:
     UAgent* mAgent = nullptr;
     LifeNode* mNext = nullptr;
     LifeNode* mPrevious = nullptr;
+    void (*mDied)(LifeNode&) = nullptr;
 };
 
 /// A pointer to an agent that becomes null when the agent dies.

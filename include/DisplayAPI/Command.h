@@ -1,0 +1,79 @@
+#pragma once
+
+#include <DisplayAPI/Export.h>
+
+#include <string>
+
+class Semaphore;
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+/// What an action of the user means to the application: a menu line, a soft key, or a notice of a screen.
+///
+/// Threads: may be made, read and destroyed on any thread. Destroying a command recalls its deliveries that
+/// have not begun.
+/// Ownership: a command belongs to whoever made it; screens hold plain pointers and ask exists(). The command
+/// owns its translation.
+class DISPLAYAPI_EXPORT Command {
+public:
+    /// What kind of action it is. The numbers are fixed.
+    enum Type : int {
+        Back = 1,
+        Select = 6,
+        Menu = 7, ///< Every MenuCommand, and some notices of forms and trees.
+        Right = 9,
+        Save = 11,
+        TabBarActive = 16,
+        TabBarInactive = 17,
+        TabBack = 18,
+        TabForward = 19,
+        DisplayChanged = 20,
+        Dismiss = 23,
+    };
+
+    Command(const std::string& label, Type type);
+
+    /// Takes the translation over; null is an empty label.
+    Command(TranslationInfo* translation, Type type);
+    virtual ~Command();
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+
+    Type getType() const { return mType; }
+    TranslationInfo* getTranslationInfo() const { return mTranslation; }
+    void setLabel(const std::string& label) { mLabel = label; }
+    std::string getLabel() const { return mLabel; }
+
+    /// The text for the screen: the complete translation (without prefix and suffix on hardware variant 1), or
+    /// the label. The lock of all commands is held while the translator runs.
+    std::string getText() const;
+
+    /// The translation alone, or the label; without the lock.
+    std::string getBasicText() const;
+
+    void setUseAlternativeDisplay(bool use) { mUseAlternativeDisplay = use; }
+    bool useAlternativeDisplay() const { return mUseAlternativeDisplay; }
+
+    /// True when labels, types, flags and translation pointers are equal.
+    bool isSameAs(const Command& other) const;
+
+    // All commands
+
+    /// True while the command lives; false for null. The pointer is not followed.
+    static bool exists(const Command* command);
+    static void addCommand(Command* command);
+    static void removeCommand(Command* command);
+
+    /// The lock of all commands; it may be taken again by its holder. Never destroyed.
+    static Semaphore& commandListMutex();
+    static void tidyup();
+
+private:
+    std::string mLabel;
+    Type mType;
+    bool mUseAlternativeDisplay = false;
+    TranslationInfo* mTranslation = nullptr;
+};
+
+}

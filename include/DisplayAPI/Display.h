@@ -1,0 +1,197 @@
+#pragma once
+
+#include <DisplayAPI/Export.h>
+#include <DisplayAPI/Icons.h>
+
+#include <Rect.h>
+#include <Types.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class Semaphore;
+class TranslationInfo;
+class TranslatorIfc;
+class VantoUApplication;
+
+namespace DisplayAPI {
+
+class CommandListener;
+class Displayable;
+class DisplayEventIfc;
+class DisplayPrivateIfc;
+class DisplayRequestEvent;
+
+/// The telephone's display: what an application opens first, and closes last.
+///
+/// The thread that makes the display is the GUI thread from then on. It names a translator, subscribes, makes
+/// screens, calls setCurrent() and show(), and runs exec() until somebody calls shutdown(). All other threads
+/// reach the display through the same object.
+///
+/// Threads: any, and each call returns after it has run on the GUI thread. The operations under "Without a
+/// request" run on the caller's thread: use them there before exec(), or on the GUI thread.
+/// Ownership: screens, subscriber and translator stay the application's; delete the screens, then the display.
+/// The other order is safe too.
+/// Errors: a null or deleted screen is ignored. A call that can't run any more, since exec() has ended, returns
+/// its default at once.
+class DISPLAYAPI_EXPORT Display {
+public:
+    Display(
+        std::string name, std::string locale, std::string dateFormat, std::string timeFormat, bool server, Rect* area);
+    Display(std::string name, std::string softwareType, std::string locale, std::string dateFormat,
+        std::string timeFormat, bool server, Rect* area);
+
+    /// The full form. `softwareType` is "Zelmark SIP", "Zelmark QVT" or another text; sub-variant, area and the
+    /// last flag have no effect.
+    Display(std::string applicationName, std::string name, PhysDefs::hardwareSubVariant subVariant,
+        std::string softwareType, std::string locale, std::string dateFormat, std::string timeFormat, bool server,
+        Rect* area, bool flag);
+    virtual ~Display();
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    /// Runs a request on the GUI thread; called by the event.
+    virtual void processDisplayRequest(DisplayRequestEvent* event);
+
+    // Function keys
+
+    virtual void setFPKLabel(int key, const std::string& label);
+    virtual void setFPKStatus(int key, int status);
+    virtual void shiftFPKLabel(int key);
+    virtual void shiftFPKBar(bool shifted);
+    virtual void setAlternateLabel(int key, const std::string& label);
+
+    /// Tells the screens whether a status message covers the first line.
+    virtual void setStatusMessageAvailable(bool available);
+    virtual void addKeyboardCommandListener(CommandListener* listener);
+    virtual void removeKeyboardCommandListener();
+    virtual void shiftChangeEventForCertainFPKey(bool shifted, int key);
+    virtual void callShowFPKBarMethodFromAdminPhonelet();
+
+    /// How far the ringer's volume bar goes; see setPreviewVolume().
+    virtual void setRingerVolumeBarLimit(int limit);
+
+    // Screens
+
+    /// Shows a screen: an ordinary one replaces all that was there, a popup lies on top. Null darkens the glass.
+    void setCurrent(Displayable* displayable);
+
+    /// Makes each current in turn, so that the last ends on top.
+    void setCurrent(const std::vector<Displayable*>& displayables);
+    Displayable* getCurrent();
+
+    /// The current screen, or nothing.
+    std::vector<Displayable*> getCurrentWidgets();
+    void show();
+    void hide();
+    void createServerDisplay(Displayable* displayable);
+    void setMaximised(bool maximised);
+
+    // Loop
+
+    /// Runs the event loop on the GUI thread, until shutdown().
+    void exec();
+
+    /// Ends the loop after the event in hand.
+    void shutdown();
+
+    // Screen text
+
+    /// All screens, whatever covers what.
+    std::string serialise();
+
+    /// What can be seen in the rectangles. `statusStr` names a status whose lines are asked for; usually empty.
+    std::string serialiseByRect(const std::vector<Rect>& rects, std::string statusStr);
+
+    /// The rectangles of the screens on the stack, bottom first. Off the GUI thread they are a copy that stays as
+    /// it is until this thread's next call; on the GUI thread they are rewritten by the next call. Null only
+    /// when the call could not run.
+    std::vector<Rect>* getDisplayedRects();
+
+    // Locale and formats
+
+    void localeChanged(std::string locale);
+    void dateFormatChanged(std::string format);
+    void timeFormatChanged(std::string format);
+    void setSoftwareType(const std::string& softwareType);
+
+    // System window
+
+    void setSystemWindowSize(int lines);
+    void setSystemWindowText(int line, std::string text);
+    void setSystemWindowTop(int top);
+    void showTimeInSystemWindow(bool shown);
+    void setTimeInSystemWindow(int hours, int minutes, int seconds);
+
+    /// A call's time as hh:mm:ss; a longer text is cut at 8 characters.
+    void setTimer(std::string time);
+    void startTimer(std::string time);
+    void stopTimer();
+    void showTimer();
+    void hideTimer(bool hidden);
+    void pauseTimer();
+
+    // Status, volume, clipboard
+
+    /// Shows a message over the first line; an empty text takes it away. The duration is in seconds.
+    void setStatusMessage(const std::string& text, unsigned int duration);
+
+    /// Shows the volume bar of a device (0 handset, 1 headset, 2 speaker, 3 ringer) with value, minimum and
+    /// maximum.
+    void setPreviewVolume(
+        unsigned int device, unsigned int value, unsigned int minimum, unsigned int maximum, unsigned int variant);
+    void copy(const std::string& text);
+    std::string paste();
+
+    // Without a request
+
+    /// The fixed area of the display, or null if there is none.
+    Rect* getDisplayArea();
+
+    /// Threads: any, for these two.
+    void subscribe(DisplayEventIfc* listener);
+    void unSubscribe();
+    void setTranslator(TranslatorIfc* translator);
+    void setAndUpdateHeadSetIcon(bool on);
+    void setAndUpdateSpeakerIcon(bool on);
+    void setAndUpdateMuteIcon(bool on);
+    void setSliderVisibility(bool visible) { mIsSliderVisible = visible; }
+    bool getSliderVisibilityState() const { return mIsSliderVisible; }
+    int getEditingStatus();
+
+    // Without effect on this telephone
+
+    void showNotification(TranslationInfo* text, Icons::IconType icon, bool first, int duration, bool second);
+    void showNotification(std::string text, Icons::IconType icon, bool first, int duration, bool second);
+    bool hasSoftKeyBar() const { return false; }
+    bool isCurrentForKeyEvents(Displayable*) const { return true; }
+    bool isVisible() const { return true; }
+    void enableKeypadEventSending();
+    void disableKeypadEventSending();
+    void setPopupMode(bool popup);
+    void skinChanged(std::string skin);
+    void timeHasChanged(std::string time);
+    void dateHasChanged(std::string date);
+    void keyboardLayoutChanged(std::string layout);
+
+protected:
+    void init(DisplayPrivateIfc* displayPrivate);
+
+    /// Hands the request over and returns after it has run. False if it will never run.
+    bool postEvent(DisplayRequestEvent* event);
+
+private:
+    void runRequest(DisplayRequestEvent& event);
+    std::string fetchText(DisplayRequestEvent* event);
+
+    VantoUApplication* mApplication = nullptr; // whose queue this display closes
+    std::unique_ptr<DisplayPrivateIfc> mPrivate;
+    std::string mSerialisedText;
+    std::unique_ptr<Semaphore> mSerialisedTextLock;
+    std::string mDisplayName;
+    std::string mSoftwareType;
+    bool mIsSliderVisible = false;
+};
+
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace DisplayAPI {
+
+/// The subscriber to what is on the screen.
+///
+/// Threads: called on the GUI thread, inside the operation that made the change; it may read the screen text
+/// there. Nobody deletes through this interface.
+class DisplayEventIfc {
+public:
+    /// Something that can be seen has changed. The text is empty.
+    virtual void displayChanged(std::string text) = 0;
+
+protected:
+    ~DisplayEventIfc() = default;
+};
+
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <DisplayAPI/Widget.h>
+
+#include <memory>
+
+namespace DisplayAPI {
+
+class DisplayablePrivateIfc;
+class Item;
+class ItemStateListener;
+template <typename T>
+class ListenerList;
+
+/// The base of every screen. A Displayable enters the registry of living screens when it is made, and the
+/// display asks that registry before it uses a pointer.
+///
+/// Ownership: the application owns its screens. A screen may be deleted while it is shown: the display forgets
+/// it. Deleting it recalls the pending deliveries that name it.
+class DISPLAYAPI_EXPORT Displayable : public Widget {
+public:
+    ~Displayable() override;
+    void processGuiRequest(GuiRequestEvent& event) override;
+
+    /// The half on the GUI thread; null until it has been made.
+    virtual DisplayablePrivateIfc* getPrivateImpl() = 0;
+
+    // Item state
+
+    /// Adds a listener; one that is added twice is told twice.
+    void addItemStateListener(ItemStateListener* listener);
+
+    /// Posts a change of the item to every listener, in order.
+    void callListeners(Item* item);
+
+    // Soft keys: this telephone has none
+
+    void useSoftKeys();
+    void doNotUseSoftKeys();
+    void doNotUseSoftKeysForContent();
+    void useSoftKeysBasedOnCommands();
+
+protected:
+    Displayable();
+
+    /// The deletion of a screen's private on the GUI thread: retires the handle and takes it out of the
+    /// registry and off the stack. What is left is to delete the private.
+    void retireScreen();
+
+private:
+    std::unique_ptr<ListenerList<ItemStateListener>> mItemStateListeners;
+};
+
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <DisplayAPI/DisplayablePrivateIfc.h>
+#include <DisplayAPI/Export.h>
+#include <DisplayAPI/ListenerList.h>
+
+#include <atomic>
+
+class TranslatorIfc;
+
+namespace DisplayAPI {
+
+class Command;
+class Displayable;
+
+/// What the GUI-thread halves of all screens share: the display that they stand on, and the command listeners.
+/// Threads: GUI thread only, but for the listeners.
+class DISPLAYAPI_EXPORT DisplayablePrivate : public DisplayablePrivateIfc {
+public:
+    bool hideOldWidgetOnFocusGained() override { return true; }
+    int widgetPosition() override { return 0; }
+    void connectDisplayChangedSignal(DisplayPrivateIfc* display) override { mDisplay = display; }
+
+    /// The text of a screen that has none of its own.
+    std::string serialise() override;
+
+    /// The whole text, whatever the rectangles are.
+    std::string serialise(const std::vector<Rect>& rects) override;
+
+    void widgetDismissed(DisplayablePrivate* displayable) override;
+    void enable(bool) override { }
+    void addCommandListener(CommandListener* listener) override { mCommandListeners.addOnce(listener); }
+    void removeCommandListener(CommandListener* listener) override { mCommandListeners.remove(listener); }
+    void clearCommandListeners() override { mCommandListeners.clear(); }
+    void join(DisplayablePrivate* other) override;
+    void disjoin() override { mDisplay = nullptr; }
+    bool hasCaption() override { return false; }
+    void setSysWindowSize(int) override { }
+    void setSysWindowText(std::string, int) override { }
+    bool hasSystemWindow() override { return false; }
+
+    /// Tells the display that something visible has changed; without effect on a screen that stands on none.
+    void generateDisplayChangedEvent();
+
+    /// Queues the command for every listener, in order.
+    void postCommand(Command* command, Displayable* displayable);
+
+    /// The display that the screen was last put on; null before, and after that display's end.
+    DisplayPrivateIfc* display() const { return mDisplay; }
+
+    /// The application's translator, set by Display::setTranslator(); null until then. Threads: any.
+    static std::atomic<TranslatorIfc*> commonTranslator;
+
+protected:
+    ListenerList<CommandListener> mCommandListeners;
+
+private:
+    DisplayPrivateIfc* mDisplay = nullptr;
+};
+
+}

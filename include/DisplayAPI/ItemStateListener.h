@@ -1,0 +1,32 @@
+#pragma once
+
+#include <DisplayAPI/Export.h>
+
+namespace DisplayAPI {
+
+class Item;
+
+/// Implemented by the application to hear of changed fields.
+///
+/// Threads and ownership are those of CommandListener. A change that is posted while the same one still waits
+/// is delivered once.
+class DISPLAYAPI_EXPORT ItemStateListener {
+public:
+    ItemStateListener();
+    ItemStateListener(const ItemStateListener& other);
+    ItemStateListener& operator=(const ItemStateListener&) = default;
+    virtual ~ItemStateListener();
+
+    virtual void itemStateChanged(Item* item) = 0;
+
+    /// Queues a delivery.
+    void postItemStateChange(Item* item);
+
+    /// Recalls the deliveries of the item that have not begun; null matches every item.
+    void retrievePendingItemStateChange(Item* item);
+
+    /// True while the listener lives. The pointer is not followed.
+    static bool exists(const ItemStateListener* listener);
+};
+
+}

@@ -1,0 +1,51 @@
+#include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/ItemStateListener.h>
+#include <DisplayAPI/ListenerList.h>
+
+#include "CommandExecutor.h"
+#include "DisplayPrivate.h"
+#include "ExistingDisplayables.h"
+
+namespace DisplayAPI {
+
+Displayable::Displayable()
+    : mItemStateListeners(std::make_unique<ListenerList<ItemStateListener>>())
+{
+    mName = "Displayable with no name";
+    registerDisplayable(this);
+}
+
+Displayable::~Displayable()
+{
+    CommandExecutor::retrieveCommand(nullptr, nullptr, this);
+    unregisterDisplayable(this);
+}
+
+void Displayable::processGuiRequest(GuiRequestEvent&) { }
+
+void Displayable::addItemStateListener(ItemStateListener* listener)
+{
+    mItemStateListeners->add(listener);
+}
+
+void Displayable::callListeners(Item* item)
+{
+    mItemStateListeners->notify(&ItemStateListener::postItemStateChange, item);
+}
+
+void Displayable::useSoftKeys() { }
+
+void Displayable::doNotUseSoftKeys() { }
+
+void Displayable::doNotUseSoftKeysForContent() { }
+
+void Displayable::useSoftKeysBasedOnCommands() { }
+
+void Displayable::retireScreen()
+{
+    retire();
+    unregisterDisplayable(this);
+    DisplayPrivate::forgetEverywhere(this);
+}
+
+}

@@ -1,0 +1,110 @@
+#include <DisplayAPI/GuiRequestEvent.h>
+#include <DisplayAPI/Widget.h>
+
+#include "PostToApplication.h"
+#include "WidgetImpl.h"
+
+#include <Threadable.h>
+
+#include <memory>
+
+namespace DisplayAPI {
+
+std::atomic<unsigned int> WidgetImpl::m_GuiThreadId = 0;
+
+Widget::Widget()
+    : mImpl(new WidgetImpl)
+{
+}
+
+Widget::~Widget()
+{
+    mImpl->retire();
+    mImpl->release();
+}
+
+bool Widget::isGuiThread()
+{
+    const unsigned int id = WidgetImpl::m_GuiThreadId.load(std::memory_order_relaxed);
+    return id == 0 || id == Threadable::currentThreadId();
+}
+
+void Widget::setGuiThreadId()
+{
+    WidgetImpl::m_GuiThreadId = Threadable::currentThreadId();
+}
+
+void Widget::setGuiThreadId(unsigned int id)
+{
+    WidgetImpl::m_GuiThreadId = id;
+}
+
+void Widget::postEvent(GuiRequestEvent* event) const
+{
+    WidgetImplUse use(*mImpl);
+    Semaphore& lock = mImpl->lock;
+    lock.take(-1);
+    if (!event)
+        event = new GuiRequestEvent(const_cast<Widget*>(this), -1);
+
+    if (Wait* callersWait = event->waitCondition()) {
+        postToApplication(event);
+        lock.give();
+        callersWait->wait();
+        return;
+    }
+    Wait wait;
+    event->setWaitCondition(&wait);
+    postToApplication(event);
+    wait.wait();
+    lock.give();
+}
+
+void Widget::postEvent(int type) const
+{
+    postEvent(new GuiRequestEvent(const_cast<Widget*>(this), type));
+}
+
+void Widget::postEventAsync(GuiRequestEvent* event) const
+{
+    WidgetImplUse use(*mImpl);
+    Semaphore& lock = mImpl->lock;
+    lock.take(-1);
+    if (!event)
+        event = new GuiRequestEvent(const_cast<Widget*>(this), -1);
+    postToApplication(event);
+    lock.give();
+}
+
+void Widget::postEventAsync(int type) const
+{
+    postEventAsync(new GuiRequestEvent(const_cast<Widget*>(this), type));
+}
+
+void Widget::postEventHelper(bool async, GuiRequestEvent* event)
+{
+    if (isGuiThread()) {
+        std::unique_ptr<GuiRequestEvent> owned(event);
+        processGuiRequest(*event);
+    } else if (async) {
+        postEventAsync(event);
+    } else {
+        postEvent(event);
+    }
+}
+
+void Widget::signalComplete(GuiRequestEvent& event)
+{
+    event.signalComplete();
+}
+
+void Widget::purgeOwnMessage(int) { }
+
+void Widget::purgeOwnMessage(std::set<int>*) { }
+
+void Widget::retire()
+{
+    mImpl->retire();
+}
+
+}
