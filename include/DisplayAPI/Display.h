@@ -13,6 +13,7 @@
 class Semaphore;
 class TranslationInfo;
 class TranslatorIfc;
+class VantoUApplication;
 
 namespace DisplayAPI {
 
@@ -181,12 +182,10 @@ protected:
     bool postEvent(DisplayRequestEvent* event);
 
 private:
-    bool processScreenRequest(DisplayRequestEvent& event);
-    bool processSystemWindowRequest(DisplayRequestEvent& event);
-    void processServiceRequest(DisplayRequestEvent& event);
+    void runRequest(DisplayRequestEvent& event);
     std::string fetchText(DisplayRequestEvent* event);
-    void storeText(std::string text);
 
+    VantoUApplication* mApplication = nullptr; // whose queue this display closes
     std::unique_ptr<DisplayPrivateIfc> mPrivate;
     std::string mSerialisedText;
     std::unique_ptr<Semaphore> mSerialisedTextLock;

@@ -106,6 +106,9 @@ public:
     Displayable** getCurrentDisplayable() const { return mCurrentDisplayable; }
     void setDisplayedRectsReturnValue(std::vector<Rect>** result) { mDisplayedRects = result; }
 
+    /// A vector of the caller's own that the rectangles are copied into; the result then points at it.
+    void setDisplayedRectsCopy(std::vector<Rect>* copy) { mRectsCopy = copy; }
+
     /// Writes the rectangles through the result, if there is one.
     void setDisplayedRects(std::vector<Rect>* rects);
     void setStringReturnValue(std::string* result) { mStringResult = result; }
@@ -124,6 +127,7 @@ private:
     Semaphore* mSemaphore = nullptr;
     Displayable** mCurrentDisplayable = nullptr;
     std::vector<Rect>** mDisplayedRects = nullptr;
+    std::vector<Rect>* mRectsCopy = nullptr;
     std::string* mStringResult = nullptr;
     const std::vector<Rect>* mSerialisableRects = nullptr;
     int mInts[5] = {};

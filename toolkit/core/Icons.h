@@ -11,6 +11,21 @@ namespace Icons {
 /// An icon of 10 x 10 pixels, drawn in two cells; bit 9 of a row is its leftmost pixel.
 using Picture = std::array<std::uint16_t, 10>;
 
+/// Icons that the widgets show by themselves; the library hands over numbers below these.
+enum Number : std::uint16_t {
+    ConnectedCall = 200,
+    HeldCall,
+    KeyLock,
+    Maintenance,
+    Usb,
+    RingerOff,
+    Person,
+    Emergency,
+    RingerA,
+    RingerB,
+    MobileTelephone,
+};
+
 /// The picture of an icon number, or null for 0 and for numbers without a picture.
 TOOLKIT_EXPORT const Picture* picture(std::uint16_t number);
 

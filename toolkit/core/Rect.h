@@ -26,7 +26,7 @@ public:
     int height() const { return mBottom - mTop + 1; }
     bool isEmpty() const { return mRight < mLeft || mBottom < mTop; }
 
-    /// True when the other rectangle lies wholly inside this one.
+    /// True when the other rectangle lies wholly inside this one. An empty one lies in none.
     bool contains(const URect& other) const;
 
     bool operator==(const URect&) const = default;
@@ -61,7 +61,7 @@ public:
     int height() const { return mHeight; }
     bool isEmpty() const { return mWidth <= 0 || mHeight <= 0; }
 
-    /// True when the other rectangle lies wholly inside this one.
+    /// True when the other rectangle lies wholly inside this one. An empty one lies in none.
     bool contain(const Rect& other) const;
 
     /// True when the two share at least one pixel.

@@ -39,7 +39,9 @@ private:
 class TOOLKIT_EXPORT Threader {
 public:
     /// Runs `job` on a new joinable POSIX thread. `name` may be empty; `priority` goes through
-    /// getThreadPriorityForPlatform(); `stackSize` 0 means the platform's own.
-    /// Returns false if the platform gives no thread; run() is then not called.
+    /// getThreadPriorityForPlatform() and counts where the scheduling policy of the caller knows it;
+    /// `stackSize` 0 means the platform's own. run() may detach its thread.
+    /// Returns false for a job that was started before, or if the platform gives no thread; run() is then not
+    /// called.
     bool start(Threadable* job, const std::string& name, int priority, int stackSize);
 };

@@ -33,7 +33,10 @@ public:
     int find(const _template_UString& text, std::size_t start = 0) const;
 
     void append(C unit) { mUnits.push_back(static_cast<char16_t>(unit)); }
+
+    /// Takes off the last character: a surrogate pair goes as one.
     void removeLast();
+
     void clear() { mUnits.clear(); }
 
     _template_UString& operator+=(const _template_UString& other);

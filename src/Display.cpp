@@ -1,0 +1,586 @@
+#include <DisplayAPI/Display.h>
+#include <DisplayAPI/DisplayPrivateIfc.h>
+#include <DisplayAPI/DisplayRequestEvent.h>
+#include <DisplayAPI/Widget.h>
+
+#include "DisplayPrivate.h"
+#include "PostToApplication.h"
+
+#include <Semaphore.h>
+
+#include <cstdlib>
+
+namespace DisplayAPI {
+
+namespace {
+
+using Event = DisplayRequestEvent;
+
+constexpr std::size_t TimeLength = 8; // hh:mm:ss
+
+/// The number in two characters of a time; 0 where they are missing or no digits.
+int twoDigits(const std::string& time, std::size_t position)
+{
+    return position < time.size() ? std::atoi(time.substr(position, 2).c_str()) : 0;
+}
+
+}
+
+Display::Display(
+    std::string name, std::string locale, std::string dateFormat, std::string timeFormat, bool server, Rect* area)
+    : Display("", std::move(name), PhysDefs::hardwareSubVariant{}, "softwareUnknown", std::move(locale),
+        std::move(dateFormat), std::move(timeFormat), server, area, false)
+{
+}
+
+Display::Display(std::string name, std::string softwareType, std::string locale, std::string dateFormat,
+    std::string timeFormat, bool server, Rect* area)
+    : Display("", std::move(name), PhysDefs::hardwareSubVariant{}, std::move(softwareType), std::move(locale),
+        std::move(dateFormat), std::move(timeFormat), server, area, false)
+{
+}
+
+Display::Display(std::string applicationName, std::string name, PhysDefs::hardwareSubVariant, std::string softwareType,
+    std::string locale, std::string dateFormat, std::string timeFormat, bool server, Rect* area, bool)
+    : mDisplayName(name)
+    , mSoftwareType(softwareType)
+{
+    init(new DisplayPrivate(std::move(applicationName), server, std::move(name), std::move(softwareType),
+        std::move(locale), std::move(dateFormat), std::move(timeFormat), area, nullptr));
+    Widget::setGuiThreadId();
+}
+
+Display::~Display()
+{
+    // First let everybody go who still waits for this display.
+    if (mApplication && mApplication == VantoUApplication::getCurrentApplication())
+        mApplication->closeEventQueue();
+}
+
+void Display::init(DisplayPrivateIfc* displayPrivate)
+{
+    mApplication = VantoUApplication::getCurrentApplication();
+    mPrivate.reset(displayPrivate);
+    mSerialisedTextLock = std::make_unique<Semaphore>(Semaphore::AVAILABLE, 1);
+}
+
+bool Display::postEvent(DisplayRequestEvent* event)
+{
+    Semaphore completion(Semaphore::NOT_AVAILABLE, 1);
+    event->setSemaphore(&completion);
+    postToApplication(event);
+    return completion.take(-1);
+}
+
+// Screens
+
+void Display::setCurrent(Displayable* displayable)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setCurrent(displayable);
+    else
+        postEvent(new Event(this, Event::SetCurrent, displayable));
+}
+
+void Display::setCurrent(const std::vector<Displayable*>& displayables)
+{
+    for (Displayable* displayable : displayables)
+        setCurrent(displayable);
+}
+
+Displayable* Display::getCurrent()
+{
+    if (Widget::isGuiThread())
+        return mPrivate->getCurrent();
+    Displayable* current = nullptr;
+    auto* event = new Event(this, Event::GetCurrent);
+    event->setCurrentDisplayable(&current);
+    postEvent(event);
+    return current;
+}
+
+std::vector<Displayable*> Display::getCurrentWidgets()
+{
+    if (Displayable* current = getCurrent())
+        return {current};
+    return {};
+}
+
+void Display::show()
+{
+    if (Widget::isGuiThread())
+        mPrivate->show();
+    else
+        postEvent(new Event(this, Event::Show));
+}
+
+void Display::hide()
+{
+    if (Widget::isGuiThread())
+        mPrivate->hide();
+    else
+        postEvent(new Event(this, Event::Hide));
+}
+
+void Display::createServerDisplay(Displayable* displayable)
+{
+    if (Widget::isGuiThread())
+        mPrivate->createServerDisplay(displayable);
+    else
+        postEvent(new Event(this, Event::CreateServerDisplay, displayable));
+}
+
+void Display::setMaximised(bool maximised)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setMaximised(maximised);
+    else
+        postEvent(new Event(this, Event::SetMaximised, maximised));
+}
+
+// Loop
+
+void Display::exec()
+{
+    mPrivate->exec();
+}
+
+void Display::shutdown()
+{
+    if (Widget::isGuiThread())
+        mPrivate->shutdown();
+    else
+        postEvent(new Event(this, Event::Shutdown));
+}
+
+// Screen text
+
+std::string Display::serialise()
+{
+    if (Widget::isGuiThread())
+        return mPrivate->serialise();
+    return fetchText(new Event(this, Event::Serialise));
+}
+
+std::string Display::serialiseByRect(const std::vector<Rect>& rects, std::string statusStr)
+{
+    if (Widget::isGuiThread())
+        return mPrivate->serialiseByRect(rects, std::move(statusStr));
+    return fetchText(new Event(this, Event::SerialiseByRect, rects, statusStr));
+}
+
+std::string Display::fetchText(DisplayRequestEvent* event)
+{
+    if (!postEvent(event))
+        return {};
+    // The handler has taken the lock for this thread, so that no other text replaces this one.
+    struct Guard {
+        ~Guard() { lock.give(); }
+        Semaphore& lock;
+    } guard{*mSerialisedTextLock};
+    return mSerialisedText;
+}
+
+std::vector<Rect>* Display::getDisplayedRects()
+{
+    if (Widget::isGuiThread())
+        return mPrivate->getDisplayedRects();
+    static thread_local std::vector<Rect> copy;
+    std::vector<Rect>* rects = nullptr;
+    auto* event = new Event(this, Event::GetDisplayedRects);
+    event->setDisplayedRectsCopy(&copy);
+    event->setDisplayedRectsReturnValue(&rects);
+    postEvent(event);
+    return rects;
+}
+
+// Locale and formats
+
+void Display::localeChanged(std::string locale)
+{
+    if (Widget::isGuiThread())
+        mPrivate->localeChanged(std::move(locale));
+    else
+        postEvent(new Event(this, Event::LocaleChanged, locale));
+}
+
+void Display::dateFormatChanged(std::string format)
+{
+    if (Widget::isGuiThread())
+        mPrivate->dateFormatChanged(std::move(format));
+    else
+        postEvent(new Event(this, Event::DateFormatChanged, format));
+}
+
+void Display::timeFormatChanged(std::string format)
+{
+    if (Widget::isGuiThread())
+        mPrivate->timeFormatChanged(std::move(format));
+    else
+        postEvent(new Event(this, Event::TimeFormatChanged, format));
+}
+
+void Display::setSoftwareType(const std::string& softwareType)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setSoftwareType(softwareType);
+    else
+        postEvent(new Event(this, Event::SetSoftwareType, softwareType));
+}
+
+// System window
+
+void Display::setSystemWindowSize(int lines)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setSystemWindowSize(lines);
+    else
+        postEvent(new Event(this, Event::SetSystemWindowSize, lines));
+}
+
+void Display::setSystemWindowText(int line, std::string text)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setSystemWindowText(line, std::move(text));
+    else
+        postEvent(new Event(this, Event::SetSystemWindowText, line, text));
+}
+
+void Display::setSystemWindowTop(int top)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setSystemWindowTop(top);
+    else
+        postEvent(new Event(this, Event::SetSystemWindowTop, top));
+}
+
+void Display::showTimeInSystemWindow(bool shown)
+{
+    if (Widget::isGuiThread())
+        mPrivate->showTimeInSystemWindow(shown);
+    else
+        postEvent(new Event(this, Event::ShowTimeInSystemWindow, shown));
+}
+
+void Display::setTimeInSystemWindow(int hours, int minutes, int seconds)
+{
+    if (Widget::isGuiThread())
+        return mPrivate->setTimeInSystemWindow(hours, minutes, seconds);
+    // The request carries the time as text. Numbers over two digits don't fit and are cut.
+    char buffer[TimeLength + 1];
+    snprintf(buffer, sizeof buffer, "%02d:%02d:%02d", hours, minutes, seconds);
+    postEvent(new Event(this, Event::SetTimeInSystemWindow, std::string(buffer)));
+}
+
+void Display::setTimer(std::string time)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setTimer(std::move(time));
+    else
+        postEvent(new Event(this, Event::SetTimer, time.substr(0, TimeLength)));
+}
+
+void Display::startTimer(std::string time)
+{
+    if (Widget::isGuiThread())
+        mPrivate->startTimer(std::move(time));
+    else
+        postEvent(new Event(this, Event::StartTimer, time.substr(0, TimeLength)));
+}
+
+void Display::stopTimer()
+{
+    if (Widget::isGuiThread())
+        mPrivate->stopTimer();
+    else
+        postEvent(new Event(this, Event::StopTimer));
+}
+
+void Display::showTimer()
+{
+    if (Widget::isGuiThread())
+        mPrivate->showTimer();
+    else
+        postEvent(new Event(this, Event::ShowTimer));
+}
+
+void Display::hideTimer(bool hidden)
+{
+    if (Widget::isGuiThread())
+        mPrivate->hideTimer(hidden);
+    else
+        postEvent(new Event(this, Event::HideTimer, hidden));
+}
+
+void Display::pauseTimer()
+{
+    if (Widget::isGuiThread())
+        mPrivate->pauseTimer();
+    else
+        postEvent(new Event(this, Event::PauseTimer));
+}
+
+// Status, volume, clipboard
+
+void Display::setStatusMessage(const std::string& text, unsigned int duration)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setStatusMessage(text, duration);
+    else
+        postEvent(new Event(this, Event::SetStatusMessage, static_cast<int>(duration), text));
+}
+
+void Display::setStatusMessageAvailable(bool available)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setStatusMessageAvailable(available);
+    else
+        postEvent(new Event(this, Event::SetStatusMessageAvailable, available));
+}
+
+void Display::setPreviewVolume(
+    unsigned int device, unsigned int value, unsigned int minimum, unsigned int maximum, unsigned int variant)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setPreviewVolume(device, value, minimum, maximum, variant);
+    else
+        postEvent(new Event(this, Event::SetPreviewVolume, device, value, minimum, maximum, variant));
+}
+
+void Display::setRingerVolumeBarLimit(int limit)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setRingerVolumeBarLimit(limit);
+    else
+        postEvent(new Event(this, Event::SetRingerVolumeBarLimit, limit));
+}
+
+void Display::copy(const std::string& text)
+{
+    if (Widget::isGuiThread())
+        mPrivate->copy(text);
+    else
+        postEvent(new Event(this, Event::Copy, text));
+}
+
+std::string Display::paste()
+{
+    if (Widget::isGuiThread())
+        return mPrivate->paste();
+    std::string text;
+    auto* event = new Event(this, Event::Paste);
+    event->setStringReturnValue(&text);
+    postEvent(event);
+    return text;
+}
+
+// Function keys
+
+void Display::setFPKLabel(int key, const std::string& label)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setFPKLabel(key, label);
+    else
+        postEvent(new Event(this, Event::SetFPKLabel, key, label));
+}
+
+void Display::setFPKStatus(int key, int status)
+{
+    if (Widget::isGuiThread())
+        return mPrivate->setFPKStatus(key, status);
+    postEvent(
+        new Event(this, Event::SetFPKStatus, static_cast<unsigned int>(key), static_cast<unsigned int>(status), 0U));
+}
+
+void Display::shiftFPKLabel(int key)
+{
+    if (Widget::isGuiThread())
+        mPrivate->shiftFPKLabel(key);
+    else
+        postEvent(new Event(this, Event::ShiftFPKLabel, key));
+}
+
+void Display::shiftFPKBar(bool shifted)
+{
+    if (Widget::isGuiThread())
+        mPrivate->shiftFPKBar(shifted);
+    else
+        postEvent(new Event(this, Event::ShiftFPKBar, shifted));
+}
+
+void Display::setAlternateLabel(int key, const std::string& label)
+{
+    if (Widget::isGuiThread())
+        mPrivate->setAlternateLabel(key, label);
+    else
+        postEvent(new Event(this, Event::SetAlternateLabel, key, label));
+}
+
+void Display::shiftChangeEventForCertainFPKey(bool shifted, int key)
+{
+    if (Widget::isGuiThread())
+        mPrivate->shiftChangeEventForCertainFPKey(shifted, key);
+    else
+        postEvent(new Event(this, Event::ShiftChangeEventForCertainFPKey, shifted, key));
+}
+
+void Display::callShowFPKBarMethodFromAdminPhonelet()
+{
+    if (Widget::isGuiThread())
+        mPrivate->callShowFPKBarMethodFromAdminPhonelet();
+    else
+        postEvent(new Event(this, Event::CallShowFPKBarMethodFromAdminPhonelet));
+}
+
+// The road of the requests
+
+void Display::processDisplayRequest(DisplayRequestEvent* event)
+{
+    runRequest(*event);
+    event->requestCompleted();
+}
+
+void Display::runRequest(DisplayRequestEvent& event)
+{
+    const std::string& text = event.getStringParam();
+    const bool flag = event.getBoolParam();
+    const int number = event.getIntParam();
+    auto unsignedAt = [](int value) { return static_cast<unsigned int>(value); };
+
+    switch (event.getType()) {
+    case Event::Hide: hide(); break;
+    case Event::Show: show(); break;
+    case Event::SetCurrent: setCurrent(event.getDisplayable()); break;
+    case Event::GetCurrent:
+        if (Displayable** result = event.getCurrentDisplayable())
+            *result = getCurrent();
+        break;
+    case Event::Shutdown: shutdown(); break;
+    case Event::LocaleChanged: localeChanged(text); break;
+    case Event::DateFormatChanged: dateFormatChanged(text); break;
+    case Event::TimeFormatChanged: timeFormatChanged(text); break;
+    case Event::Serialise:
+        // Given back by the caller, once it has its copy.
+        mSerialisedTextLock->take(-1);
+        mSerialisedText = serialise();
+        break;
+    case Event::CreateServerDisplay: createServerDisplay(event.getDisplayable()); break;
+    case Event::SetMaximised: setMaximised(flag); break;
+    case Event::GetDisplayedRects: event.setDisplayedRects(getDisplayedRects()); break;
+    case Event::SerialiseByRect:
+        mSerialisedTextLock->take(-1);
+        mSerialisedText
+            = serialiseByRect(event.getSerialisableRects() ? *event.getSerialisableRects() : std::vector<Rect>(), text);
+        break;
+    case Event::Unassigned: break;
+    case Event::SetSystemWindowSize: setSystemWindowSize(number); break;
+    case Event::SetSystemWindowText: setSystemWindowText(number, text); break;
+    case Event::SetSystemWindowTop: setSystemWindowTop(number); break;
+    case Event::ShowTimeInSystemWindow: showTimeInSystemWindow(flag); break;
+    case Event::SetTimeInSystemWindow:
+        mPrivate->setTimeInSystemWindow(twoDigits(text, 0), twoDigits(text, 3), twoDigits(text, 6));
+        break;
+    case Event::SetTimer: mPrivate->setTimer(text); break;
+    case Event::StopTimer: mPrivate->stopTimer(); break;
+    case Event::SetSoftwareType: mPrivate->setSoftwareType(text); break;
+    case Event::SetStatusMessage: mPrivate->setStatusMessage(text, unsignedAt(number)); break;
+    case Event::Copy: copy(text); break;
+    case Event::Paste:
+        if (std::string* result = event.getStringReturnValue())
+            *result = paste();
+        break;
+    case Event::StartTimer: mPrivate->startTimer(text); break;
+    case Event::ShowTimer: mPrivate->showTimer(); break;
+    case Event::HideTimer: mPrivate->hideTimer(flag); break;
+    case Event::PauseTimer: mPrivate->pauseTimer(); break;
+    case Event::SetPreviewVolume:
+        mPrivate->setPreviewVolume(unsignedAt(number), unsignedAt(event.getIntParam2()),
+            unsignedAt(event.getIntParam3()), unsignedAt(event.getIntParam4()), unsignedAt(event.getIntParam5()));
+        break;
+    case Event::SetFPKLabel: mPrivate->setFPKLabel(number, text); break;
+    case Event::SetFPKStatus: mPrivate->setFPKStatus(number, event.getIntParam2()); break;
+    case Event::ShiftFPKLabel: mPrivate->shiftFPKLabel(number); break;
+    case Event::ShiftFPKBar: mPrivate->shiftFPKBar(flag); break;
+    case Event::SetAlternateLabel: mPrivate->setAlternateLabel(number, text); break;
+    case Event::SetStatusMessageAvailable: mPrivate->setStatusMessageAvailable(flag); break;
+    case Event::ShiftChangeEventForCertainFPKey: mPrivate->shiftChangeEventForCertainFPKey(flag, number); break;
+    case Event::CallShowFPKBarMethodFromAdminPhonelet: mPrivate->callShowFPKBarMethodFromAdminPhonelet(); break;
+    case Event::SetRingerVolumeBarLimit: mPrivate->setRingerVolumeBarLimit(number); break;
+    }
+}
+
+// Without a request
+
+Rect* Display::getDisplayArea()
+{
+    return mPrivate->getDisplayArea();
+}
+
+void Display::subscribe(DisplayEventIfc* listener)
+{
+    mPrivate->subscribe(listener);
+}
+
+void Display::unSubscribe()
+{
+    mPrivate->unSubscribe();
+}
+
+void Display::setTranslator(TranslatorIfc* translator)
+{
+    mPrivate->setTranslator(translator);
+}
+
+void Display::setAndUpdateHeadSetIcon(bool on)
+{
+    mPrivate->setAndUpdateHeadSetIcon(on);
+}
+
+void Display::setAndUpdateSpeakerIcon(bool on)
+{
+    mPrivate->setAndUpdateSpeakerIcon(on);
+}
+
+void Display::setAndUpdateMuteIcon(bool on)
+{
+    mPrivate->setAndUpdateMuteIcon(on);
+}
+
+int Display::getEditingStatus()
+{
+    return mPrivate->getEditingStatus();
+}
+
+// Without effect on this telephone
+
+void Display::showNotification(TranslationInfo* text, Icons::IconType icon, bool first, int duration, bool second)
+{
+    if (mPrivate)
+        mPrivate->showNotification(text, icon, first, duration, second);
+}
+
+void Display::showNotification(std::string text, Icons::IconType icon, bool first, int duration, bool second)
+{
+    if (mPrivate)
+        mPrivate->showNotification(std::move(text), icon, first, duration, second);
+}
+
+void Display::addKeyboardCommandListener(CommandListener*) { }
+
+void Display::removeKeyboardCommandListener() { }
+
+void Display::enableKeypadEventSending() { }
+
+void Display::disableKeypadEventSending() { }
+
+void Display::setPopupMode(bool) { }
+
+void Display::skinChanged(std::string) { }
+
+void Display::timeHasChanged(std::string) { }
+
+void Display::dateHasChanged(std::string) { }
+
+void Display::keyboardLayoutChanged(std::string) { }
+
+}

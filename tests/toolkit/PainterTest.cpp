@@ -1,0 +1,251 @@
+#include "UFont.h"
+#include "UPainter.h"
+#include "UScreenWE1.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <numeric>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// A font of three letters: `I` is a line down the left side of its cell, `L` has a foot, `T` a roof.
+class SmallFont : public UFont {
+public:
+    const Glyph* glyph(std::uint16_t unit) const override
+    {
+        switch (unit) {
+        case 'I': return &mI;
+        case 'L': return &mL;
+        case 'T': return &mT;
+        case ' ': return &mBlank;
+        default: return nullptr;
+        }
+    }
+
+private:
+    static constexpr std::uint8_t Left = 0b100000;
+    static constexpr std::uint8_t Whole = 0b111110;
+
+    static Glyph letter(std::uint8_t first, std::uint8_t last)
+    {
+        Glyph glyph;
+        glyph.fill(Left);
+        glyph.front() = first;
+        glyph.back() = last;
+        return glyph;
+    }
+
+    const Glyph mBlank{};
+    const Glyph mI = letter(Left, Left);
+    const Glyph mL = letter(Left, Whole);
+    const Glyph mT = letter(Whole, Left);
+};
+
+class PainterTest : public testing::Test {
+protected:
+    using Picture = std::vector<std::string>;
+
+    Picture picture(int left, int top, int width, int height) const
+    {
+        Picture rows;
+        for (int y = top; y < top + height; ++y) {
+            rows.emplace_back();
+            for (int x = left; x < left + width; ++x)
+                rows.back() += mScreen.pixel(x, y) ? '#' : '.';
+        }
+        return rows;
+    }
+
+    /// The letters of a line, read back from the pixels; `.` for a blank cell.
+    std::string letters(int line) const
+    {
+        const int top = line == 0 ? 1 : line == 1 ? 17 : 33;
+        std::string result;
+        for (int x = 0; x < UScreenWE1::Width; x += UFont::CellWidth) {
+            const bool roof = mScreen.pixel(x + 2, top);
+            const bool foot = mScreen.pixel(x + 2, top + 12);
+            result += roof ? 'T' : foot ? 'L' : mScreen.pixel(x, top + 6) ? 'I' : '.';
+        }
+        return result;
+    }
+
+    static std::string cells(const std::string& left, const std::string& right = "")
+    {
+        return left + std::string(UPainter::Columns - left.size() - right.size(), '.') + right;
+    }
+
+    UScreenWE1 mScreen{47};
+    SmallFont mFont;
+    UPainter mPainter{mScreen, &mFont};
+};
+
+TEST_F(PainterTest, EachLineHasItsCellsAtItsOwnRows)
+{
+    for (int line : {0, 1, 2})
+        EXPECT_EQ(mPainter.text(line, 0, UString("L")), 1);
+    const Picture stem(12, "#.....");
+    for (int top : {1, 17, 33}) {
+        EXPECT_EQ(picture(0, top, 6, 12), stem) << "line at " << top;
+        EXPECT_EQ(picture(0, top - 1, 6, 1), Picture({"......"}));
+        EXPECT_EQ(picture(0, top + 12, 6, 1), Picture({"#####."}));
+    }
+}
+
+TEST_F(PainterTest, TextIsCutAtItsColumnsAndAtTheEdgesOfTheGlass)
+{
+    EXPECT_EQ(mPainter.text(0, 2, UString("TIL"), 2), 2);
+    EXPECT_EQ(letters(0), cells("..TI"));
+    mPainter.clearLine(0);
+    mPainter.text(0, 25, UString("LLLL"));
+    EXPECT_EQ(letters(0), cells("", "LL"));
+    mPainter.textRight(1, 26, UString("TIL"), 2);
+    EXPECT_EQ(letters(1), cells("", "TI")) << "a text at the right edge loses its end";
+    mPainter.textRight(1, 1, UString("LLTI"));
+    EXPECT_EQ(letters(1), cells("TI", "TI")) << "what lies left of the glass is cut off";
+    EXPECT_EQ(mPainter.text(1, 0, UString("T"), -1), 0);
+    const UScreenWE1 before = mScreen;
+    mPainter.text(3, 0, UString("T"));
+    mPainter.text(-1, 0, UString("T"));
+    mPainter.invert(7);
+    EXPECT_EQ(mScreen, before) << "other lines do not exist";
+}
+
+TEST_F(PainterTest, WhatTheFontLacksTakesItsSpaceAndLeavesWhatIsThere)
+{
+    mPainter.text(0, 0, UString("LLL"));
+    EXPECT_EQ(mPainter.text(0, 0, UString("Tx ")), 3);
+    EXPECT_EQ(letters(0), cells("TL")) << "a blank wipes its cell, an unknown letter does not";
+
+    UScreenWE1 empty;
+    UPainter withoutFont(empty, nullptr);
+    EXPECT_EQ(withoutFont.text(0, 0, UString("TIL")), 3);
+    EXPECT_EQ(empty, UScreenWE1());
+}
+
+TEST_F(PainterTest, ARunOfThreeBlanksSplitsARow)
+{
+    const struct {
+        const char* name;
+        std::string text;
+        std::string expected; // in ten columns from the second on
+    } rows[] = {
+        {"two blanks", "TI  L", ".TI..L....."},
+        {"three blanks", "TI   L", ".TI.......L"},
+        {"far more than fit", "TI" + std::string(31, ' ') + "LL", ".TI......LL"},
+        {"blanks at the start indent", "   TI", "....TI....."},
+        {"blanks at the end", "TI     ", ".TI........"},
+        {"blanks behind the tail", "TI   LL  ", ".TI......LL"},
+        {"the head gives way", "TIIIIIIIIIII   LL", ".TIIIIII.LL"},
+        {"the tail alone fits", "TI   LLLLLLLLLLLL", ".LLLLLLLLLL"},
+        {"two runs", "TI   L   T", ".TI...L...T"},
+    };
+    for (const auto& row : rows) {
+        mPainter.clearLine(0);
+        mPainter.rowText(0, 1, UString(row.text), 10);
+        EXPECT_EQ(letters(0), cells(row.expected)) << row.name;
+    }
+}
+
+TEST_F(PainterTest, AnIconFillsTwoCells)
+{
+    EXPECT_EQ(mPainter.icon(0, 1, 7), 2);
+    EXPECT_EQ(picture(6, 1, 12, 13),
+        Picture({"............", "............", ".##########.", ".##......##.", ".#.#....#.#.", ".#..#..#..#.",
+            ".#...##...#.", ".#........#.", ".#........#.", ".##########.", "............", "............",
+            "............"}));
+    mScreen.clear();
+    EXPECT_EQ(mPainter.icon(0, 0, 0), 0) << "the number 0 takes no space";
+    EXPECT_EQ(mPainter.icon(0, 0, 65535), 2) << "an unknown number takes its space";
+    EXPECT_EQ(mScreen, UScreenWE1(47));
+}
+
+TEST_F(PainterTest, EveryIconOfTheLibraryHasAPictureOfItsOwn)
+{
+    const std::vector<int> numbers{2, 6, 7, 8, 14, 16, 17, 19, 20, 21, 22, 38, 39, 40, 43, 44, 45, 46, 48, 49, 50, 53,
+        55, 57, 64, 73, 74, 75, 76, 78, 81, 82, 83, 85, 90, 91, 92, 93, 94, 95, 96, 97, 98, 102};
+    std::vector<Icons::Picture> seen;
+    for (int number : numbers) {
+        const Icons::Picture* picture = Icons::picture(static_cast<std::uint16_t>(number));
+        ASSERT_NE(picture, nullptr) << number;
+        const int dots = std::accumulate(
+            picture->begin(), picture->end(), 0, [](int sum, std::uint16_t row) { return sum + std::popcount(row); });
+        EXPECT_GT(dots, 7) << number;
+        EXPECT_EQ(std::count(seen.begin(), seen.end(), *picture), 0) << number;
+        seen.push_back(*picture);
+    }
+    EXPECT_EQ(Icons::picture(0), nullptr);
+    EXPECT_EQ(Icons::picture(1), nullptr);
+    EXPECT_EQ(Icons::picture(999), nullptr);
+}
+
+TEST_F(PainterTest, MarksStandInTheLastColumnAndThePrivateArrowInTexts)
+{
+    mPainter.text(0, 26, UString("L"));
+    mPainter.mark(0, Icons::Mark::None);
+    EXPECT_EQ(letters(0), cells("", "L"));
+    mPainter.mark(0, Icons::Mark::MoreBelow);
+    EXPECT_EQ(picture(156, 5, 6, 6), Picture({"......", ".#####", ".#####", "..###.", "..###.", "...#.."}));
+    EXPECT_EQ(picture(156, 13, 6, 1), Picture({"......"})) << "the mark replaces the cell";
+
+    UScreenWE1 screen;
+    UPainter withoutFont(screen, nullptr);
+    withoutFont.text(0, 0, UString::fromUTF8("\xEE\x80\x80"));
+    EXPECT_TRUE(screen.pixel(2, 2)) << "the arrow needs no font";
+}
+
+TEST_F(PainterTest, ABarIsFilledToItsValue)
+{
+    mPainter.bar(0, 0, 2, 0, 10, 5);
+    const Picture half{"............", ".##########.", ".#........#.", ".#.###....#.", ".#.###....#."};
+    EXPECT_EQ(picture(0, 2, 12, 5), half);
+    const struct {
+        const char* name;
+        int minimum, maximum, value;
+        int filled; // pixels of a bar of two cells, six at most
+    } bars[] = {
+        {"at its minimum", 5, 10, 5, 0},
+        {"at its maximum", 5, 10, 10, 6},
+        {"below", 0, 10, -3, 0},
+        {"above", 0, 10, 99, 6},
+        {"without a range", 4, 4, 4, 0},
+        {"with a range turned round", 10, 0, 5, 0},
+        {"with the widest range", std::numeric_limits<int>::min(), std::numeric_limits<int>::max(),
+            std::numeric_limits<int>::max(), 6},
+    };
+    for (const auto& bar : bars) {
+        mPainter.bar(0, 0, 2, bar.minimum, bar.maximum, bar.value);
+        const std::string row = picture(3, 6, 7, 1).front();
+        EXPECT_EQ(std::count(row.begin(), row.end(), '#'), bar.filled) << bar.name;
+    }
+}
+
+TEST_F(PainterTest, InvertingTwiceGivesTheLineBack)
+{
+    mPainter.text(1, 0, UString("TIL"));
+    const UScreenWE1 before = mScreen;
+    mPainter.invert(1, 1, 25);
+    EXPECT_EQ(picture(4, 14, 4, 3), Picture({"....", "..##", "..##"})) << "from row 15 and column 6 on";
+    EXPECT_EQ(picture(154, 30, 4, 2), Picture({"##..", "...."})) << "up to row 30 and column 155";
+    mPainter.invert(1, 1, 25);
+    EXPECT_EQ(mScreen, before);
+}
+
+TEST_F(PainterTest, AScreenOfSixteenRowsKeepsOnlyItsFirstLine)
+{
+    UScreenWE1 desktop(16);
+    UPainter painter(desktop, &mFont);
+    painter.text(1, 0, UString("T"));
+    EXPECT_EQ(desktop, UScreenWE1(16));
+    painter.invert(1);
+    EXPECT_TRUE(desktop.pixel(0, 15));
+    EXPECT_FALSE(desktop.pixel(0, 16));
+    painter.clearLines(0, 2);
+    EXPECT_EQ(desktop, UScreenWE1(16));
+}
+
+}

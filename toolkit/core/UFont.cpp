@@ -1,0 +1,3 @@
+#include "UFont.h"
+
+UFont::~UFont() = default;

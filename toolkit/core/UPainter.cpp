@@ -1,0 +1,205 @@
+#include "UPainter.h"
+
+#include "UFont.h"
+#include "UScreenWE1.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr int Lines = 3;
+constexpr std::uint16_t UpDownArrow = 0xE000;
+constexpr std::uint16_t Blank = ' ';
+constexpr int ShortestSplit = 3;
+
+/// The rows of pixels of a line, and the first row of its cells.
+struct LineRows {
+    int top;
+    int bottom;
+    int cellTop;
+};
+constexpr LineRows lineRows[Lines] = {{0, 14, 1}, {15, 30, 17}, {32, 46, 33}};
+
+bool isLine(int line)
+{
+    return line >= 0 && line < Lines;
+}
+
+const LineRows& rowsOf(int line)
+{
+    return lineRows[std::clamp(line, 0, Lines - 1)];
+}
+
+int cells(const UString& text)
+{
+    return static_cast<int>(std::min<std::size_t>(text.length(), UPainter::Columns));
+}
+
+/// Where a row's text splits: its head ends before `headEnd`, its tail starts at `tailStart`.
+struct Split {
+    std::size_t headEnd;
+    std::size_t tailStart;
+};
+
+/// The last run of three or more blanks between two pieces of text. Blanks at the start indent the row.
+std::optional<Split> findSplit(const UString& text)
+{
+    std::optional<Split> split;
+    std::size_t wordEnd = 0;
+    for (std::size_t index = 0; index < text.length(); ++index) {
+        if (text[index] == Blank)
+            continue;
+        if (wordEnd != 0 && index - wordEnd >= ShortestSplit)
+            split = Split{wordEnd, index};
+        wordEnd = index + 1;
+    }
+    if (split)
+        return split;
+    return std::nullopt;
+}
+
+UString withoutBlanksAtEnd(const UString& text)
+{
+    std::size_t end = text.length();
+    while (end > 0 && text[end - 1] == Blank)
+        --end;
+    return text.mid(0, end);
+}
+
+}
+
+UPainter::UPainter(UScreenWE1& screen, const UFont* font)
+    : mScreen(screen)
+    , mFont(font)
+{
+}
+
+int UPainter::lineTop(int line)
+{
+    return rowsOf(line).top;
+}
+
+int UPainter::lineBottom(int line)
+{
+    return rowsOf(line).bottom;
+}
+
+void UPainter::clearLine(int line)
+{
+    if (!isLine(line))
+        return;
+    for (int y = lineTop(line); y <= lineBottom(line); ++y) {
+        for (int x = 0; x < UScreenWE1::Width; ++x)
+            mScreen.setPixel(x, y, false);
+    }
+}
+
+void UPainter::clearLines(int first, int last)
+{
+    for (int line = std::max(first, 0); line <= std::min(last, Lines - 1); ++line)
+        clearLine(line);
+}
+
+void UPainter::cell(int line, int column, const std::uint8_t* rows)
+{
+    if (!isLine(line) || column < 0 || column >= Columns)
+        return;
+    const int left = column * UFont::CellWidth;
+    const int top = rowsOf(line).cellTop;
+    for (int y = 0; y < UFont::CellHeight; ++y) {
+        for (int x = 0; x < UFont::CellWidth; ++x)
+            mScreen.setPixel(left + x, top + y, (rows[y] >> (UFont::CellWidth - 1 - x) & 1) != 0);
+    }
+}
+
+int UPainter::text(int line, int column, const UString& text, int columns)
+{
+    const int count = std::clamp(cells(text), 0, std::max(columns, 0));
+    for (int index = 0; index < count; ++index) {
+        const std::uint16_t unit = text[static_cast<std::size_t>(index)];
+        const UFont::Glyph* glyph = unit == UpDownArrow ? Icons::upDownArrowGlyph()
+            : mFont                                     ? mFont->glyph(unit)
+                                                        : nullptr;
+        if (glyph)
+            cell(line, column + index, glyph->data());
+    }
+    return count;
+}
+
+void UPainter::textRight(int line, int lastColumn, const UString& text, int columns)
+{
+    const int count = std::clamp(cells(text), 0, std::max(columns, 0));
+    this->text(line, lastColumn - count + 1, text, count);
+}
+
+void UPainter::rowText(int line, int column, const UString& text, int columns)
+{
+    const std::optional<Split> split = findSplit(text);
+    if (!split) {
+        this->text(line, column, text, columns);
+        return;
+    }
+    const UString tail = withoutBlanksAtEnd(text.mid(split->tailStart));
+    const int tailColumns = std::min(cells(tail), columns);
+    // The tail keeps its place, since it says what the row stands at; the head gives way.
+    this->text(line, column, text.mid(0, split->headEnd), columns - tailColumns - 1);
+    textRight(line, column + columns - 1, tail, tailColumns);
+}
+
+int UPainter::icon(int line, int column, std::uint16_t number)
+{
+    if (number == 0)
+        return 0;
+    const Icons::Picture* picture = Icons::picture(number);
+    if (!picture || !isLine(line))
+        return 2;
+    constexpr int size = static_cast<int>(std::tuple_size_v<Icons::Picture>);
+    const int left = column * UFont::CellWidth + 1;
+    const int top = rowsOf(line).cellTop + 1;
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x)
+            mScreen.setPixel(left + x, top + y, ((*picture)[static_cast<std::size_t>(y)] >> (size - 1 - x) & 1) != 0);
+    }
+    return 2;
+}
+
+void UPainter::mark(int line, Icons::Mark mark)
+{
+    if (const auto* glyph = Icons::markGlyph(mark))
+        cell(line, Columns - 1, glyph->data());
+}
+
+void UPainter::bar(int line, int column, int columns, int minimum, int maximum, int value)
+{
+    if (!isLine(line) || columns <= 0)
+        return;
+    // A frame two pixels inside the cells, filled up to the value behind a gap of one pixel.
+    const int left = column * UFont::CellWidth + 1;
+    const int right = (column + columns) * UFont::CellWidth - 2;
+    const int top = rowsOf(line).cellTop + 2;
+    const int bottom = rowsOf(line).cellTop + 10;
+    const long long range = static_cast<long long>(maximum) - minimum;
+    const long long part = std::clamp<long long>(static_cast<long long>(value) - minimum, 0, std::max(range, 0LL));
+    const long long room = right - left - 3;
+    const int filledTo = left + 1 + static_cast<int>(range > 0 ? room * part / range : 0);
+    for (int y = top; y <= bottom; ++y) {
+        for (int x = left; x <= right; ++x) {
+            const bool isFrame = y == top || y == bottom || x == left || x == right;
+            const bool isFilled = y > top + 1 && y < bottom - 1 && x > left + 1 && x <= filledTo;
+            mScreen.setPixel(x, y, isFrame || isFilled);
+        }
+    }
+}
+
+void UPainter::invert(int line, int firstColumn, int lastColumn)
+{
+    if (!isLine(line))
+        return;
+    const int left = std::max(firstColumn, 0) * UFont::CellWidth;
+    const int right = std::min(lastColumn, Columns - 1) * UFont::CellWidth + UFont::CellWidth - 1;
+    for (int y = lineTop(line); y <= lineBottom(line); ++y) {
+        for (int x = left; x <= right; ++x)
+            mScreen.setPixel(x, y, !mScreen.pixel(x, y));
+    }
+}

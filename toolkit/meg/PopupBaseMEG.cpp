@@ -1,0 +1,166 @@
+#include "PopupBaseMEG.h"
+
+#include "UEvent.h"
+#include "UWindowManager.h"
+
+PopupBaseMEG::PopupBaseMEG()
+    : mTimeoutTimer(this)
+    , mAnimationTimer(this)
+{
+    mTimeoutTimer.setSingleShot(true);
+    setCoordinates(0, 0, 161, 30);
+}
+
+PopupBaseMEG::~PopupBaseMEG() = default;
+
+// Up and down
+
+bool PopupBaseMEG::isUp() const
+{
+    return UWindowManager::instance().isUp(this);
+}
+
+void PopupBaseMEG::setTimeout(int milliseconds)
+{
+    mTimeout = milliseconds;
+    restartTimeout();
+}
+
+void PopupBaseMEG::popupAsCall()
+{
+    comeUp();
+}
+
+void PopupBaseMEG::popupAsNotification()
+{
+    comeUp();
+}
+
+void PopupBaseMEG::dismiss()
+{
+    if (!isUp())
+        return;
+    goDown();
+    emit(EventType::PopupDown, this);
+}
+
+void PopupBaseMEG::comeUp()
+{
+    show();
+    UWindowManager::instance().raisePopup(this);
+    restartTimeout();
+    restartAnimation();
+    upChanged();
+    emit(EventType::PopupUp, this);
+}
+
+void PopupBaseMEG::goDown()
+{
+    UWindowManager::instance().lowerPopup(this);
+    restartTimeout();
+    restartAnimation();
+    upChanged();
+}
+
+void PopupBaseMEG::parentChanged()
+{
+    // Who takes the popup out of the tree walks the display's stack: an event would come in the middle of it.
+    if (!parentWidget() && isUp())
+        goDown();
+}
+
+void PopupBaseMEG::timerEvent(UTimerEvent* event)
+{
+    if (event->id() == mAnimationTimer.id()) {
+        mStateIconIndex = (mStateIconIndex + 1) % mStateIcons.size();
+        refresh();
+    } else if (event->id() == mTimeoutTimer.id()) {
+        dismiss();
+    }
+}
+
+void PopupBaseMEG::restartTimeout()
+{
+    mTimeoutTimer.stop();
+    if (mTimeout <= 0 || !isUp())
+        return;
+    mTimeoutTimer.setInterval(static_cast<unsigned long long>(mTimeout));
+    mTimeoutTimer.start();
+}
+
+// Icons and marks
+
+void PopupBaseMEG::setLine1Icon1(unsigned short icon)
+{
+    setLineIcon(0, 0, icon);
+}
+
+void PopupBaseMEG::setLine2Icon1(unsigned short icon)
+{
+    setLineIcon(1, 0, icon);
+}
+
+void PopupBaseMEG::setLine1Icon2(unsigned short icon)
+{
+    setLineIcon(0, 1, icon);
+}
+
+void PopupBaseMEG::setLine2Icon2(unsigned short icon)
+{
+    setLineIcon(1, 1, icon);
+}
+
+void PopupBaseMEG::setLineIcon(std::size_t line, std::size_t place, unsigned short icon)
+{
+    mLineIcons[line][place] = icon;
+    refresh();
+}
+
+void PopupBaseMEG::setListScrollable(bool scrollable)
+{
+    mIsListScrollable = scrollable;
+    refresh();
+}
+
+void PopupBaseMEG::setDownArrowDisplayable(bool displayable)
+{
+    mIsDownArrowDisplayable = displayable;
+    refresh();
+}
+
+void PopupBaseMEG::setStateIcon(unsigned short icon, int line)
+{
+    mStateIcons.assign(1, icon);
+    mStateIconLine = line;
+    mAnimationPeriod = 0;
+    restartAnimation();
+}
+
+void PopupBaseMEG::setStateIconAnimation(const std::vector<unsigned short>& icons, int period)
+{
+    mStateIcons = icons;
+    mStateIconLine = 0;
+    mAnimationPeriod = period;
+    restartAnimation();
+}
+
+void PopupBaseMEG::restartAnimation()
+{
+    mStateIconIndex = 0;
+    mAnimationTimer.stop();
+    if (mStateIcons.size() > 1 && mAnimationPeriod > 0 && isUp()) {
+        mAnimationTimer.setInterval(static_cast<unsigned long long>(mAnimationPeriod));
+        mAnimationTimer.start();
+    }
+    refresh();
+}
+
+std::array<unsigned short, 2> PopupBaseMEG::iconsOfLine(int line) const
+{
+    if (line < 0 || line > 1)
+        return {};
+    std::array<unsigned short, 2> icons = mLineIcons[static_cast<std::size_t>(line)];
+    if (line == mStateIconLine && !mStateIcons.empty() && mStateIcons[mStateIconIndex] != 0)
+        icons[0] = mStateIcons[mStateIconIndex];
+    return icons;
+}

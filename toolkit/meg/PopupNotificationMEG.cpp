@@ -1,0 +1,208 @@
+#include "PopupNotificationMEG.h"
+
+#include "Types.h"
+#include "UEvent.h"
+#include "UPainter.h"
+#include "UWindowManager.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr unsigned short ArrowIcon = 55;
+constexpr unsigned long long TurnTime = 3000; // of the second and the third line
+
+UString withColon(const UString& prefix)
+{
+    return prefix.isEmpty() ? UString() : prefix + UString(std::string(": "));
+}
+
+}
+
+PopupNotificationMEG::PopupNotificationMEG()
+    : mTurnTimer(this, TurnTime)
+{
+    updatePopupNotificationCoordinates();
+}
+
+PopupNotificationMEG::~PopupNotificationMEG() = default;
+
+// Texts
+
+void PopupNotificationMEG::setText(const UString& text)
+{
+    mLine1.number.clear();
+    setField(mLine1.text, text);
+}
+
+void PopupNotificationMEG::setLine1TextNN(const UString& name, const UString& number)
+{
+    setParty(mLine1, name, number);
+}
+
+void PopupNotificationMEG::setLine2TextNN(const UString& name, const UString& number)
+{
+    setParty(mLine2, name, number);
+}
+
+void PopupNotificationMEG::setLine1PrefixText(const UString& text)
+{
+    setField(mLine1.prefix, text);
+}
+
+void PopupNotificationMEG::setLine1PrePrefixText(const UString& text)
+{
+    setField(mLine1.prePrefix, text);
+}
+
+void PopupNotificationMEG::setLine2Text(const UString& text)
+{
+    mLine2.number.clear();
+    if (text.isEmpty())
+        mIsSplit = false;
+    setField(mLine2.text, text);
+}
+
+void PopupNotificationMEG::setLine2PrefixText(const UString& text)
+{
+    setField(mLine2.prefix, text);
+}
+
+void PopupNotificationMEG::setLine3Text(const UString& text)
+{
+    setField(mLine3.text, text);
+}
+
+void PopupNotificationMEG::setField(UString& field, const UString& text)
+{
+    field = text;
+    contentChanged();
+}
+
+void PopupNotificationMEG::setParty(Line& line, const UString& name, const UString& number)
+{
+    const bool areBoth = !name.isEmpty() && !number.isEmpty();
+    line.number = areBoth ? number : UString();
+    setField(line.text, areBoth ? name + UString(std::string(" ")) + number : name + number);
+}
+
+void PopupNotificationMEG::contentChanged()
+{
+    updatePopupNotificationCoordinates();
+    restartTurns();
+    refresh();
+}
+
+// Icons and layout
+
+void PopupNotificationMEG::setLine2Icon(bool shown)
+{
+    if (!shown) {
+        setLine2Icon1(0);
+        setLine2Icon2(0);
+    } else if (line2Icon1() == 0) {
+        setLine2Icon1(ArrowIcon);
+    }
+}
+
+int PopupNotificationMEG::countLines() const
+{
+    return (mLine1.isEmpty() ? 0 : 1) + (mLine2.isEmpty() ? 0 : 1) + (mLine3.isEmpty() ? 0 : 1);
+}
+
+void PopupNotificationMEG::setIsSplit(bool split)
+{
+    mIsSplit = split;
+    contentChanged();
+}
+
+void PopupNotificationMEG::updatePopupNotificationCoordinates()
+{
+    setCoordinates(0, coversGlass() ? 0 : 15, 161, 30);
+}
+
+// Keys and time
+
+UWidget* PopupNotificationMEG::focusTarget()
+{
+    return isUp() && UWindowManager::instance().hasFocusRequest(this) ? this : nullptr;
+}
+
+bool PopupNotificationMEG::keyEvent(UKeyEvent* key)
+{
+    if (key->state() != UGlobal::KeyPressed || !mIsDismissible)
+        return false;
+    dismiss();
+    return true;
+}
+
+void PopupNotificationMEG::timerEvent(UTimerEvent* event)
+{
+    if (event->id() != mTurnTimer.id())
+        return PopupBaseMEG::timerEvent(event);
+    mIsThirdLineShown = !mIsThirdLineShown;
+    refresh();
+}
+
+void PopupNotificationMEG::upChanged()
+{
+    mTurnTimer.stop();
+    restartTurns();
+}
+
+void PopupNotificationMEG::restartTurns()
+{
+    if (isUp() && !mLine2.isEmpty() && !mLine3.isEmpty()) {
+        if (mTurnTimer.isRunning())
+            return;
+        mTurnTimer.start();
+    } else {
+        mTurnTimer.stop();
+    }
+    mIsThirdLineShown = false;
+}
+
+// Painting
+
+int PopupNotificationMEG::iconColumns(int iconLine) const
+{
+    const auto icons = iconsOfLine(iconLine);
+    return static_cast<int>(2 * std::count_if(icons.begin(), icons.end(), [](unsigned short icon) { return icon; }));
+}
+
+void PopupNotificationMEG::paintLine(
+    UPainter& painter, int glassLine, int iconLine, const Line& content, int columns, int indent)
+{
+    int column = 0;
+    for (unsigned short icon : iconsOfLine(iconLine))
+        column += painter.icon(glassLine, column, icon);
+    if (column == 0)
+        column = indent;
+
+    const UString text = withColon(content.prePrefix) + withColon(content.prefix) + content.text;
+    const int room = columns - column;
+    const int numberLength = static_cast<int>(content.number.length());
+    if (numberLength == 0 || static_cast<int>(text.length()) <= room) {
+        painter.text(glassLine, column, text, room);
+        return;
+    }
+    // The name gives way, since a number without its end is no number.
+    painter.text(glassLine, column, text, std::max(0, room - numberLength - 1));
+    painter.textRight(glassLine, columns - 1, content.number, room);
+}
+
+void PopupNotificationMEG::paint(UPainter& painter)
+{
+    const bool isThird = mLine2.isEmpty() || mIsThirdLineShown;
+    const Line& second = isThird ? mLine3 : mLine2;
+    const int secondIcons = isThird ? 2 : 1;
+    if (isTwoLine()) {
+        painter.clearLines(0, 1);
+        paintLine(painter, 0, 0, mLine1, UPainter::Columns);
+        paintLine(painter, 1, secondIcons, second, UPainter::Columns, iconColumns(0));
+        return;
+    }
+    painter.clearLine(1);
+    const bool isFirst = !mLine1.isEmpty() || second.isEmpty();
+    paintLine(painter, 1, isFirst ? 0 : secondIcons, isFirst ? mLine1 : second, UPainter::Columns);
+}
