@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ContentWidgetFactoryIfc.h"
+
+namespace DisplayAPI {
+
+/// Makes the ordinary ContentWidget.
+class ContentWidgetFactory final : public ContentWidgetFactoryIfc {
+public:
+    ContentWidgetIfc* createContentWidget() override;
+};
+
+}

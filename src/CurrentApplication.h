@@ -1,0 +1,36 @@
+#pragma once
+
+#include <UApplication.h>
+
+#include <string>
+
+namespace DisplayAPI {
+
+/// The software types by their number; any text but two makes the third.
+namespace SoftwareType {
+inline constexpr int Sip = 0;
+inline constexpr int Qvt = 1;
+inline constexpr int Other = 2;
+}
+
+// What is asked of the current application; without one there are answers too.
+
+inline std::string currentApplicationName()
+{
+    const auto* application = VantoUApplication::getCurrentApplication();
+    return application ? application->getAppName() : std::string();
+}
+
+inline bool isSoftwareQvt()
+{
+    const auto* application = VantoUApplication::getCurrentApplication();
+    return application && application->getSoftwareType() == SoftwareType::Qvt;
+}
+
+inline int currentHardwareVariant()
+{
+    const auto* application = VantoUApplication::getCurrentApplication();
+    return application ? application->getHardwareVariant() : 0;
+}
+
+}

@@ -1,0 +1,203 @@
+#pragma once
+
+#include <DisplayAPI/DisplayPrivateIfc.h>
+
+#include "VisibleRectMonitor.h"
+
+#include <Semaphore.h>
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+class StatusMessageMEG;
+class UWidget;
+class VolumeIndicatorMEG;
+
+namespace DisplayAPI {
+
+class ContentWidgetFactoryIfc;
+class ContentWidgetIfc;
+
+/// The stack of what is shown, and the services that belong to the display as a whole.
+///
+/// An ordinary screen replaces the stack, a popup lies on top of it, and the screen below comes back when the
+/// popup goes. A screen whose private or widget is missing is ignored, and one that has been deleted is forgotten.
+///
+/// Threads: GUI thread only, but for subscribe(), unSubscribe() and displayChanged().
+/// Ownership: the screens stay the application's. While a screen's widget is in the content widget it belongs to
+/// the toolkit's tree, else to the screen's private.
+class DisplayPrivate : public DisplayPrivateIfc {
+public:
+    static constexpr int SystemWindowLines = 6;
+
+    /// `name` and `area` have no effect. The factory becomes the display's; null is the ordinary one.
+    DisplayPrivate(std::string applicationName, bool server, std::string name, std::string softwareType,
+        std::string locale, std::string dateFormat, std::string timeFormat, Rect* area,
+        ContentWidgetFactoryIfc* factory);
+
+    /// Gives the screens their widgets back, so that they may be deleted afterwards.
+    ~DisplayPrivate() override;
+    DisplayPrivate(const DisplayPrivate&) = delete;
+    DisplayPrivate& operator=(const DisplayPrivate&) = delete;
+
+    /// Takes a screen that is being deleted off every display, without a notice and without showing another one.
+    /// It has left the registry by then, and its private still lives.
+    static void forgetEverywhere(Displayable* displayable);
+
+    // Screens
+
+    void setCurrent(Displayable* displayable) override;
+    Displayable* getCurrent() override;
+    void exec() override;
+    void shutdown() override;
+    void show() override;
+    void hide() override;
+
+    /// Tells the current screen that it has lost the focus, and gives its widget back; the stack stays.
+    void removeOldCurrent();
+    bool execFinished() const { return mExecFinished; }
+    ContentWidgetIfc* getContentWidget() const { return mContent.get(); }
+
+    // Screen text
+
+    std::string serialise() override;
+    std::string serialiseByRect(const std::vector<Rect>& rects, std::string statusStr) override;
+
+    /// For each screen of the stack, bottom first, what the screens above leave of it. Parent coordinates.
+    std::vector<std::vector<Rect>> findVisibleRects();
+
+    // Notices
+
+    /// Threads: any, for these three. The lock is held while the subscriber runs; it is re-entrant, so the
+    /// subscriber may read the screen text and may unsubscribe.
+    void subscribe(DisplayEventIfc* listener) override;
+    void unSubscribe() override;
+    void displayChanged() override;
+
+    void widgetDismissed(DisplayablePrivateIfc* displayable) override;
+
+    // Locale and formats
+
+    void localeChanged(std::string locale) override;
+    void skinChanged(std::string) override { }
+    void dateFormatChanged(std::string format) override;
+    void timeFormatChanged(std::string format) override;
+
+    Rect* getDisplayArea() override { return mDisplayArea.get(); }
+    void setMaximised(bool) override { }
+    void createServerDisplay(Displayable* displayable) override;
+    void setTranslator(TranslatorIfc* translator) override;
+    std::vector<Rect>* getDisplayedRects() override;
+
+    // System window
+
+    void setSystemWindowSize(int lines) override;
+    void setSystemWindowText(int line, std::string text) override;
+    void setSystemWindowTop(int top) override;
+    void setAndUpdateHeadSetIcon(bool on) override;
+    void setAndUpdateSpeakerIcon(bool on) override;
+    void setAndUpdateMuteIcon(bool on) override;
+    void showTimeInSystemWindow(bool shown) override;
+    void setTimeInSystemWindow(int hours, int minutes, int seconds) override;
+    void setTimer(std::string time) override;
+    void stopTimer() override;
+    void setSoftwareType(const std::string& softwareType) override;
+
+    /// Marks the lines as written when another screen has become current since the last call.
+    void clearSWfromDisplayable();
+
+    // Status, volume, clipboard
+
+    void copy(const std::string& text) override { mClipboard = text; }
+    std::string paste() override { return mClipboard; }
+    void setStatusMessage(const std::string& text, unsigned int duration) override;
+    void startTimer(std::string time) override;
+    void showTimer() override;
+    void hideTimer(bool hidden) override;
+    void pauseTimer() override;
+    void setPreviewVolume(unsigned int device, unsigned int value, unsigned int minimum, unsigned int maximum,
+        unsigned int variant) override;
+    int getEditingStatus() override { return 0; }
+
+    // Function keys
+
+    void setFPKLabel(int key, std::string label) override;
+    void setFPKStatus(int key, int status) override;
+    void shiftFPKLabel(int key) override;
+    void shiftFPKBar(bool shifted) override;
+    void setAlternateLabel(int key, const std::string& label) override;
+
+    /// Tells every screen of the stack whether a status message covers the first line.
+    void setStatusMessageAvailable(bool available) override;
+    void showNotification(TranslationInfo*, Icons::IconType, bool, int, bool) override { }
+    void showNotification(std::string, Icons::IconType, bool, int, bool) override { }
+    void shiftChangeEventForCertainFPKey(bool shifted, int key) override;
+    void callShowFPKBarMethodFromAdminPhonelet() override;
+    void setRingerVolumeBarLimit(int limit) override { mRingerVolumeBarLimit = limit; }
+    std::string dateFormat() override { return mDateFormat; }
+    std::string timeFormat() override { return mTimeFormat; }
+    void showFPKBar();
+
+private:
+    // Stack
+
+    void createContentWidget();
+    void cleanup();
+    void darken();
+    void clearStack();
+    void addDisplayableToStack(Displayable* displayable);
+    void addNewCurrent(Displayable* displayable);
+    void showWidget(DisplayablePrivateIfc& screen);
+    void showContentWidget();
+    void hideContentWidget();
+    void forget(Displayable* displayable);
+
+    /// Forgets the screens that are gone; the first step of every walk over the stack.
+    void dropDeadEntries();
+    Displayable* top() const { return mItemList.empty() ? nullptr : mItemList.back(); }
+    bool isOnStack(const Displayable* displayable) const;
+    bool isInContent(const UWidget& widget) const;
+
+    // Screen text
+
+    std::string serialiseScreens(const std::vector<Rect>& rects);
+    std::string statusMessageText();
+    void appendVolume(std::string& text);
+    std::string serialiseSystemWindow(const std::string& content, const std::string& statusPart);
+    bool findSecondLine(const std::string& content, std::string& line);
+
+    // System window
+
+    void showSW(int lines);
+
+    Semaphore mListenerLock{Semaphore::AVAILABLE, 1, true};
+    DisplayEventIfc* mDisplayChangeListener GUARDED_BY(mListenerLock) = nullptr;
+
+    // The current screen is the top of the stack, but for a display that does not stack.
+    Displayable* mCurrent = nullptr;
+    Displayable* mPreviousCurrent = nullptr;
+    std::vector<Displayable*> mItemList; // the stack, bottom first
+    bool mIsStacking;
+    bool mIsVisible = false;
+    bool mExecFinished = false;
+
+    std::string mLocale;
+    std::string mDateFormat;
+    std::string mTimeFormat;
+    std::unique_ptr<Rect> mDisplayArea;
+    std::unique_ptr<ContentWidgetFactoryIfc> mFactory;
+    std::unique_ptr<ContentWidgetIfc> mContent;
+    VisibleRectMonitor mRectMonitor;
+
+    bool mIsSystemWindowCollapsed = false;
+    std::array<bool, SystemWindowLines> mIsLineChanged{}; // written since the last change of size
+    std::string mStatusKey;                               // not empty only during serialiseByRect()
+    std::string mClipboard;
+    std::unique_ptr<StatusMessageMEG> mStatusMessage;
+    std::unique_ptr<VolumeIndicatorMEG> mVolumeIndicator;
+    int mRingerVolumeBarLimit = 1;
+};
+
+}

@@ -1,0 +1,40 @@
+#include <DisplayAPI/PIPWindow.h>
+
+namespace DisplayAPI {
+
+PIPWindow::PIPWindow(bool)
+    : mPrivate(std::make_unique<Private>())
+{
+    mName = "PIPWindow";
+}
+
+PIPWindow::~PIPWindow() = default;
+
+void PIPWindow::processGuiRequest(GuiRequestEvent&) { }
+
+DisplayablePrivateIfc* PIPWindow::getPrivateImpl()
+{
+    return nullptr;
+}
+
+void PIPWindow::resize(int, int) { }
+
+void PIPWindow::move(int, int) { }
+
+void PIPWindow::show() { }
+
+void PIPWindow::hide() { }
+
+void PIPWindow::setHasContextMenu(bool) { }
+
+void PIPWindow::setHasPopup(bool) { }
+
+void PIPWindow::setNumberOfCalls(int) { }
+
+void PIPWindow::setIsPhoneKeyset(bool) { }
+
+void PIPWindow::setHasTwoLeaves(bool) { }
+
+void PIPWindow::setNumberOfConferenceMembers(int) { }
+
+}
