@@ -24,6 +24,11 @@ enum Number : std::uint16_t {
     RingerA,
     RingerB,
     MobileTelephone,
+    ConnectedCallHD,
+    ClearedCall,
+    SecureCall,
+    InsecureCall,
+    Recording,
 };
 
 /// The picture of an icon number, or null for 0 and for numbers without a picture.

@@ -164,10 +164,10 @@ int UPainter::icon(int line, int column, std::uint16_t number)
     return 2;
 }
 
-void UPainter::mark(int line, Icons::Mark mark)
+void UPainter::mark(int line, Icons::Mark mark, int column)
 {
     if (const auto* glyph = Icons::markGlyph(mark))
-        cell(line, Columns - 1, glyph->data());
+        cell(line, column, glyph->data());
 }
 
 void UPainter::bar(int line, int column, int columns, int minimum, int maximum, int value)
@@ -201,5 +201,20 @@ void UPainter::invert(int line, int firstColumn, int lastColumn)
     for (int y = lineTop(line); y <= lineBottom(line); ++y) {
         for (int x = left; x <= right; ++x)
             mScreen.setPixel(x, y, !mScreen.pixel(x, y));
+    }
+}
+
+void UPainter::embolden(int line, int firstColumn, int lastColumn)
+{
+    if (!isLine(line))
+        return;
+    const int left = std::max(firstColumn, 0) * UFont::CellWidth;
+    const int right = std::min(lastColumn, Columns - 1) * UFont::CellWidth + UFont::CellWidth - 1;
+    for (int y = lineTop(line); y <= lineBottom(line); ++y) {
+        // From the right, so that each pixel is doubled once.
+        for (int x = right; x > left; --x) {
+            if (mScreen.pixel(x - 1, y))
+                mScreen.setPixel(x, y, true);
+        }
     }
 }

@@ -36,14 +36,17 @@ public:
     /// Draws an icon, which takes two cells. Returns 2, or 0 for the number 0.
     int icon(int line, int column, std::uint16_t number);
 
-    /// Draws a mark in the last column.
-    void mark(int line, Icons::Mark mark);
+    /// Draws a mark, in the last column unless another mark stands there.
+    void mark(int line, Icons::Mark mark, int column = Columns - 1);
 
     /// Draws a bar of `columns` cells, filled for `value` of the range from `minimum` to `maximum`.
     void bar(int line, int column, int columns, int minimum, int maximum, int value);
 
     /// Swaps black and white of a line between two columns, both included.
     void invert(int line, int firstColumn = 0, int lastColumn = Columns - 1);
+
+    /// Thickens what stands between two columns, both included, by one pixel to the right.
+    void embolden(int line, int firstColumn, int lastColumn);
 
     /// The first and last row of pixels of a line.
     static int lineTop(int line);

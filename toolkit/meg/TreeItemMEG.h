@@ -10,6 +10,7 @@
 #include <vector>
 
 class TreeItemMEG;
+class VantoListBoxMEG;
 
 /// What a row of a tree consists of.
 class TOOLKIT_EXPORT TreeElement {
@@ -55,7 +56,7 @@ public:
         Recording = 1,
     };
 
-    BranchMEG(TreeItemMEG* row, IconType iconType, const UString& text);
+    BranchMEG(TreeItemMEG* row, IconType iconType);
     ~BranchMEG() override;
 
     int elementKind() const override { return BranchElement; }
@@ -117,7 +118,6 @@ private:
     };
 
     TreeItemMEG& mRow;
-    UString mText;
     UString mPrePrefix;
     UTimer mTimer;
     std::uint64_t mStartedAt = 0;
@@ -219,16 +219,21 @@ public:
     int highlightedLine() const override;
     bool moveInside(int step) override;
     bool hasMoreInside(int step) const override;
-    void enterFrom(int step) override;
+    bool enterFrom(int step) override;
+    bool hasInnerRows() const override { return !mChildren.empty(); }
 
     /// The first line with its marks; never null, and owned by the row.
     BranchMEG* branch;
 
 private:
     friend class BranchMEG;
+    friend class Leaf;
 
+    VantoListBoxMEG* listBox() const;
     bool hasSecondLine() const { return !mLeaf->text().isEmpty(); }
+    bool isSecondLineShown() const { return hasSecondLine() && mCurrentChild == 0; }
     int shownChild() const { return mCurrentChild > 0 ? mCurrentChild : 1; }
+    bool isMember() const;
     void paintBranch(UPainter& painter, int line, int column, int columns) const;
 
     Leaf* mLeaf;

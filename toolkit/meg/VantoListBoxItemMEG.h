@@ -95,10 +95,19 @@ public:
     /// True when moveInside() has more to show in that direction than what the glass shows now.
     virtual bool hasMoreInside(int step) const;
 
-    /// Told when the user moves into the row from above (1) or from below (-1).
-    virtual void enterFrom(int step);
+    /// Told when the user moves into the row from above (1) or from below (-1). Returns whether that moved the
+    /// highlight inside the row.
+    virtual bool enterFrom(int step);
+
+    /// True for a row whose lines are rows of their own, so that one of them needs the highlight bar.
+    virtual bool hasInnerRows() const { return false; }
 
 protected:
+    /// Draws a text and one at the right edge, which keeps at most `rightColumns`. Without the second one the
+    /// first may split (see UPainter::rowText()).
+    static void paintTexts(UPainter& painter, int line, int column, int columns, const UString& text,
+        const UString& rightText, int rightColumns);
+
     void setCheckbox(bool isCheckbox) { mIsCheckbox = isCheckbox; }
 
 private:
@@ -107,7 +116,7 @@ private:
     UString mText;
     UString mRightText;
     long mHandle;
-    std::int64_t mPositionHint = 0; // where the list last saw the row, in its own count
+    mutable std::int64_t mPositionHint = 0; // where the list last saw the row, in its own count
     std::uint16_t mIcon = 0;
     bool mIsReadonly;
     bool mHasArrow = false;

@@ -2,6 +2,7 @@
 
 #include "EventTypes.h"
 #include "Export.h"
+#include "Icons.h"
 #include "Rect.h"
 #include "UString.h"
 #include "UWidget.h"
@@ -129,7 +130,7 @@ public:
 
     /// The first line of the glass that the list uses, 0 or 1, by the list's rectangle.
     int firstLine() const;
-    int lineCount() const { return 2 - firstLine(); }
+    int visibleLines() const { return 2 - firstLine(); }
 
     // Overrides
 
@@ -140,6 +141,9 @@ public:
     bool paintsChildren() const override { return true; }
 
 protected:
+    /// Told after a row has joined the list.
+    virtual void rowAdded(VantoListBoxItemMEG* row);
+
     /// Told after the user has chosen a row and before the listener hears of it.
     virtual void rowChosen(VantoListBoxItemMEG* row);
 
@@ -151,20 +155,20 @@ private:
     bool move(int step);
     bool choose();
     bool goRight();
+    void makeCurrent(int index);
+    void dropRow(int index);
     int rowsInView() const;
     int topIndex() const;
-    void keepCurrentInView();
-    void dropRow(int index);
-    int positionToIndex(std::int64_t position) const { return static_cast<int>(position - mFrontPosition); }
-    UString currentBlock() const;
-    void paintLine(UPainter& painter, const VantoListBoxItemMEG& row, int rowLine, int line, bool isLast) const;
     bool hasMore(int step) const;
+    Icons::Mark scrollMark() const;
+    bool hasBar(const VantoListBoxItemMEG& row) const;
+    void paintLine(UPainter& painter, const VantoListBoxItemMEG& row, int rowLine, int line) const;
 
     std::deque<VantoListBoxItemMEG*> mRows;
     std::int64_t mFrontPosition = 0; // the count at which mRows begins; falls when rows come in front
     UWidget* mLeaving = nullptr;     // a row that has left the order already
     int mCurrent = -1;
-    int mTop = 0; // the first row in view, before it is fitted to the number of lines
+    int mTop = 0; // the wish for the first row in view; topIndex() fits it
     std::uint16_t mMoveEvent = EventType::RowMoved;
     bool mIsHighlightBarShown = true;
     bool mRightEqualsOK = false;

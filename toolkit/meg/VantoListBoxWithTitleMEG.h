@@ -4,18 +4,15 @@
 #include "UString.h"
 #include "UWidget.h"
 
-class VantoListBoxItemMEG;
 class VantoListBoxMEG;
 
-/// The title line of a list.
+/// The title line of a list; the list draws it.
 class TOOLKIT_EXPORT ListTitleMEG : public UWidget {
 public:
     using UWidget::UWidget;
 
     void setText(const UString& text);
     UString text() const { return mText; }
-
-    void paint(UPainter& painter) override;
 
 private:
     UString mText;
