@@ -96,7 +96,7 @@ TEST_F(CallRowsTest, ALineShowsItsNameAndItsIdentity)
     auto* row = new LineOverviewListItem(
         static_cast<LineOverviewListItem::LineStateIconType>(1), text("Sales"), text("4711"), false);
     list.addItem(row);
-    EXPECT_EQ(line(0), "\u25A1\u25A1Sales                 4711");
+    EXPECT_EQ(line(0), "\u25A1\u25A1Sales                4711");
     row->setPrefix(text("HD"));
     EXPECT_EQ(row->getText(), text("HD Sales 4711"));
     for (const int state : {10, -1, 1000}) {
@@ -113,7 +113,7 @@ TEST_F(CallRowsTest, APausedCallBackShowsItself)
     auto* row = new CallBackListItemMEG(text("Bob"), CallBackListItemMEG::Busy, CallBackListItemMEG::Paused,
         static_cast<CallBackListItemMEG::IconType>(4), text("2001-02-03 10:42"));
     list.addItem(row);
-    EXPECT_EQ(line(0), "\u25A1\u25A1Bob             2001-02-03");
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob            2001-02-03");
     EXPECT_EQ(row->getItemType(), VantoListBoxItemMEG::CallBackRow);
 }
 

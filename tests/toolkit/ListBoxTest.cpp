@@ -426,7 +426,7 @@ TEST_F(ListBoxTest, ARowDividesItsLine)
     rows[0]->setRightText(text("4712"));
     EXPECT_EQ(line(0), "A name that is far too 4712");
     rows[0]->setIcon(50);
-    EXPECT_EQ(line(0), "\u25A1\u25A1A name that is far to 4712");
+    EXPECT_EQ(line(0), "\u25A1\u25A1A name that is far t 4712");
     rows[0]->setIcon(0);
     rows[0]->setRightText(UString());
     rows[0]->setText(text("OK?                         Abc"));

@@ -94,7 +94,7 @@ TEST_F(TreeItemTest, OneCallTakesBothLines)
     row->setSecondLineText(text("second line of the call"));
     list.addItem(row);
     advance(42000);
-    EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712             0:42>");
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712            0:42>");
     EXPECT_EQ(line(1), "second line of the call    ");
     EXPECT_FALSE(isInverse(0));
 }
@@ -106,16 +106,16 @@ TEST_F(TreeItemTest, ASecondCallStandsBelowTheFirst)
     carol->setPrePrefixText(text("2"));
     list.addItem(bob);
     list.addItem(carol);
-    EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712             0:00>");
-    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713          0:00");
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712            0:00>");
+    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00");
     EXPECT_TRUE(isInverse(0));
 
     carol->setSecondLineText(text("consultation"));
     press(UGlobal::KeyDown);
-    EXPECT_EQ(line(0), "\u25A1\u25A12 Carol 4713         0:00>");
+    EXPECT_EQ(line(0), "\u25A1\u25A12 Carol 4713        0:00>");
     EXPECT_EQ(line(1), "consultation              ^");
     press(UGlobal::KeyUp);
-    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713          0:00") << "the second line shows on the current row only";
+    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00") << "the second line shows on the current row only";
 }
 
 TEST_F(TreeItemTest, MarksTakeTheirRoomFromTheText)
@@ -192,7 +192,7 @@ TEST_F(TreeItemTest, TheHighlightGoesThroughTheMembers)
 {
     TreeItemMEG* conference = addConference();
     list.addItem(call("Dave"));
-    EXPECT_EQ(line(0), "\u25A1\u25A1Conference           0:00>");
+    EXPECT_EQ(line(0), "\u25A1\u25A1Conference          0:00>");
     EXPECT_EQ(line(1), "  Bob 4712                v");
     EXPECT_TRUE(isInverse(0));
 
