@@ -238,6 +238,18 @@ TEST_F(ListBoxTest, TheWidgetRelaysOnlyWhatNobodyElseHears)
     EXPECT_TRUE(outer.keys.empty()) << "a relay passes events, no keys";
 }
 
+TEST_F(ListBoxTest, AWidgetMayHandItsKeysOnToItsList)
+{
+    struct KeyList : VantoListBoxWithTitleMEG {
+        bool keyEvent(UKeyEvent* key) override { return list()->keyEvent(key); }
+    };
+    KeyList outer;
+    addRows(*outer.list(), {"a", "b"});
+    UKeyEvent down(UGlobal::KeyDown, UGlobal::KeyPressed);
+    EXPECT_TRUE(outer.keyEvent(&down)) << "and is not asked for them again";
+    EXPECT_EQ(outer.list()->currentIndex(), 1);
+}
+
 // Ownership
 
 TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
@@ -424,6 +436,19 @@ TEST_F(ListBoxTest, WithoutATitleTheCurrentOfTwoRowsIsInverse)
     EXPECT_FALSE(isInverse(1));
     list.setCurrentIndex(2);
     EXPECT_TRUE(isInverse(1)) << "a row that becomes current has its bar again";
+}
+
+TEST_F(ListBoxTest, TheViewStaysWhenRowsComeAndGoAboveIt)
+{
+    auto rows = addRows(list, {"a", "b", "c", "d", "e"});
+    list.setCurrentIndex(3);
+    list.setCurrentIndex(2);
+    list.insertItem(new VantoListBoxItemMEG, 0);
+    EXPECT_EQ(line(0), whole("c"));
+    list.setCurrentIndex(4);
+    delete rows[0];
+    EXPECT_EQ(line(0), whole("c"));
+    EXPECT_TRUE(isInverse(1));
 }
 
 TEST_F(ListBoxTest, ARowDividesItsLine)
