@@ -45,11 +45,9 @@ private:
     };
     using ItemQueue = std::deque<std::pair<ItemType, void*>>;
     struct State;
-    struct Delivery;
 
     static State& state();
     static void callWorker();
-    static bool takeFirst(State& state, Delivery& delivery);
 
     static Semaphore& itemQueueSemaphore;
     static ItemQueue& itemQueue GUARDED_BY(itemQueueSemaphore);

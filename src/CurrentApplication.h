@@ -13,6 +13,13 @@ inline constexpr int Qvt = 1;
 inline constexpr int Other = 2;
 }
 
+inline int softwareTypeNumber(const std::string& name)
+{
+    if (name == "Zelmark SIP")
+        return SoftwareType::Sip;
+    return name == "Zelmark QVT" ? SoftwareType::Qvt : SoftwareType::Other;
+}
+
 // What is asked of the current application; without one there are answers too.
 
 inline std::string currentApplicationName()

@@ -162,11 +162,15 @@ private:
 
     // Screen text
 
+    bool hasSubscriber();
     std::string serialiseScreens(const std::vector<Rect>& rects);
-    std::string statusMessageText();
-    void appendVolume(std::string& text);
+    std::string serialiseStatusMessage() const;
+    void appendVolumeIndicator(std::string& text) const;
+    void appendFPKBar(std::string& text) const;
     std::string serialiseSystemWindow(const std::string& content, const std::string& statusPart);
-    bool findSecondLine(const std::string& content, std::string& line);
+
+    /// The second line of the system window as it is written; empty if it isn't.
+    std::string secondLineText(const std::string& content);
 
     // System window
 

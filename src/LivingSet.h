@@ -1,33 +1,133 @@
 #pragma once
 
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <mutex>
-#include <unordered_set>
+#include <vector>
 
 namespace DisplayAPI {
 
-/// The living objects of a kind, asked by address before a pointer is followed. Threads: any.
+/// The living objects of a kind, asked by address before a pointer is followed.
+///
+/// Threads: any. Asking takes no lock, since it comes with every action of the user and every listener.
+/// An answer about an object is right when its add() or remove() happened before the question.
 template <typename T>
 class LivingSet {
 public:
+    LivingSet() { useTableOf(SmallestTable); }
+    LivingSet(const LivingSet&) = delete;
+    LivingSet& operator=(const LivingSet&) = delete;
+
     void add(const T* object)
     {
         std::lock_guard lock(mMutex);
-        mObjects.insert(object);
+        if (find(*mTable, object) != NotFound)
+            return;
+        if (++mCount * 2 > mTable.load()->size)
+            useTableOf(mTable.load()->size * 2);
+        put(*mTable, object);
     }
+
     void remove(const T* object)
     {
         std::lock_guard lock(mMutex);
-        mObjects.erase(object);
+        const std::size_t slot = find(*mTable, object);
+        if (slot == NotFound)
+            return;
+        --mCount;
+        // Others move to new slots meanwhile: whoever looks for them must look again.
+        mMoves.store(mMoves + 1, std::memory_order_relaxed);
+        closeGap(*mTable, slot);
+        mMoves.store(mMoves + 1, std::memory_order_release);
     }
+
     bool contains(const T* object) const
     {
+        const unsigned int moves = mMoves.load(std::memory_order_acquire);
+        const bool isFound = find(*mTable.load(std::memory_order_acquire), object) != NotFound;
+        if (moves % 2 == 0 && mMoves.load(std::memory_order_relaxed) == moves)
+            return isFound;
         std::lock_guard lock(mMutex);
-        return mObjects.contains(object);
+        return find(*mTable, object) != NotFound;
     }
 
 private:
-    mutable std::mutex mMutex;
-    std::unordered_set<const T*> mObjects;
+    static constexpr std::size_t SmallestTable = 64;
+    static constexpr std::size_t NotFound = SIZE_MAX;
+
+    /// Open addressing with linear probing; half of the slots at most are in use.
+    struct Table {
+        explicit Table(std::size_t theSize)
+            : size(theSize)
+            , slots(std::make_unique<std::atomic<const T*>[]>(theSize))
+        {
+        }
+        std::size_t home(const T* object) const
+        {
+            constexpr std::uint64_t goldenRatio = 0x9E3779B97F4A7C15U;
+            return static_cast<std::size_t>(reinterpret_cast<std::uintptr_t>(object) * goldenRatio >> 32) & (size - 1);
+        }
+        std::size_t next(std::size_t slot) const { return (slot + 1) & (size - 1); }
+
+        const std::size_t size; // a power of two
+        std::unique_ptr<std::atomic<const T*>[]> slots;
+    };
+
+    static std::size_t find(const Table& table, const T* object)
+    {
+        std::size_t slot = table.home(object);
+        for (std::size_t tries = 0; tries < table.size; ++tries) {
+            const T* found = table.slots[slot].load(std::memory_order_acquire);
+            if (!found)
+                return NotFound;
+            if (found == object)
+                return slot;
+            slot = table.next(slot);
+        }
+        return NotFound;
+    }
+
+    static void put(Table& table, const T* object)
+    {
+        std::size_t slot = table.home(object);
+        while (table.slots[slot].load(std::memory_order_relaxed))
+            slot = table.next(slot);
+        table.slots[slot].store(object, std::memory_order_release);
+    }
+
+    /// Empties a slot, and moves up what was put behind it for want of room.
+    static void closeGap(Table& table, std::size_t gap)
+    {
+        table.slots[gap].store(nullptr, std::memory_order_release);
+        for (std::size_t slot = table.next(gap);; slot = table.next(slot)) {
+            const T* object = table.slots[slot].exchange(nullptr, std::memory_order_acq_rel);
+            if (!object)
+                return;
+            put(table, object);
+        }
+    }
+
+    void useTableOf(std::size_t size)
+    {
+        auto larger = std::make_unique<Table>(size);
+        if (const Table* table = mTable) {
+            for (std::size_t slot = 0; slot < table->size; ++slot) {
+                if (const T* object = table->slots[slot])
+                    put(*larger, object);
+            }
+        }
+        mTable.store(larger.get(), std::memory_order_release);
+        // The smaller ones stay, all of them no larger than the last: somebody may be reading one.
+        mTables.push_back(std::move(larger));
+    }
+
+    mutable std::mutex mMutex;            // of those who change it
+    std::atomic<unsigned int> mMoves = 0; // odd while objects change their slots
+    std::atomic<Table*> mTable = nullptr;
+    std::size_t mCount = 0;
+    std::vector<std::unique_ptr<Table>> mTables;
 };
 
 }

@@ -3,6 +3,7 @@
 #include <DisplayAPI/Export.h>
 
 #include <string>
+#include <unordered_set>
 
 class Semaphore;
 class TranslationInfo;
@@ -70,6 +71,10 @@ public:
     static void tidyup();
 
 private:
+    // Never destroyed. The lock is made at the first use: take it by commandListMutex().
+    static std::unordered_set<const Command*>& gAllCommands;
+    static Semaphore* gCommandListMutex;
+
     std::string mLabel;
     Type mType;
     bool mUseAlternativeDisplay = false;

@@ -79,12 +79,12 @@ TEST(ThreadableTest, TheIdIsKnownBeforeTheThreadRuns)
 
 TEST(ThreadableTest, NoTwoThreadsHaveOneId)
 {
-    std::vector<std::future<unsigned int>> results;
-    for (int i = 0; i < 16; ++i) {
-        results.push_back(std::async(std::launch::async, [] {
+    std::vector<std::future<unsigned int>> results(16);
+    for (auto& result : results) {
+        result = std::async(std::launch::async, [] {
             const unsigned int id = Threadable::currentThreadId();
             return id == Threadable::currentThreadId() ? id : 0;
-        }));
+        });
     }
     std::set<unsigned int> ids{Threadable::currentThreadId()};
     for (auto& result : results)

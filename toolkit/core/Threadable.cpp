@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <climits>
 #include <condition_variable>
 #include <mutex>
@@ -25,11 +26,13 @@ unsigned int newThreadId()
     return id;
 }
 
+/// Whether the calling thread is detached. Without memory for the answer it is yes: a thread that nobody joins
+/// is a leak, one that is detached twice is undefined.
 bool isDetached()
 {
     pthread_attr_t attributes;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0)
-        return false;
+        return true;
     int state = PTHREAD_CREATE_JOINABLE;
     pthread_attr_getdetachstate(&attributes, &state);
     pthread_attr_destroy(&attributes);
@@ -64,6 +67,8 @@ public:
         pthread_attr_setschedparam(&mAttributes, &parameters);
         pthread_attr_setinheritsched(&mAttributes, PTHREAD_EXPLICIT_SCHED);
     }
+
+    void inheritPriority() { pthread_attr_setinheritsched(&mAttributes, PTHREAD_INHERIT_SCHED); }
 
     const pthread_attr_t* get() const { return &mAttributes; }
 
@@ -234,12 +239,21 @@ bool Threader::start(Threadable* job, const std::string& name, int priority, int
     // From here on the job may run and delete itself at any moment.
     const std::shared_ptr<Threadable::Body> body = job->mBody;
     auto launch = std::make_unique<Threadable::Body::Launch>(job, body, name.substr(0, longestName));
-    pthread_t thread{};
-    if (pthread_create(&thread, attributes.get(), &Threadable::Body::Launch::run, launch.get()) != 0) {
+    const auto create = [&] {
+        pthread_t thread{};
+        return pthread_create(&thread, attributes.get(), &Threadable::Body::Launch::run, launch.get());
+    };
+    int error = create();
+    if (error == EPERM) {
+        // This process may not raise the priority: a thread with the caller's is better than none.
+        attributes.inheritPriority();
+        error = create();
+    }
+    if (error != 0) {
         launch->job = nullptr;
         body->cancel();
         return false;
     }
-    launch.release();
+    static_cast<void>(launch.release());
     return true;
 }

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 /// The labels of the function keys, on the third line of the glass.
 ///
@@ -62,7 +63,8 @@ private:
     /// The key's entry, made on first use; null for a negative number.
     Key* entry(int key);
     const std::string& shownLabel(const Key& key) const;
-    void contentChanged();
+    std::vector<const Key*> labelledKeys() const;
+    void updateFlashing();
 
     std::map<int, Key> mKeys;
     bool mIsShifted = false;

@@ -2,14 +2,13 @@
 
 #include "PopupNotificationMEG.h"
 
-#include <memory>
-
 class VantoListBoxMEG;
 
 /// A notification with a list of rows on its second line, and the keys for it.
 ///
 /// What the list box raises goes to the list box's own listener; without one the popup passes it on to its
-/// own, with source and payload kept. Keys that nobody uses are taken and dropped.
+/// own, with source and payload kept. While the popup has the focus it takes every key, also those that
+/// nobody uses.
 /// Threads, Ownership: as PopupBaseMEG; the list box is the popup's child.
 class TOOLKIT_EXPORT PopupWithListMEG : public PopupNotificationMEG {
 public:
@@ -20,6 +19,9 @@ public:
 
     // Overrides
 
+    void setListScrollable(bool scrollable) override;
+    void setDownArrowDisplayable(bool displayable) override;
+    void event(UEvent* event) override;
     bool keyEvent(UKeyEvent* key) override;
     void paint(UPainter& painter) override;
     bool paintsChildren() const override { return true; }
@@ -32,36 +34,37 @@ protected:
 
     bool coversGlass() const override { return true; }
 
-    /// Whether a move of the user is told as PopupRowMoved instead of RowMoved.
-    virtual bool raisesPopupRowMoved() const = 0;
+    /// What stands on the first line.
+    virtual Line headLine() const { return line1(); }
 
     /// Whether the second line shows line 2 and not the current row.
     virtual bool isLine2Shown() const = 0;
 
+    bool hasRows() const;
+
 private:
-    class ListRelay;
-
-    bool moveRow(UKeyEvent* key);
-    bool isMoveAllowed() const;
-    void paintLine2(UPainter& painter) const;
-    void paintRow(UPainter& painter) const;
-
-    std::unique_ptr<ListRelay> mRelay;
+    void updateArrows();
 };
 
 /// The popup of a call that is not connected yet: its state, one or two parties, and the choices.
 ///
-/// While line 2 has a text that no row repeats, it holds the second line, and the first move is told as
-/// PopupRowMoved, upon which the application empties line 2 and so gives the line to the rows. Every other move
-/// is RowMoved.
+/// A line 2 that no row repeats holds the second line until the first move, which gives the line to the
+/// current row. While line 2 is set, moves are PopupRowMoved, else RowMoved.
 class TOOLKIT_EXPORT PopupCallMEG : public PopupWithListMEG {
 public:
     PopupCallMEG();
     ~PopupCallMEG() override;
 
+    bool keyEvent(UKeyEvent* key) override;
+
 protected:
-    bool raisesPopupRowMoved() const override;
+    void upChanged() override;
     bool isLine2Shown() const override;
+
+private:
+    bool hasLine2Row() const;
+
+    UString mLine2GivenWay; // the line 2 whose place the rows have taken
 };
 
 /// A question with a list of choices, told as PopupRowMoved, RowChosen and LeftPressed.
@@ -73,6 +76,6 @@ public:
     ~PopupDialogMEG() override;
 
 protected:
-    bool raisesPopupRowMoved() const override { return true; }
+    Line headLine() const override;
     bool isLine2Shown() const override;
 };

@@ -4,6 +4,7 @@
 #include "UString.h"
 #include "UWidget.h"
 
+#include <cstddef>
 #include <string>
 
 /// A message in the place of the first line, over all screens, until it is deleted.
@@ -17,7 +18,8 @@ public:
     StatusMessageMEG(const std::string& text, unsigned int start, unsigned int duration);
     ~StatusMessageMEG() override;
 
-    std::string text() const { return mText.toUTF8(); }
+    /// The text as it was given.
+    std::string text() const { return mText; }
 
     /// The message in the screen text: on software type 1 the text in one line, on others a block.
     UString serialise() const;
@@ -31,7 +33,8 @@ public:
     Layer layer() const override { return Layer::StatusMessage; }
 
 private:
-    UString mText;
+    std::string mText;
+    UString mShownText;
     unsigned int mDuration;
     std::size_t mFirstUnit = 0; // of the part that is shown
     UTimer mTimer;

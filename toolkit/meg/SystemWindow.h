@@ -89,15 +89,19 @@ private:
         unsigned short number;
         bool isShown;
     };
+    static constexpr int TimerColumns = 9; // hh:mm:ss behind a blank
+    static constexpr int ClockColumns = 6; // hh:mm behind a blank
 
-    static bool parseTime(const std::string& text, std::uint64_t& milliseconds);
-    static std::string formatTime(std::uint64_t milliseconds, bool withSeconds);
     std::uint64_t clockTime() const;
     std::uint64_t timerTime() const;
     bool isClockShown() const { return mIsTimeShown && mIsTimeSet; }
     void setIcon(std::size_t index, bool shown);
-    int paintRightSide(UPainter& painter) const;
+    void setTimerValue(std::uint64_t value);
     void contentChanged();
+
+    /// The columns that icons, timer and clock take at the right edge of the first line.
+    int rightSideColumns() const;
+    void paintRightSide(UPainter& painter, int column) const;
 
     std::array<std::string, LineCount> mTexts;
     std::array<Icon, 3> mIcons;
@@ -106,7 +110,8 @@ private:
 
     bool mIsTimeShown = false;
     bool mIsTimeSet = false;
-    std::uint64_t mMidnight = 0; // of the clock, on the loop's, moved by a day to stay positive
+    std::uint64_t mClockValue = 0; // milliseconds since midnight at mClockStart
+    std::uint64_t mClockStart = 0;
 
     bool mIsTimerShown = false;
     bool mIsTimerRunning = false;

@@ -1,0 +1,90 @@
+#include "Options.h"
+
+#include "UsageError.h"
+
+#include <CLI/CLI.hpp>
+
+namespace Simulator {
+
+namespace {
+
+constexpr const char* Description = "The telephone on a workstation.\n\n"
+                                    "Keys in the terminal: the arrows, Enter (OK), 0 to 9, * and #, Backspace (left),\n"
+                                    "Delete (clear), F1 to F8; q leaves.";
+
+struct Wishes {
+    Options options;
+    bool tour = false;
+    double patienceInSeconds = 5;
+    std::string model = "plain";
+};
+
+void addModes(CLI::App& app, Wishes& wishes)
+{
+    CLI::Option* script
+        = app.add_option("--script", wishes.options.script, "Play a script, and end")->type_name("FILE");
+    CLI::Option* tour = app.add_flag("--tour", wishes.tour, "Play the tour: print each screen, drawn and as text");
+    CLI::Option* text = app.add_flag("--text", wishes.options.text, "Print the text of the first screen, and end");
+    CLI::Option* shot
+        = app.add_option("--shot", wishes.options.shot, "Write the first screen as a PNG picture, and end")
+              ->type_name("FILE");
+    script->excludes(tour)->excludes(text)->excludes(shot);
+    tour->excludes(text)->excludes(shot);
+}
+
+void addSettings(CLI::App& app, Wishes& wishes)
+{
+    app.add_option("--scale", wishes.options.scale, "Size of a pixel in pictures")
+        ->check(CLI::Range(1, 32))
+        ->capture_default_str()
+        ->type_name("N");
+    app.add_option("--font", wishes.options.font, "A bitmap font of 6x13 pixels")->type_name("FILE");
+    app.add_option("--timeout", wishes.patienceInSeconds, "How long a script waits for a text, in seconds")
+        ->check(CLI::Range(0.0, 3600.0))
+        ->capture_default_str()
+        ->type_name("S");
+    app.add_option("--lines", wishes.options.hardware.displayLines, "Lines of the display")
+        ->check(CLI::Range(2, 3))
+        ->capture_default_str()
+        ->type_name("N");
+    app.add_option("--model", wishes.model, "Of the telephone: plain, rx40 or rx70")
+        ->check(CLI::IsMember({"plain", "rx40", "rx70"}, CLI::ignore_case).description(""))
+        ->type_name("NAME");
+}
+
+Options::Mode modeOf(const Wishes& wishes)
+{
+    if (!wishes.options.script.empty())
+        return Options::Mode::Script;
+    if (wishes.tour)
+        return Options::Mode::Tour;
+    return wishes.options.text || !wishes.options.shot.empty() ? Options::Mode::Once : Options::Mode::Terminal;
+}
+
+}
+
+Options parseOptions(int argc, const char* const* argv)
+{
+    CLI::App app(Description);
+    Wishes wishes;
+    app.set_version_flag("--version", "phone " PHONE_VERSION);
+    addModes(app, wishes);
+    addSettings(app, wishes);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        wishes.options.help = app.help();
+    } catch (const CLI::CallForVersion&) {
+        wishes.options.help = app.version() + "\n";
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(std::string(error.what()) + " (see --help)");
+    }
+    Options options = wishes.options;
+    options.mode = options.help.empty() ? modeOf(wishes) : Options::Mode::Help;
+    options.patience = std::chrono::milliseconds(static_cast<long>(wishes.patienceInSeconds * 1000));
+    options.hardware.isRX40 = CLI::detail::to_lower(wishes.model) == "rx40";
+    options.hardware.isRX70 = CLI::detail::to_lower(wishes.model) == "rx70";
+    return options;
+}
+
+}

@@ -1,0 +1,153 @@
+#include "Phone.h"
+
+#include "GuiCall.h"
+
+#include <DisplayAPI/Display.h>
+
+#include <UApplication.h>
+#include <ULoop.h>
+#include <UWindowManager.h>
+
+#include <thread>
+
+namespace Simulator {
+
+namespace {
+
+constexpr std::chrono::seconds AnswerLimit{30};
+constexpr std::chrono::seconds SettleLimit{5};
+constexpr std::chrono::milliseconds Quiet{120};
+
+/// What the process shares with the telephone, put back when it has ended.
+class ToolkitSetup {
+public:
+    ToolkitSetup(const Phone::Settings& settings, const UFont& font, std::function<void()> paintObserver)
+    {
+        HardwareVersion::setAll(settings.hardware);
+        ULoop::instance().setManualClock(settings.clock == Phone::ClockKind::Manual);
+        UWindowManager::instance().setFont(&font);
+        UWindowManager::instance().setPaintObserver(std::move(paintObserver));
+    }
+    ~ToolkitSetup()
+    {
+        UWindowManager::instance().setPaintObserver({});
+        UWindowManager::instance().setFont(nullptr);
+        ULoop::instance().setManualClock(false);
+    }
+    ToolkitSetup(const ToolkitSetup&) = delete;
+    ToolkitSetup& operator=(const ToolkitSetup&) = delete;
+};
+
+}
+
+Phone::Phone(const Settings& settings)
+    : mFont(settings.fontFile)
+    , mSettings(settings)
+{
+}
+
+void Phone::run(const Phonelet& phonelet, const Driver& driver)
+{
+    const ToolkitSetup setup(mSettings, mFont, [this] { publish(); });
+    DisplayAPI::Display display("PhoneSimulator", "en_US", "DD.MM.YYYY", "HH:mm", false, nullptr);
+    mDisplay = &display;
+    display.subscribe(this);
+    std::thread driverThread([this, &driver] { runDriver(driver); });
+
+    std::exception_ptr phoneletError;
+    try {
+        phonelet(display);
+    } catch (...) {
+        phoneletError = std::current_exception();
+    }
+    // From here on nothing runs any more: what the driver waits for is given up.
+    mWatch.end();
+    ULoop::instance().close();
+    driverThread.join();
+    display.unSubscribe();
+    mDisplay = nullptr;
+
+    if (phoneletError)
+        std::rethrow_exception(phoneletError);
+    if (mDriverError)
+        std::rethrow_exception(mDriverError);
+}
+
+void Phone::runDriver(const Driver& driver)
+{
+    try {
+        driver(*this);
+    } catch (...) {
+        mDriverError = std::current_exception();
+    }
+    quit();
+}
+
+void Phone::displayChanged(std::string)
+{
+    // One reading for all changes of this pass. The painting at its end is not enough: some changes paint nothing.
+    if (!mIsPublishPosted.exchange(true))
+        callOnGui([this] { publish(); });
+}
+
+void Phone::publish()
+{
+    const UScreenWE1* screen = UWindowManager::instance().screen();
+    if (!screen || !mDisplay)
+        return;
+    mIsPublishPosted = true; // reading the text may tell of changes, which this reading has seen
+    const std::vector<DisplayAPI::Rect>* rects = mDisplay->getDisplayedRects();
+    const std::string text = rects ? mDisplay->serialiseByRect(*rects, "") : "";
+    mIsPublishPosted = false;
+    mWatch.publish(*screen, text);
+}
+
+bool Phone::onGui(const std::function<void()>& function)
+{
+    std::future<void> done = callOnGuiAfterPainting(function);
+    if (done.wait_for(AnswerLimit) != std::future_status::ready)
+        return false;
+    try {
+        done.get();
+        return true;
+    } catch (const std::future_error&) {
+        return false; // the loop has ended
+    }
+}
+
+void Phone::key(int code, UGlobal::KeyState state)
+{
+    UApplication::instance()->postKey(code, state);
+}
+
+void Phone::tap(int code)
+{
+    key(code, UGlobal::KeyPressed);
+    key(code, UGlobal::KeyReleased);
+}
+
+bool Phone::advance(std::chrono::milliseconds time)
+{
+    return onGui([time] { ULoop::instance().advance(static_cast<std::uint64_t>(time.count())); });
+}
+
+void Phone::quit()
+{
+    callOnGui([this] {
+        if (mDisplay)
+            mDisplay->shutdown();
+    });
+}
+
+bool Phone::finishPosted()
+{
+    return onGui([] {});
+}
+
+void Phone::settle()
+{
+    finishPosted();
+    mWatch.waitUntilQuiet(Quiet, SettleLimit);
+}
+
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "FixedFont.h"
+#include "ScreenWatch.h"
+
+#include <DisplayAPI/DisplayEventIfc.h>
+#include <PhoneSimulator/PhoneSimulator.h>
+
+#include <HardwareVersion.h>
+#include <Types.h>
+
+#include <atomic>
+#include <chrono>
+#include <exception>
+#include <functional>
+#include <string>
+
+namespace Simulator {
+
+/// The telephone without its operator: it runs a phonelet on the GUI thread, while a driver works the keys and
+/// looks at the screen from a thread of its own.
+class Phone : private DisplayAPI::DisplayEventIfc {
+public:
+    enum class ClockKind {
+        Real,
+        Manual, ///< Time stands still except for advance().
+    };
+
+    struct Settings {
+        std::string fontFile; ///< Empty for the system's.
+        HardwareVersion::Set hardware;
+        ClockKind clock = ClockKind::Real;
+    };
+
+    /// Works the telephone; the phonelet is told to end when it returns.
+    using Driver = std::function<void(Phone& phone)>;
+
+    /// Throws UsageError for a font that can't be used.
+    explicit Phone(const Settings& settings);
+
+    /// Runs the phonelet until it returns, and the driver beside it. What one of them throws is thrown on when
+    /// both have ended. The calling thread is the GUI thread from then on.
+    void run(const Phonelet& phonelet, const Driver& driver);
+
+    // For the driver; threads: any
+
+    void key(int code, UGlobal::KeyState state);
+
+    /// Presses the key and releases it.
+    void tap(int code);
+
+    /// Moves a manual clock. False when the telephone did not answer in time, or has ended.
+    bool advance(std::chrono::milliseconds time);
+
+    /// Asks the phonelet to end: its `display.exec()` returns.
+    void quit();
+
+    /// Waits until all that was posted has run and been painted. False when the telephone did not answer in
+    /// time, or has ended.
+    bool finishPosted();
+
+    /// The same, and then waits for the screen to keep still, since the phonelet's own threads may have to
+    /// answer first.
+    void settle();
+
+    ScreenWatch& watch() { return mWatch; }
+    const ScreenWatch& watch() const { return mWatch; }
+
+private:
+    void displayChanged(std::string unused) override;
+    void publish();
+    bool onGui(const std::function<void()>& function);
+    void runDriver(const Driver& driver);
+
+    FixedFont mFont;
+    Settings mSettings;
+    ScreenWatch mWatch;
+    DisplayAPI::Display* mDisplay = nullptr; // while run() lasts
+    std::atomic<bool> mIsPublishPosted = false;
+    std::exception_ptr mDriverError;
+};
+
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+class UScreenWE1;
+
+namespace Simulator {
+
+/// A picture of the screen as it looks on the desk: dark pixels on a green glass in a dark frame.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> bytes; ///< Red, green and blue of each pixel, row by row.
+};
+
+/// Draws the screen with `scale` pixels for each of its own.
+Picture drawPicture(const UScreenWE1& screen, int scale);
+
+/// Writes the picture as a PNG file. Throws std::runtime_error with the file's name when that fails.
+void writePicture(const Picture& picture, const std::string& file);
+
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <chrono>
+#include <istream>
+#include <string>
+#include <vector>
+
+namespace Simulator {
+
+/// One step of a script.
+struct Step {
+    enum class Kind {
+        Press, ///< Presses and releases `keys`, each `count` times.
+        Hold,  ///< Presses the key and holds it down.
+        Release,
+        Expect,    ///< Waits until `text` is on the screen.
+        ExpectNot, ///< Waits until `text` is not on the screen.
+        Advance,   ///< Moves the clock by `time`.
+        Text,      ///< Prints the screen text.
+        Show,      ///< Prints the screen, drawn and as text.
+        Shot,      ///< Writes the screen to the file `text`.
+        Say,       ///< Prints `text`.
+    };
+
+    Kind kind = Kind::Press;
+    int line = 0;
+    std::string source; ///< The step as it stands in the script.
+    std::vector<int> keys;
+    int count = 1;
+    std::string text;
+    std::chrono::milliseconds time{};
+};
+
+/// The steps of a script, and the name for its messages.
+struct Script {
+    std::string name;
+    std::vector<Step> steps;
+};
+
+/// Reads a script: one step a line; a line that starts with `#` is a comment. Throws UsageError, with the name
+/// and the line, for a step that is none.
+Script parseScript(std::istream& input, const std::string& name);
+
+/// Reads a script file. Throws UsageError also when it can't be read.
+Script readScript(const std::string& file);
+
+}

@@ -1,0 +1,98 @@
+#include "ScriptRunner.h"
+
+#include "BlockDrawing.h"
+#include "Phone.h"
+#include "Picture.h"
+#include "ScreenText.h"
+
+#include <ostream>
+#include <stdexcept>
+
+namespace Simulator {
+
+void printScreen(const Snapshot& snapshot, std::ostream& output)
+{
+    for (const std::string& line : drawFramedBlocks(snapshot.screen))
+        output << line << "\n";
+    output << snapshot.text << std::endl;
+}
+
+ScriptRunner::ScriptRunner(Phone& phone, const Settings& settings, std::ostream& output, std::ostream& errors)
+    : mPhone(phone)
+    , mSettings(settings)
+    , mOutput(output)
+    , mErrors(errors)
+{
+}
+
+int ScriptRunner::run(const Script& script)
+{
+    int failures = 0;
+    for (const Step& step : script.steps) {
+        const std::string reason = mPhone.watch().hasEnded() ? "the phonelet has ended before this step" : play(step);
+        if (reason.empty())
+            continue;
+        ++failures;
+        mErrors << script.name << ":" << step.line << ": " << step.source << ": " << reason << std::endl;
+        if (mPhone.watch().hasEnded())
+            break;
+    }
+    return failures;
+}
+
+std::string ScriptRunner::play(const Step& step)
+{
+    switch (step.kind) {
+    case Step::Kind::Press:
+        for (int key : step.keys) {
+            for (int count = 0; count < step.count; ++count)
+                mPhone.tap(key);
+        }
+        return "";
+    case Step::Kind::Hold:
+        mPhone.key(step.keys.front(), UGlobal::KeyPressed);
+        mPhone.key(step.keys.front(), UGlobal::KeyHeld);
+        return "";
+    case Step::Kind::Release: mPhone.key(step.keys.front(), UGlobal::KeyReleased); return "";
+    case Step::Kind::Expect:
+    case Step::Kind::ExpectNot: return expect(step);
+    case Step::Kind::Advance: return mPhone.advance(step.time) ? "" : "the telephone does not answer";
+    case Step::Kind::Text: mOutput << settledScreen().text << std::flush; return "";
+    case Step::Kind::Show: Simulator::printScreen(settledScreen(), mOutput); return "";
+    case Step::Kind::Shot: return writeShot(step.text);
+    case Step::Kind::Say: mOutput << step.text << std::endl; return "";
+    }
+    return "";
+}
+
+std::string ScriptRunner::expect(const Step& step)
+{
+    const bool isWanted = step.kind == Step::Kind::Expect;
+    const auto isAsWanted = [&](const Snapshot& snapshot) {
+        return snapshot.number != 0 && containsField(snapshot.text, step.text) == isWanted;
+    };
+    // What came before may still be on its way to the screen; look only at what follows from it.
+    mPhone.finishPosted();
+    if (mPhone.watch().waitFor(isAsWanted, mSettings.patience))
+        return "";
+    return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text
+        + "\", the screen has: " + inOneLine(mPhone.watch().snapshot().text);
+}
+
+std::string ScriptRunner::writeShot(const std::string& file)
+{
+    try {
+        writePicture(drawPicture(settledScreen().screen, mSettings.scale), file);
+        return "";
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
+
+Snapshot ScriptRunner::settledScreen()
+{
+    mPhone.settle();
+    return mPhone.watch().snapshot();
+}
+
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Script.h"
+
+#include <chrono>
+#include <iosfwd>
+#include <string>
+
+namespace Simulator {
+
+class Phone;
+struct Snapshot;
+
+/// Plays a script on a telephone.
+class ScriptRunner {
+public:
+    struct Settings {
+        std::chrono::milliseconds patience{5000}; ///< How long an expected text may take.
+        int scale = 4;                            ///< Of the pictures.
+    };
+
+    /// What the script prints goes to `output`, a line for each failed step to `errors`.
+    ScriptRunner(Phone& phone, const Settings& settings, std::ostream& output, std::ostream& errors);
+
+    /// Plays every step, also after a failed one. Returns how many failed; none are played once the phonelet
+    /// has ended. Threads: not the GUI thread.
+    int run(const Script& script);
+
+private:
+    /// Plays the step; a failure's reason, or nothing.
+    std::string play(const Step& step);
+    std::string expect(const Step& step);
+    std::string writeShot(const std::string& file);
+    Snapshot settledScreen();
+
+    Phone& mPhone;
+    Settings mSettings;
+    std::ostream& mOutput;
+    std::ostream& mErrors;
+};
+
+/// Prints the screen, drawn in a frame and as text.
+void printScreen(const Snapshot& snapshot, std::ostream& output);
+
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "KeyRepeat.h"
+
+#include <string>
+#include <vector>
+
+namespace Simulator {
+
+class Phone;
+class SignalWatch;
+class TerminalSession;
+struct Snapshot;
+
+/// The telephone in a terminal: the glass, the screen text beside or below it, and the keys.
+class TerminalView {
+public:
+    /// Make it, like the signals that it takes, before the telephone runs: it watches the screen from then on.
+    TerminalView(Phone& phone, SignalWatch& signals);
+    ~TerminalView();
+    TerminalView(const TerminalView&) = delete;
+    TerminalView& operator=(const TerminalView&) = delete;
+
+    /// Shows the telephone until the user leaves or the phonelet ends. Threads: not the GUI thread.
+    void run();
+
+private:
+    enum class Command { None, Leave };
+
+    void waitForSomething();
+    Command handleSignals(TerminalSession& session);
+    Command handleKeys();
+    void post(const std::vector<KeyRepeat::Stroke>& strokes);
+    void draw() const;
+    void drawTooSmall() const;
+    void drawGlass(const Snapshot& snapshot) const;
+    void drawText(const std::string& text, int lineBelow) const;
+    int glassHeight(const Snapshot& snapshot) const;
+
+    Phone& mPhone;
+    SignalWatch& mSignals;
+    KeyRepeat mRepeat;
+    int mInput;
+    int mWakeDescriptor;
+    bool mIsHungUp = false; // the terminal has gone
+    bool mIsLeaving = false;
+};
+
+}

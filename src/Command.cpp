@@ -1,0 +1,99 @@
+#include <DisplayAPI/Command.h>
+
+#include "CommandExecutor.h"
+
+#include <Semaphore.h>
+#include <TranslationInfo.h>
+#include <UApplication.h>
+
+namespace DisplayAPI {
+
+namespace {
+
+bool isHardwareVariantOne()
+{
+    const VantoUApplication* application = VantoUApplication::getCurrentApplication();
+    return application && application->getHardwareVariant() == 1;
+}
+
+// Neither the set nor its lock is ever destroyed: well-known commands die behind main().
+std::unordered_set<const Command*>& allCommands()
+{
+    static std::unordered_set<const Command*>& instance = *new std::unordered_set<const Command*>;
+    return instance;
+}
+
+}
+
+std::unordered_set<const Command*>& Command::gAllCommands = allCommands();
+Semaphore* Command::gCommandListMutex = nullptr;
+
+Command::Command(const std::string& label, Type type)
+    : mLabel(label)
+    , mType(type)
+{
+    addCommand(this);
+}
+
+Command::Command(TranslationInfo* translation, Type type)
+    : mType(type)
+    , mTranslation(translation)
+{
+    addCommand(this);
+}
+
+Command::~Command()
+{
+    CommandExecutor::retrieveCommand(nullptr, this, nullptr);
+    CriticalSection section(commandListMutex());
+    removeCommand(this);
+    delete mTranslation;
+    mTranslation = nullptr;
+}
+
+std::string Command::getText() const
+{
+    CriticalSection section(commandListMutex());
+    if (!mTranslation)
+        return mLabel;
+    return isHardwareVariantOne() ? mTranslation->getString() : mTranslation->getCompleteString();
+}
+
+std::string Command::getBasicText() const
+{
+    return mTranslation ? mTranslation->getString() : mLabel;
+}
+
+bool Command::isSameAs(const Command& other) const
+{
+    return mLabel == other.mLabel && mType == other.mType && mUseAlternativeDisplay == other.mUseAlternativeDisplay
+        && mTranslation == other.mTranslation;
+}
+
+bool Command::exists(const Command* command)
+{
+    CriticalSection section(commandListMutex());
+    return allCommands().contains(command);
+}
+
+void Command::addCommand(Command* command)
+{
+    CriticalSection section(commandListMutex());
+    allCommands().insert(command);
+}
+
+void Command::removeCommand(Command* command)
+{
+    CriticalSection section(commandListMutex());
+    allCommands().erase(command);
+}
+
+Semaphore& Command::commandListMutex()
+{
+    static Semaphore& mutex = *(gCommandListMutex = new Semaphore(Semaphore::AVAILABLE, 1, true));
+    return mutex;
+}
+
+void Command::tidyup() { }
+
+}

@@ -1,0 +1,141 @@
+#include "CallRowsMEG.h"
+#include "ListFixture.h"
+
+#include <ctime>
+
+namespace {
+
+class CallRowsTest : public ListFixture {
+protected:
+    CallRowsTest() { widget->setParent(&root); }
+
+    static CallLogListItemMEG* logRow(const std::string& date, int icon = 4, int count = 1)
+    {
+        return new CallLogListItemMEG(UString("Bob"), UString("4712"), static_cast<CallLogListItemMEG::IconType>(icon),
+            UString(date), count, false, false, false, -1);
+    }
+
+    static std::string today()
+    {
+        const std::time_t now = std::time(nullptr);
+        std::tm local{};
+        localtime_r(&now, &local);
+        char date[16];
+        std::strftime(date, sizeof date, "%Y-%m-%d", &local);
+        return date;
+    }
+
+    VantoListBoxWithTitleMEG* widget = new VantoListBoxWithTitleMEG;
+    VantoListBoxMEG& list = *widget->list();
+};
+
+}
+
+TEST_F(CallRowsTest, AMomentIsTakenApartOnlyInItsOwnForm)
+{
+    struct Case {
+        std::string moment;
+        std::string date;
+        std::string time;
+    };
+    for (const Case& one : {
+             Case{"2001-02-03 10:42", "2001-02-03", "10:42"},
+             Case{"yesterday", "yesterday", "yesterday"},
+             Case{"2001-02-03", "2001-02-03", "2001-02-03"},
+             Case{"2001-02-03 10:42 ", "2001-02-03 10:42 ", "2001-02-03 10:42 "},
+             Case{"2001-02-0a 10:42", "2001-02-0a 10:42", "2001-02-0a 10:42"},
+             Case{"", "", ""},
+         }) {
+        SCOPED_TRACE(one.moment);
+        const CallMomentMEG moment(text(one.moment));
+        EXPECT_EQ(moment.date().toUTF8(), one.date);
+        EXPECT_EQ(moment.time().toUTF8(), one.time);
+        EXPECT_FALSE(moment.isPresentDay());
+    }
+    // Midnight may pass between the two looks at the calendar.
+    std::string day;
+    bool isPresentDay = false;
+    do {
+        day = today();
+        isPresentDay = CallMomentMEG(text(day + " 10:42")).isPresentDay();
+    } while (day != today());
+    EXPECT_TRUE(isPresentDay);
+}
+
+TEST_F(CallRowsTest, ACallLogRowShowsWhoAndWhen)
+{
+    auto* row = logRow("2001-02-03 10:42");
+    list.addItem(row);
+    list.addItem(logRow("soon", 4, 2));
+    EXPECT_EQ(line(0), "Bob 4712       2001-02-03  ");
+    EXPECT_EQ(line(1), "Bob 4712          2  soon  ");
+    EXPECT_EQ(row->getDisplayedText(), text("Bob 4712"));
+    EXPECT_EQ(row->getItemType(), VantoListBoxItemMEG::CallLogRow);
+
+    list.hideHighlightBar();
+    line(0);
+    const UScreenWE1 thin = screen;
+    row->setBold(true);
+    line(0);
+    EXPECT_FALSE(screen == thin) << "calls that nobody has looked at stand out";
+    row->setBold(false);
+    line(0);
+    EXPECT_TRUE(screen == thin);
+}
+
+TEST_F(CallRowsTest, ARowWithoutANameShowsTheNumberAlone)
+{
+    const CallLogListItemMEG row(
+        UString(), text("4712"), static_cast<CallLogListItemMEG::IconType>(4), UString(), 1, false, true, true, -1);
+    EXPECT_EQ(row.getDisplayedText(), text("4712"));
+    EXPECT_TRUE(row.completedElsewhere());
+}
+
+TEST_F(CallRowsTest, ALineShowsItsNameAndItsIdentity)
+{
+    auto* row = new LineOverviewListItem(
+        static_cast<LineOverviewListItem::LineStateIconType>(1), text("Sales"), text("4711"), false);
+    list.addItem(row);
+    EXPECT_EQ(line(0), "\u25A1\u25A1Sales                4711");
+    row->setPrefix(text("HD"));
+    EXPECT_EQ(row->getText(), text("HD Sales 4711"));
+    for (const int state : {10, -1, 1000}) {
+        row->setIconType(static_cast<LineOverviewListItem::LineStateIconType>(state));
+        EXPECT_EQ(line(0), "HD Sales               4711") << state;
+    }
+    VantoListBoxItemMEG& plain = *row;
+    plain.setText(text("Support"));
+    EXPECT_EQ(row->getText(), text("HD Support 4711"));
+}
+
+TEST_F(CallRowsTest, APausedCallBackShowsItself)
+{
+    auto* row = new CallBackListItemMEG(text("Bob"), CallBackListItemMEG::Busy, CallBackListItemMEG::Paused,
+        static_cast<CallBackListItemMEG::IconType>(4), text("2001-02-03 10:42"));
+    list.addItem(row);
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob            2001-02-03");
+    EXPECT_EQ(row->getItemType(), VantoListBoxItemMEG::CallBackRow);
+}
+
+TEST_F(CallRowsTest, TheEndlessBarRunsWhileItIsOnTheGlass)
+{
+    auto* row = new InfiniteBarItemMEG;
+    list.addItem(row);
+    line(0);
+    const UScreenWE1 still = screen;
+    ULoop::instance().advance(1000);
+    line(0);
+    EXPECT_TRUE(screen == still) << "nobody has started it";
+
+    row->startInfiniteProgressBar();
+    line(0);
+    const UScreenWE1 first = screen;
+    ULoop::instance().advance(1000);
+    line(0);
+    EXPECT_FALSE(screen == first);
+    ULoop::instance().advance(1200);
+    line(0);
+    EXPECT_TRUE(screen == first) << "it begins again";
+    delete widget;
+    ULoop::instance().advance(1000);
+}

@@ -1,0 +1,469 @@
+#include "ListFixture.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class ListBoxTest : public ListFixture {
+protected:
+    ListBoxTest()
+    {
+        widget->setParent(&root);
+        list.setListener(&agent);
+    }
+
+    RecordingAgent agent;
+    VantoListBoxWithTitleMEG* widget = new VantoListBoxWithTitleMEG;
+    VantoListBoxMEG& list = *widget->list();
+};
+
+}
+
+// Rows and the current row
+
+TEST_F(ListBoxTest, AnInsertionIndexIsClampedAndAKnownRowStays)
+{
+    auto rows = addRows(list, {"b"});
+    list.insertItem(new VantoListBoxItemMEG(text("a")), -5);
+    list.insertItem(new VantoListBoxItemMEG(text("d")), 100);
+    list.insertItem(new VantoListBoxItemMEG(text("c")), 2);
+    list.insertItem(rows[0], 3);
+    list.addItem(nullptr);
+    EXPECT_EQ(texts(list), (Texts{"a", "b", "c", "d"}));
+    EXPECT_EQ(list.currentIndex(), 1) << "the first row that came stays current";
+    EXPECT_EQ(list.item(-1), nullptr);
+    EXPECT_EQ(list.item(4), nullptr);
+}
+
+TEST_F(ListBoxTest, TheCurrentRowSurvivesWhatComesAndGoesAroundIt)
+{
+    auto rows = addRows(list, {"a", "b", "c", "d"});
+    EXPECT_EQ(list.currentIndex(), 0);
+    list.setCurrentIndex(2);
+    std::unique_ptr<VantoListBoxItemMEG> first(rows[0]);
+    list.removeItem(rows[0]);
+    EXPECT_EQ(list.currentItem(), rows[2]);
+    EXPECT_EQ(first->parentWidget(), nullptr);
+
+    delete rows[2];
+    EXPECT_EQ(list.currentItem(), rows[3]) << "the next row takes the place";
+    delete rows[3];
+    EXPECT_EQ(list.currentItem(), rows[1]) << "or the last one";
+    delete rows[1];
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_TRUE(agent.types.empty()) << "operations raise nothing";
+}
+
+TEST_F(ListBoxTest, OnlyIndicesOfTheListAndMinusOneBecomeCurrent)
+{
+    addRows(list, {"a", "b"});
+    list.setCurrentItem(2);
+    list.setCurrentItem(-2);
+    EXPECT_EQ(list.currentIndex(), 0);
+    list.setCurrentItem(-1);
+    EXPECT_EQ(list.currentItem(), nullptr);
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    EXPECT_TRUE(agent.types.empty());
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(list.currentIndex(), 1);
+}
+
+TEST_F(ListBoxTest, ARowMovesToTheListThatTakesIt)
+{
+    VantoListBoxMEG other;
+    auto rows = addRows(list, {"a", "b"});
+    other.addItem(rows[0]);
+    EXPECT_EQ(texts(list), Texts{"b"});
+    EXPECT_EQ(rows[0]->parentWidget(), &other);
+    list.removeItem(rows[0]);
+    EXPECT_EQ(texts(other), Texts{"a"}) << "a list lets go of its own rows only";
+    EXPECT_EQ(list.indexOf(rows[0]), -1);
+}
+
+TEST_F(ListBoxTest, IndicesAreRightAfterAnyMixOfChanges)
+{
+    std::vector<VantoListBoxItemMEG*> expected;
+    unsigned random = 1;
+    for (int round = 0; round < 600; ++round) {
+        random = random * 1103515245u + 12345u;
+        const auto place = static_cast<std::ptrdiff_t>((random >> 8) % (expected.size() + 1));
+        if (random >> 16 & 1 || expected.size() < 3) {
+            auto* row = new VantoListBoxItemMEG;
+            list.insertItem(row, static_cast<int>(place));
+            expected.insert(expected.begin() + place, row);
+        } else if (place < static_cast<std::ptrdiff_t>(expected.size())) {
+            delete expected[static_cast<std::size_t>(place)];
+            expected.erase(expected.begin() + place);
+        }
+        const auto probe = static_cast<std::size_t>(random >> 4) % expected.size();
+        ASSERT_EQ(list.indexOf(expected[probe]), static_cast<int>(probe)) << "round " << round;
+    }
+    for (int index = 0; index < list.count(); ++index)
+        ASSERT_EQ(list.indexOf(expected[static_cast<std::size_t>(index)]), index);
+}
+
+TEST_F(ListBoxTest, ClearDeletesTheRowsFromTheLastToTheFirst)
+{
+    struct Row : VantoListBoxItemMEG {
+        Row(std::vector<int>& deaths, int number)
+            : mDeaths(deaths)
+            , mNumber(number)
+        {
+        }
+        ~Row() override { mDeaths.push_back(mNumber); }
+        std::vector<int>& mDeaths;
+        int mNumber;
+    };
+    std::vector<int> deaths;
+    for (int number = 0; number < 3; ++number)
+        list.addItem(new Row(deaths, number));
+    list.setCurrentIndex(1);
+    list.clear();
+    EXPECT_EQ(deaths, (std::vector<int>{2, 1, 0}));
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_EQ(list.numItems(), 0);
+}
+
+TEST_F(ListBoxTest, TheDeleteRowComesOnceAndFollowsTheLocale)
+{
+    addRows(list, {"Call?"});
+    list.addDeleteItem();
+    list.addDeleteItem();
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(1)->getItemType(), VantoListBoxItemMEG::DeleteRow);
+    EXPECT_EQ(list.getItemByHandle(0), list.item(1));
+    VantoListBoxMEG::setDeleteText(text("Entfernen?"));
+    EXPECT_EQ(texts(list), (Texts{"Call?", "Entfernen?"}));
+    VantoListBoxMEG::setDeleteText(text("Delete?"));
+
+    list.translateBack(text("Zurueck?"));
+    EXPECT_EQ(list.backText(), text("Zurueck?"));
+    list.translateBack(UString());
+    EXPECT_EQ(list.backText(), text("Back?"));
+}
+
+// Keys
+
+TEST_F(ListBoxTest, KeysRaiseOneEventEach)
+{
+    auto rows = addRows(list, {"a", "b", "c"});
+    struct Step {
+        const char* name;
+        int key;
+        int type;
+        int current;
+        UAgent* source;
+    };
+    const Step steps[] = {
+        {"up wraps to the last row", UGlobal::KeyUp, EventType::RowMoved, 2, rows[2]},
+        {"down wraps to the first row", UGlobal::KeyDown, EventType::RowMoved, 0, rows[0]},
+        {"down moves", UGlobal::KeyDown, EventType::RowMoved, 1, rows[1]},
+        {"OK chooses", UGlobal::KeyOk, EventType::RowChosen, 1, rows[1]},
+        {"right leads on", UGlobal::KeyRight, EventType::RightPressed, 1, rows[1]},
+        {"left comes from the list", UGlobal::KeyLeft, EventType::LeftPressed, 1, &list},
+    };
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.name);
+        agent.types.clear();
+        agent.sources.clear();
+        EXPECT_TRUE(press(step.key));
+        EXPECT_EQ(agent.types, std::vector<int>{step.type});
+        EXPECT_EQ(agent.sources, std::vector<UAgent*>{step.source});
+        EXPECT_EQ(list.currentIndex(), step.current);
+    }
+    EXPECT_FALSE(press(UGlobal::Key0)) << "a dial key is somebody else's";
+}
+
+TEST_F(ListBoxTest, WhatCannotHappenRaisesNothing)
+{
+    EXPECT_TRUE(press(UGlobal::KeyDown));
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    auto rows = addRows(list, {"a"});
+    EXPECT_TRUE(press(UGlobal::KeyDown)) << "the only row stays where it is";
+    list.setReadOnly(0, true);
+    list.setReadOnly(7, true);
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    EXPECT_TRUE(agent.types.empty());
+
+    list.disable();
+    EXPECT_FALSE(press(UGlobal::KeyLeft));
+    list.enable();
+    widget->hide();
+    EXPECT_FALSE(press(UGlobal::KeyLeft));
+    EXPECT_TRUE(agent.types.empty());
+}
+
+TEST_F(ListBoxTest, AHoldOrAReleaseDoesNotMove)
+{
+    addRows(list, {"a", "b"});
+    UKeyEvent hold(UGlobal::KeyDown, UGlobal::KeyHeld);
+    UKeyEvent release(UGlobal::KeyDown, UGlobal::KeyReleased);
+    list.keyEvent(&hold);
+    list.keyEvent(&release);
+    EXPECT_EQ(list.currentIndex(), 0);
+}
+
+TEST_F(ListBoxTest, RightChoosesWhenItEqualsOK)
+{
+    addRows(list, {"a"});
+    list.setRightArrowEqualsOK(true);
+    press(UGlobal::KeyRight);
+    EXPECT_EQ(agent.types, std::vector<int>{EventType::RowChosen});
+}
+
+TEST_F(ListBoxTest, AListenerThatUsesAKeyKeepsItFromTheList)
+{
+    addRows(list, {"a", "b"});
+    agent.usesKeys = true;
+    EXPECT_TRUE(press(UGlobal::KeyDown));
+    EXPECT_TRUE(press(UGlobal::Key0));
+    EXPECT_EQ(agent.keys, (std::vector<int>{UGlobal::KeyDown, UGlobal::Key0}));
+    EXPECT_EQ(list.currentIndex(), 0);
+    EXPECT_TRUE(agent.types.empty());
+}
+
+TEST_F(ListBoxTest, TheWidgetRelaysOnlyWhatNobodyElseHears)
+{
+    RecordingAgent outer;
+    widget->setListener(&outer);
+    auto rows = addRows(list, {"a", "b"});
+    press(UGlobal::KeyDown);
+    EXPECT_TRUE(outer.types.empty()) << "the list has a listener of its own";
+
+    list.setListener(widget);
+    outer.usesKeys = true;
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(outer.types, std::vector<int>{EventType::RowChosen});
+    EXPECT_EQ(outer.sources, std::vector<UAgent*>{rows[1]});
+    EXPECT_EQ(outer.payloads, std::vector<UAgent*>{rows[1]});
+    EXPECT_TRUE(outer.keys.empty()) << "a relay passes events, no keys";
+}
+
+// Ownership
+
+TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
+{
+    struct Order {
+        const char* name;
+        int key;
+        std::function<void(RecordingAgent*&, VantoListBoxWithTitleMEG*)> death;
+    };
+    using Widget = VantoListBoxWithTitleMEG;
+    const Order orders[] = {
+        {"the row", UGlobal::KeyOk, [](RecordingAgent*&, Widget* w) { delete w->list()->currentItem(); }},
+        {"all rows", UGlobal::KeyDown, [](RecordingAgent*&, Widget* w) { w->list()->clear(); }},
+        {"the list", UGlobal::KeyRight, [](RecordingAgent*&, Widget* w) { delete w; }},
+        {"the list on left", UGlobal::KeyLeft, [](RecordingAgent*&, Widget* w) { delete w; }},
+        {"the listener", UGlobal::KeyOk,
+            [](RecordingAgent*& dying, Widget*) {
+                // What runs now lives in the listener: keep it until it has returned.
+                auto running = std::make_shared<std::function<void()>>(std::move(dying->onEvent));
+                delete dying;
+                dying = nullptr;
+            }},
+    };
+    for (const Order& order : orders) {
+        SCOPED_TRACE(order.name);
+        auto* shown = new VantoListBoxWithTitleMEG;
+        UPointer<VantoListBoxWithTitleMEG> life(shown);
+        shown->setParent(&root);
+        auto* listener = new RecordingAgent;
+        shown->list()->setListener(listener);
+        addRows(*shown->list(), {"a", "b"});
+        const auto death = order.death;
+        listener->onEvent = [&listener, shown, death] { death(listener, shown); };
+        EXPECT_TRUE(press(order.key));
+        if (life)
+            press(UGlobal::KeyUp);
+        delete listener;
+        delete life.get();
+    }
+}
+
+TEST_F(ListBoxTest, AListMayDieWhileItsListenerLooksAtAKey)
+{
+    addRows(list, {"a", "b"});
+    agent.onKey = [this] { delete widget; };
+    EXPECT_TRUE(press(UGlobal::KeyDown));
+    EXPECT_TRUE(agent.types.empty());
+}
+
+TEST_F(ListBoxTest, RowsMayDieBeforeAndAfterTheirList)
+{
+    auto rows = addRows(list, {"a", "b", "c"});
+    std::unique_ptr<VantoListBoxItemMEG> kept(rows[1]);
+    list.removeItem(rows[1]);
+    delete rows[0];
+    UPointer<VantoListBoxItemMEG> owned(rows[2]);
+    delete widget;
+    EXPECT_FALSE(owned) << "a list deletes the rows that it holds";
+    EXPECT_EQ(kept->getText(), text("b"));
+}
+
+// Screen text
+
+TEST_F(ListBoxTest, TheScreenTextIsTheCurrentRowAlone)
+{
+    EXPECT_EQ(list.screenText().toUTF8(), "");
+    auto rows = addRows(list, {"a", "two\nlines"});
+    list.setCurrentIndex(1);
+    rows[1]->setArrow(true);
+    EXPECT_EQ(list.screenText().toUTF8(), "subitem:\nname:VantoListBoxItem\nstring0:two lines ->\nendsubitem:\n");
+}
+
+TEST_F(ListBoxTest, SetTextsAreUsedUpByTheNextScreenText)
+{
+    addRows(list, {"Bob"});
+    const std::string plain = "subitem:\nname:VantoListBoxItem\nstring0:Bob\nendsubitem:\n";
+    auto setAll = [this](const std::string& notification) {
+        list.setSerialisedNotificationText(notification);
+        list.setSerialisedNotificationIcon("Forwarded\n");
+        list.setSerialisedNotificationSecondIcon("Incoming\n");
+    };
+    setAll("Carol\n4713");
+    EXPECT_EQ(list.screenText().toUTF8(),
+        "subitem:\nname:VantoListBoxItem\nicon0:Forwarded\nicon1:Incoming\nstring0:Bob\nstring1:Carol "
+        "4713\nendsubitem:\n");
+    EXPECT_EQ(list.screenText().toUTF8(), plain);
+
+    list.setSerialisedNotificationText("Bob");
+    EXPECT_EQ(list.screenText().toUTF8(), plain) << "the row says it already";
+
+    setAll("Carol");
+    EXPECT_EQ(list.screenText(std::vector<URect>{}).toUTF8(), "");
+    EXPECT_EQ(list.screenText(std::vector<URect>{{0, 0, 161, 30}}).toUTF8(), plain);
+    EXPECT_EQ(list.screenText(std::vector<URect>{{0, 15, 161, 30}}).toUTF8(), "") << "the row stands on line 0";
+}
+
+// Geometry and painting
+
+TEST_F(ListBoxTest, RowsOutOfViewAreParkedOffTheGlass)
+{
+    auto rows = addRows(list, {"a", "b", "c", "d", "e"});
+    widget->setTitle(text("Title"));
+    list.setCurrentIndex(2);
+    EXPECT_EQ(rows[0]->getRect(), URect(0, -30, 161, -16));
+    EXPECT_EQ(rows[1]->getRect(), URect(0, -15, 161, -1));
+    EXPECT_EQ(rows[2]->getRect(), URect(0, 15, 161, 30));
+    EXPECT_EQ(rows[3]->getRect(), URect(0, 31, 161, 45));
+    EXPECT_EQ(rows[4]->getRect(), URect(0, 46, 161, 60));
+
+    widget->setTitle(UString());
+    EXPECT_EQ(rows[1]->getRect(), URect(0, -15, 161, -1));
+    EXPECT_EQ(rows[2]->getRect(), URect(0, 0, 161, 14));
+    EXPECT_EQ(rows[3]->getRect(), URect(0, 15, 161, 30));
+    EXPECT_EQ(rows[4]->getRect(), URect(0, 31, 161, 45));
+}
+
+TEST_F(ListBoxTest, TheFarthestRowsStayOffTheGlass)
+{
+    for (int number = 0; number < 10000; ++number)
+        list.addItem(new VantoListBoxItemMEG);
+    EXPECT_GT(list.item(9999)->getRect().top(), 30);
+    list.setCurrentIndex(9999);
+    EXPECT_LT(list.item(0)->getRect().bottom(), 0);
+}
+
+TEST_F(ListBoxTest, ARectangleFromOutsideSurvivesTheTitle)
+{
+    list.setCoordinates(3, 0, 157, 13);
+    widget->setTitle(text("Title"));
+    EXPECT_EQ(list.getRect(), URect(3, 0, 157, 13));
+    addRows(list, {"a", "b"});
+    EXPECT_EQ(line(0), "a                          ") << "both lines belong to the rows";
+}
+
+TEST_F(ListBoxTest, ATitleLeavesOneRowInView)
+{
+    auto rows = addRows(list, {"HeadSet", "Speaker", "Ringer"});
+    widget->setTitle(text("Audio"));
+    rows[0]->setArrow(true);
+    EXPECT_EQ(line(0), "Audio                      ");
+    EXPECT_EQ(line(1), "HeadSet                  >v");
+    EXPECT_FALSE(isInverse(1));
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Speaker                   |");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Ringer                    ^");
+    list.setScrollArrows(false);
+    EXPECT_EQ(line(1), "Ringer                     ");
+}
+
+TEST_F(ListBoxTest, WithoutATitleTheCurrentOfTwoRowsIsInverse)
+{
+    auto rows = addRows(list, {"Bob", "Carol", "Dave"});
+    rows[1]->setArrow(true);
+    EXPECT_EQ(line(0), "Bob                        ");
+    EXPECT_EQ(line(1), "Carol                     v") << "the arrow shows on the current row only";
+    EXPECT_TRUE(isInverse(0));
+    EXPECT_FALSE(isInverse(1));
+
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(0), "Bob                        ") << "the view moves only when it must";
+    EXPECT_EQ(line(1), "Carol                    >v");
+    EXPECT_TRUE(isInverse(1));
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(0), "Carol                      ");
+    EXPECT_EQ(line(1), "Dave                      ^");
+
+    list.hideHighlightBar();
+    EXPECT_FALSE(isInverse(1));
+    list.showHighlightBar();
+    EXPECT_TRUE(isInverse(1));
+    rows[2]->clearBackground();
+    EXPECT_FALSE(isInverse(1));
+    list.setCurrentIndex(2);
+    EXPECT_TRUE(isInverse(1)) << "a row that becomes current has its bar again";
+}
+
+TEST_F(ListBoxTest, ARowDividesItsLine)
+{
+    auto rows = addRows(list, {"A name that is far too long for it"});
+    EXPECT_EQ(line(0), "A name that is far too long");
+    rows[0]->setRightText(text("4712"));
+    EXPECT_EQ(line(0), "A name that is far too 4712");
+    rows[0]->setIcon(50);
+    EXPECT_EQ(line(0), "\u25A1\u25A1A name that is far t 4712");
+    rows[0]->setIcon(0);
+    rows[0]->setRightText(UString());
+    rows[0]->setText(text("OK?                         Abc"));
+    EXPECT_EQ(line(0), "OK?                     Abc");
+}
+
+// Radio buttons
+
+TEST_F(ListBoxTest, ARadioListHasExactlyOneSelectedRow)
+{
+    auto* radio = new RadioButtonListMEG;
+    radio->setParent(&root);
+    radio->setListener(&agent);
+    radio->setTitle(text("Speaker:"));
+    EXPECT_EQ(radio->selectedIndex(), -1);
+    auto rows = addRows(*radio->list(), {"HeadSet", "Loud", "Off"});
+    EXPECT_EQ(radio->selectedIndex(), 0);
+    EXPECT_EQ(line(0), "Speaker:                   ");
+    EXPECT_EQ(line(1), "(o) HeadSet               v");
+
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "( ) Loud                  |");
+    int selectedInside = -1;
+    agent.onEvent = [&] { selectedInside = radio->selectedIndex(); };
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(agent.types, (std::vector<int>{EventType::RowMoved, EventType::RowChosen}));
+    EXPECT_EQ(selectedInside, 1) << "the listener finds the new selection";
+    EXPECT_EQ(line(1), "(o) Loud                  |");
+
+    radio->setSelectedIndex(2, 0);
+    radio->setSelectedIndex(3, 0);
+    EXPECT_EQ(radio->selectedIndex(), 2);
+    EXPECT_EQ(radio->list()->currentIndex(), 2);
+    radio->list()->insertItem(new VantoListBoxItemMEG, 0);
+    EXPECT_EQ(radio->selectedIndex(), 3);
+    delete rows[2];
+    EXPECT_EQ(radio->selectedIndex(), 2) << "the current row takes over";
+    radio->list()->clear();
+    EXPECT_EQ(radio->selectedIndex(), -1);
+}

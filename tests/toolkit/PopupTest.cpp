@@ -1,0 +1,543 @@
+#include "GlassTest.h"
+
+#include "PopupCallMEG.h"
+#include "PopupNotificationMEG.h"
+#include "VantoListBoxItemMEG.h"
+#include "VantoListBoxMEG.h"
+
+#include <memory>
+
+namespace {
+
+const std::string Icon = "□□";
+
+class PopupTest : public GlassTest {
+protected:
+    /// A notification on the glass, with a recorder for a listener.
+    PopupNotificationMEG* notification(const std::string& line1, const std::string& line2 = "")
+    {
+        auto* popup = new PopupNotificationMEG;
+        root.addWidget(popup);
+        popup->setListener(&recorder);
+        popup->setText(text(line1));
+        popup->setLine2Text(text(line2));
+        return popup;
+    }
+
+    template <typename Popup>
+    Popup* withRows(const std::vector<std::string>& rows)
+    {
+        auto* popup = new Popup;
+        root.addWidget(popup);
+        popup->setListener(&recorder);
+        popup->setListScrollable(true);
+        popup->setDownArrowDisplayable(true);
+        long handle = 0;
+        for (const std::string& row : rows)
+            popup->listBox->addItem(new VantoListBoxItemMEG(text(row), ++handle, false));
+        return popup;
+    }
+
+    Recorder recorder;
+};
+
+// Up and down
+
+TEST_F(PopupTest, EveryPopupTellsThatItIsUpAndOneDismissalThatItIsDown)
+{
+    auto* popup = notification("Saved");
+    popup->popupAsNotification();
+    popup->popupAsCall();
+    popup->dismiss();
+    popup->dismiss();
+
+    const std::vector<Recorder::Entry> expected = {{EventType::PopupUp, popup, nullptr},
+        {EventType::PopupUp, popup, nullptr}, {EventType::PopupDown, popup, nullptr}};
+    EXPECT_EQ(recorder.entries, expected);
+}
+
+TEST_F(PopupTest, AStateIsReachedBeforeItIsTold)
+{
+    auto* popup = notification("Saved");
+    std::vector<bool> states;
+    recorder.onEvent = [&](UEvent&) { states.push_back(popup->isUp()); };
+    popup->popupAsNotification();
+    popup->dismiss();
+    EXPECT_EQ(states, (std::vector<bool>{true, false}));
+}
+
+TEST_F(PopupTest, AHiddenPopupStaysUpAndComesBackWithTheNextCall)
+{
+    auto* popup = notification("Saved");
+    popup->popupAsNotification();
+    popup->hide();
+    EXPECT_TRUE(popup->isUp());
+    EXPECT_EQ(line(1), whole("lower"));
+
+    popup->popupAsNotification();
+    EXPECT_EQ(line(1), whole("Saved"));
+    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupUp, EventType::PopupUp}));
+}
+
+TEST_F(PopupTest, LeavingTheTreeTakesAPopupDownInSilenceAndStopsItsTime)
+{
+    auto popup = std::unique_ptr<PopupNotificationMEG>(notification("Saved"));
+    popup->setTimeout(1000);
+    popup->popupAsNotification();
+    recorder.takeTypes();
+
+    popup->setParent(nullptr);
+    EXPECT_FALSE(popup->isUp());
+    advance(5000);
+    EXPECT_TRUE(recorder.entries.empty());
+
+    // Moving from one parent to another is not leaving.
+    root.addWidget(popup.get());
+    popup->popupAsNotification();
+    popup->setParent(below);
+    EXPECT_TRUE(popup->isUp());
+    popup->setParent(nullptr);
+}
+
+TEST_F(PopupTest, APopupThatIsNotUpPaintsNothingAndTakesNoKeys)
+{
+    auto* dialog = withRows<PopupDialogMEG>({"Yes"});
+    EXPECT_EQ(manager.focusWidget(), below);
+    EXPECT_EQ(line(1), whole("lower"));
+    dialog->popupAsNotification();
+    EXPECT_EQ(manager.focusWidget(), dialog);
+    dialog->dismiss();
+    EXPECT_EQ(manager.focusWidget(), below);
+    EXPECT_EQ(line(1), whole("lower"));
+}
+
+// Time-outs
+
+TEST_F(PopupTest, TheTimeRunsFromComingUpAndStartsAnewWhenItIsSet)
+{
+    auto* popup = notification("Saved");
+    popup->setTimeout(1000);
+    EXPECT_EQ(popup->getTimeout(), 1000);
+    advance(2000);
+    popup->popupAsNotification();
+    advance(900);
+    popup->setTimeout(popup->getTimeout());
+    advance(900);
+    EXPECT_TRUE(popup->isUp());
+    popup->popupAsNotification();
+    advance(999);
+    EXPECT_TRUE(popup->isUp());
+    recorder.takeTypes();
+
+    advance(1);
+    EXPECT_FALSE(popup->isUp());
+    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupDown}));
+    advance(5000);
+    EXPECT_TRUE(recorder.entries.empty());
+}
+
+TEST_F(PopupTest, WithoutATimeAPopupStaysUp)
+{
+    for (int none : {0, -1}) {
+        auto* popup = notification("Saved");
+        popup->setTimeout(500);
+        popup->popupAsNotification();
+        popup->setTimeout(none);
+        advance(100000);
+        EXPECT_TRUE(popup->isUp()) << none;
+        popup->setTimeout(500);
+        advance(500);
+        EXPECT_FALSE(popup->isUp()) << none;
+    }
+}
+
+// Ownership
+
+TEST_F(PopupTest, AListenerMayDeleteThePopupInsideAnyOfItsEvents)
+{
+    struct Case {
+        const char* name;
+        int type;
+        std::function<void(PopupDialogMEG&)> action;
+    };
+    const std::vector<Case> cases = {
+        {"coming up", EventType::PopupUp, [](PopupDialogMEG& popup) { popup.popupAsCall(); }},
+        {"dismissal", EventType::PopupDown, [](PopupDialogMEG& popup) { popup.dismiss(); }},
+        {"time-out", EventType::PopupDown, [](PopupDialogMEG&) { advance(1000); }},
+        {"move", EventType::PopupRowMoved, [this](PopupDialogMEG&) { press(UGlobal::KeyDown); }},
+        {"choice", EventType::RowChosen, [this](PopupDialogMEG&) { press(UGlobal::KeyOk); }},
+        {"left", EventType::LeftPressed, [this](PopupDialogMEG&) { press(UGlobal::KeyLeft); }},
+    };
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.name);
+        UPointer<PopupDialogMEG> popup = withRows<PopupDialogMEG>({"Yes", "No"});
+        popup->setTimeout(1000);
+        popup->popupAsNotification();
+        recorder.onEvent = [&](UEvent& event) {
+            if (event.type == test.type)
+                delete popup.get();
+        };
+        test.action(*popup);
+        EXPECT_FALSE(popup);
+        recorder.onEvent = nullptr;
+        EXPECT_EQ(manager.focusWidget(), below);
+        EXPECT_EQ(line(0), whole("upper"));
+    }
+}
+
+TEST_F(PopupTest, ADismissibleNotificationMayDieByItsKey)
+{
+    UPointer<PopupNotificationMEG> popup = notification("Saved");
+    popup->setDismissible(true);
+    popup->popupAsNotification();
+    manager.requestFocus(popup.get());
+    recorder.onEvent = [&](UEvent&) { delete popup.get(); };
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    EXPECT_FALSE(popup);
+    EXPECT_EQ(below->keys, 0);
+}
+
+TEST_F(PopupTest, APopupOutlivesItsListenerAndDiesSilentlyWhileItIsUp)
+{
+    auto* popup = withRows<PopupCallMEG>({"Accept"});
+    auto first = std::make_unique<Recorder>();
+    popup->setListener(first.get());
+    popup->listBox->setListener(first.get());
+    popup->setTimeout(1000);
+    popup->setStateIconAnimation({45, 43, 44}, 100);
+    popup->popupAsCall();
+    first.reset();
+    press(UGlobal::KeyOk);
+    advance(1000);
+    EXPECT_FALSE(popup->isUp());
+
+    popup->setListener(&recorder);
+    popup->popupAsCall();
+    recorder.takeTypes();
+    delete popup;
+    advance(5000);
+    EXPECT_TRUE(recorder.entries.empty());
+    EXPECT_EQ(line(0), whole("upper"));
+}
+
+TEST_F(PopupTest, ADialogLivesOnWithoutItsListBox)
+{
+    auto* dialog = withRows<PopupDialogMEG>({"Yes"});
+    dialog->setText(text("Delete?"));
+    dialog->popupAsNotification();
+    delete dialog->listBox;
+    EXPECT_EQ(dialog->listBox, nullptr);
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    dialog->setDownArrowDisplayable(false);
+    EXPECT_EQ(line(0), whole("Delete?"));
+    EXPECT_EQ(line(1), whole(""));
+}
+
+TEST_F(PopupTest, ADismissalInsideItsOwnEventIsSilent)
+{
+    auto* popup = notification("Saved");
+    popup->popupAsNotification();
+    recorder.takeTypes();
+    recorder.onEvent = [&](UEvent&) { popup->dismiss(); };
+    popup->dismiss();
+    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupDown}));
+}
+
+// Notifications
+
+TEST_F(PopupTest, ANotificationTakesNoKeysUnlessItHasAskedForThem)
+{
+    auto* popup = notification("Saved");
+    popup->setDismissible(true);
+    popup->popupAsNotification();
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(below->keys, 2);
+    EXPECT_TRUE(popup->isUp());
+
+    manager.requestFocus(popup);
+    press('5');
+    EXPECT_FALSE(popup->isUp());
+    EXPECT_EQ(below->keys, 2);
+}
+
+TEST_F(PopupTest, ANotificationThatIsNotDismissibleLetsKeysThrough)
+{
+    auto* popup = notification("Saved");
+    popup->popupAsNotification();
+    manager.requestFocus(popup);
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    EXPECT_TRUE(popup->isUp());
+    EXPECT_GT(below->keys, 0);
+}
+
+TEST_F(PopupTest, OneLineLeavesTheUpperLineToTheScreenBelow)
+{
+    auto* popup = notification("Settings saved");
+    popup->setStateIcon(21, 0);
+    popup->popupAsNotification();
+    EXPECT_EQ(popup->getRect(), URect(0, 15, 161, 30));
+    EXPECT_FALSE(popup->isTwoLine());
+    EXPECT_EQ(line(0), whole("upper"));
+    EXPECT_EQ(line(1), padded(Icon + "Settings saved", 16));
+    EXPECT_TRUE(hasIcon(1, 0, 21));
+}
+
+TEST_F(PopupTest, TwoLinesTakeTheGlassAndTheSecondStandsUnderTheFirst)
+{
+    auto* popup = notification("Update failed", "Try again later");
+    popup->setStateIcon(16, 0);
+    popup->popupAsNotification();
+    EXPECT_EQ(popup->getRect(), URect(0, 0, 161, 30));
+    EXPECT_EQ(popup->countLines(), 2);
+    EXPECT_EQ(line(0), padded(Icon + "Update failed", 15));
+    EXPECT_EQ(line(1), whole("  Try again later"));
+
+    popup->setLine2Text(text(""));
+    EXPECT_EQ(popup->getRect(), URect(0, 15, 161, 30));
+    EXPECT_EQ(line(0), whole("upper"));
+}
+
+TEST_F(PopupTest, ASplitNotificationHasTwoLinesUntilItsSecondTextGoes)
+{
+    auto* popup = notification("Bob");
+    popup->setIsSplit(true);
+    EXPECT_TRUE(popup->isTwoLine());
+    EXPECT_EQ(popup->countLines(), 1);
+    EXPECT_EQ(popup->getRect(), URect(0, 0, 161, 30));
+    popup->setLine2Text(text(""));
+    EXPECT_FALSE(popup->isTwoLine());
+}
+
+TEST_F(PopupTest, TheNameGivesWayToTheNumber)
+{
+    auto* popup = notification("");
+    popup->setLine1TextNN(text("Bartholomew Featherstone"), text("4712"));
+    popup->setLine2TextNN(text("Carol"), text("4713"));
+    popup->setLine1Icon1(8);
+    popup->setLine2Icon1(55);
+    popup->popupAsNotification();
+    EXPECT_EQ(popup->getText().toUTF8(), "Bartholomew Featherstone 4712");
+    EXPECT_EQ(line(0), padded(Icon + "Bartholomew Feathers 4712", 27));
+    EXPECT_EQ(line(1), padded(Icon + "Carol 4713", 12));
+    EXPECT_TRUE(hasIcon(0, 0, 8));
+    EXPECT_TRUE(hasIcon(1, 0, 55));
+
+    // One of the two alone stands without a blank; a plain text forgets the number.
+    popup->setLine2TextNN(text(""), text("4713"));
+    EXPECT_EQ(popup->getLine2Text().toUTF8(), "4713");
+    popup->setText(text("A text that is longer than the line"));
+    EXPECT_EQ(line(0), padded(Icon + "A text that is longer tha", 27));
+}
+
+TEST_F(PopupTest, PrefixesStandInFrontWithAColon)
+{
+    auto* popup = notification("Bob", "Sales");
+    popup->setLine1PrefixText(text("Call"));
+    popup->setLine1PrePrefixText(text("Ringing"));
+    popup->setLine2PrefixText(text("For"));
+    popup->setLine1Icon1(14);
+    popup->setLine1Icon2(17);
+    popup->popupAsNotification();
+    EXPECT_EQ(line(0), padded(Icon + Icon + "Ringing: Call: Bob", 22));
+    EXPECT_TRUE(hasIcon(0, 2, 17));
+    EXPECT_EQ(line(1), whole("    For: Sales"));
+}
+
+TEST_F(PopupTest, TheSecondAndTheThirdLineTakeTurns)
+{
+    auto* popup = notification("Fetching", "second");
+    popup->setLine3Text(text("third"));
+    popup->popupAsNotification();
+    EXPECT_EQ(line(1), whole("second"));
+    advance(3000);
+    EXPECT_EQ(line(1), whole("third"));
+    advance(3000);
+    EXPECT_EQ(line(1), whole("second"));
+    advance(3000);
+    popup->setLine3Text(text(""));
+    EXPECT_EQ(line(1), whole("second"));
+    popup->setLine3Text(text("third"));
+    popup->setLine2Text(text(""));
+    EXPECT_EQ(line(1), whole("third"));
+    EXPECT_EQ(popup->getLine3Text().toUTF8(), "third");
+}
+
+TEST_F(PopupTest, TheSwitchOfTheSecondLinesIconsTakesBothAway)
+{
+    auto* popup = notification("Bob", "Sales");
+    popup->setLine2Icon1(78);
+    popup->setLine2Icon2(55);
+    popup->setLine2Icon(false);
+    EXPECT_EQ(popup->getLine2Icon1(), 0);
+    popup->popupAsNotification();
+    EXPECT_EQ(line(1), whole("Sales"));
+    popup->setLine2Icon(true);
+    EXPECT_EQ(popup->getLine2Icon1(), 55);
+    popup->setLine2Icon1(8);
+    popup->setLine2Icon(true);
+    EXPECT_EQ(popup->getLine2Icon1(), 8);
+}
+
+TEST_F(PopupTest, AnAnimationRunsWhileThePopupIsUp)
+{
+    auto* popup = notification("Connecting");
+    popup->setStateIconAnimation({45, 43, 44}, 1000);
+    popup->popupAsCall();
+    for (int icon : {45, 43, 44, 45, 43}) {
+        EXPECT_TRUE(hasIcon(1, 0, static_cast<std::uint16_t>(icon))) << icon;
+        advance(1000);
+    }
+    popup->dismiss();
+    popup->popupAsCall();
+    EXPECT_TRUE(hasIcon(1, 0, 45));
+
+    popup->setStateIcon(17, 0);
+    advance(1000);
+    EXPECT_TRUE(hasIcon(1, 0, 17));
+    popup->setStateIconAnimation({}, 1000);
+    advance(1000);
+    EXPECT_EQ(line(1), whole("Connecting"));
+}
+
+// Dialog
+
+TEST_F(PopupTest, ADialogShowsItsQuestionAndTheCurrentRow)
+{
+    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
+    dialog->setText(text("Delete entry?"));
+    dialog->setLine2Text(text("Bob"));
+    dialog->setStateIcon(19, 0);
+    dialog->popupAsNotification();
+    EXPECT_EQ(dialog->getRect(), URect(0, 0, 161, 30));
+    EXPECT_EQ(line(0), padded(Icon + "Delete entry? Bob", 19));
+    EXPECT_EQ(line(1), "No?                       v");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Yes?                      ^");
+
+    dialog->setDownArrowDisplayable(false);
+    EXPECT_EQ(line(1), whole("Yes?"));
+    dialog->listBox->clear();
+    EXPECT_EQ(line(0), padded(Icon + "Delete entry?", 15));
+    EXPECT_EQ(line(1), whole("  Bob"));
+}
+
+TEST_F(PopupTest, ADialogTellsOfItsRows)
+{
+    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
+    dialog->popupAsNotification();
+    recorder.takeTypes();
+    UAgent* no = dialog->listBox->item(0);
+    UAgent* yes = dialog->listBox->item(1);
+    for (int key : {UGlobal::KeyDown, UGlobal::KeyOk, UGlobal::KeyUp, UGlobal::KeyLeft, UGlobal::Key9})
+        EXPECT_TRUE(press(key));
+
+    ASSERT_EQ(recorder.entries.size(), 4u);
+    EXPECT_EQ(recorder.entries[0], (Recorder::Entry{EventType::PopupRowMoved, yes, yes}));
+    EXPECT_EQ(recorder.entries[1], (Recorder::Entry{EventType::RowChosen, yes, yes}));
+    EXPECT_EQ(recorder.entries[2], (Recorder::Entry{EventType::PopupRowMoved, no, no}));
+    EXPECT_EQ(recorder.entries[3].type, EventType::LeftPressed);
+    EXPECT_TRUE(dialog->isUp());
+    EXPECT_EQ(below->keys, 0);
+}
+
+TEST_F(PopupTest, WhoListensToTheListBoxHearsItInThePopupsPlace)
+{
+    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
+    Recorder own;
+    dialog->listBox->setListener(&own);
+    dialog->popupAsNotification();
+    recorder.takeTypes();
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(own.takeTypes(), (Types{EventType::RowChosen}));
+    EXPECT_TRUE(recorder.entries.empty());
+}
+
+TEST_F(PopupTest, OnlyTheRowInViewStandsOnTheGlass)
+{
+    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
+    const std::vector<URect> lowerLine = {URect(0, 15, 161, 30)};
+    EXPECT_EQ(dialog->listBox->item(0)->getRect(), lowerLine[0]);
+    EXPECT_EQ(
+        dialog->listBox->screenText(lowerLine).toUTF8(), "subitem:\nname:VantoListBoxItem\nstring0:No?\nendsubitem:\n");
+    EXPECT_TRUE(dialog->listBox->screenText({URect(0, 0, 161, 14)}).isEmpty());
+}
+
+// Call popup
+
+TEST_F(PopupTest, TheFirstMoveGivesTheSecondLineToTheRows)
+{
+    auto* call = withRows<PopupCallMEG>({"Accept?", "Reject?"});
+    call->setText(text("Bob 4712"));
+    call->setLine1Icon1(50);
+    call->setLine2PrefixText(text("For"));
+    call->setLine2Text(text("Sales"));
+    call->setLine2Icon1(55);
+    call->popupAsCall();
+    EXPECT_EQ(line(0), padded(Icon + "Bob 4712", 10));
+    EXPECT_EQ(line(1), Icon + "For: Sales              v");
+
+    recorder.takeTypes();
+    recorder.onEvent = [&](UEvent& event) {
+        if (event.type == EventType::PopupRowMoved) {
+            call->setLine2Text(text(""));
+            call->setLine2PrefixText(text(""));
+        }
+    };
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Accept?                   v");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Reject?                   ^");
+    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupRowMoved, EventType::RowMoved}));
+}
+
+TEST_F(PopupTest, TheRowsAreReachedAlsoWhereTheApplicationKeepsLine2)
+{
+    auto* call = withRows<PopupCallMEG>({"Cancel?"});
+    call->setLine2Text(text("Sales"));
+    call->popupAsCall();
+    EXPECT_EQ(line(1), "Sales                     v");
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(line(1), whole("Cancel?"));
+    call->dismiss();
+    call->popupAsCall();
+    EXPECT_EQ(line(1), "Sales                     v");
+}
+
+TEST_F(PopupTest, ARowThatRepeatsLine2StandsForIt)
+{
+    auto* call = withRows<PopupCallMEG>({});
+    call->setText(text("Bob 4712"));
+    call->setLine2Text(text("Carol 4713"));
+    call->setLine2Icon1(8);
+    call->setLine2Icon2(55);
+    call->listBox->addItem(new VantoListBoxItemMEG(text("Carol 4713"), 0, false));
+    call->listBox->addItem(new VantoListBoxItemMEG(text("Accept?"), 1, false));
+    call->popupAsNotification();
+    EXPECT_EQ(line(1), Icon + Icon + "Carol 4713            v");
+    recorder.takeTypes();
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Accept?                   ^");
+    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupRowMoved}));
+}
+
+TEST_F(PopupTest, ACallPopupKeepsTheKeysFromTheScreenBelow)
+{
+    auto* call = withRows<PopupCallMEG>({"Accept?"});
+    call->listBox->setRightArrowEqualsOK(true);
+    call->popupAsCall();
+    recorder.takeTypes();
+    for (int key : {int(UGlobal::KeyRight), int(UGlobal::KeyLeft), int('5'), int(UGlobal::KeyClear)})
+        EXPECT_TRUE(press(key));
+    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::RowChosen, EventType::LeftPressed}));
+    EXPECT_EQ(below->keys, 0);
+}
+
+TEST_F(PopupTest, WithoutScrollingThereAreNoMarks)
+{
+    auto* call = withRows<PopupCallMEG>({"Accept?", "Reject?"});
+    call->popupAsCall();
+    call->setListScrollable(false);
+    EXPECT_EQ(line(1), whole("Accept?"));
+}
+
+}

@@ -1,0 +1,262 @@
+#include "ListFixture.h"
+#include "TreeItemMEG.h"
+
+#include <memory>
+
+namespace {
+
+class TreeItemTest : public ListFixture {
+protected:
+    TreeItemTest()
+    {
+        widget->setParent(&root);
+        list.setCoordinates(3, 0, 157, 13);
+        list.setListener(&agent);
+    }
+
+    static TreeItemMEG* call(const std::string& name, BranchMEG::IconType state = BranchMEG::CallActive)
+    {
+        return new TreeItemMEG(state, UString(name), true, true);
+    }
+
+    /// A conference of two members in the list.
+    TreeItemMEG* addConference()
+    {
+        TreeItemMEG* conference = call("Conference");
+        conference->setTreeType(TreeItemMEG::ConferenceType);
+        for (const char* name : {"Bob 4712", "Carol 4713"}) {
+            TreeItemMEG* member = call(name);
+            member->setTreeType(TreeItemMEG::ConferenceType);
+            member->cancelDurationTimer();
+            conference->addChildItem(member);
+        }
+        list.addItem(conference);
+        return conference;
+    }
+
+    static void advance(std::uint64_t milliseconds) { ULoop::instance().advance(milliseconds); }
+    static std::string duration(const TreeItemMEG& row) { return row.branch->getTimeDuration().toUTF8(); }
+
+    RecordingAgent agent;
+    VantoListBoxWithTitleMEG* widget = new VantoListBoxWithTitleMEG;
+    VantoListBoxMEG& list = *widget->list();
+};
+
+}
+
+TEST_F(TreeItemTest, TheDurationRunsFromTheFirstConnection)
+{
+    std::unique_ptr<TreeItemMEG> row(call("Bob", BranchMEG::Alerting));
+    RecordingAgent ticks;
+    row->branch->setListener(&ticks);
+    advance(5000);
+    EXPECT_EQ(duration(*row), "0:00");
+    EXPECT_TRUE(ticks.types.empty());
+
+    row->setFirstIconType(BranchMEG::CallActive);
+    advance(9999);
+    EXPECT_EQ(duration(*row), "0:09");
+    EXPECT_EQ(ticks.types, std::vector<int>(9, EventType::ContentChanged));
+    EXPECT_EQ(ticks.sources.front(), row->branch);
+
+    row->setFirstIconType(BranchMEG::CallHeldByThisEnd);
+    row->setFirstIconType(BranchMEG::CallActiveHD);
+    advance(3600001);
+    EXPECT_EQ(duration(*row), "60:10") << "a new state does not start the time again";
+    row->stopDurationTimer();
+    ticks.types.clear();
+    row->setFirstIconType(BranchMEG::CallActive);
+    advance(60000);
+    EXPECT_EQ(duration(*row), "60:10");
+    EXPECT_TRUE(ticks.types.empty());
+
+    row->cancelDurationTimer();
+    row->setFirstIconType(BranchMEG::CallActive);
+    advance(2000);
+    EXPECT_EQ(duration(*row), "0:00");
+}
+
+TEST_F(TreeItemTest, ATickMayDeleteTheRow)
+{
+    auto* row = call("Bob");
+    list.addItem(row);
+    RecordingAgent ticks;
+    row->branch->setListener(&ticks);
+    ticks.onEvent = [row] { delete row; };
+    advance(3000);
+    EXPECT_EQ(ticks.types.size(), 1u);
+    EXPECT_EQ(list.count(), 0);
+}
+
+TEST_F(TreeItemTest, OneCallTakesBothLines)
+{
+    auto* row = call("Bob 4712");
+    row->setSecondLineText(text("second line of the call"));
+    list.addItem(row);
+    advance(42000);
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712            0:42>");
+    EXPECT_EQ(line(1), "second line of the call    ");
+    EXPECT_FALSE(isInverse(0));
+}
+
+TEST_F(TreeItemTest, ASecondCallStandsBelowTheFirst)
+{
+    auto* bob = call("Bob 4712");
+    auto* carol = call("Carol 4713", BranchMEG::CallHeldByThisEnd);
+    carol->setPrePrefixText(text("2"));
+    list.addItem(bob);
+    list.addItem(carol);
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712            0:00>");
+    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00");
+    EXPECT_TRUE(isInverse(0));
+
+    carol->setSecondLineText(text("consultation"));
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(0), "\u25A1\u25A12 Carol 4713        0:00>");
+    EXPECT_EQ(line(1), "consultation              ^");
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00") << "the second line shows on the current row only";
+}
+
+TEST_F(TreeItemTest, MarksTakeTheirRoomFromTheText)
+{
+    auto* row = new TreeItemMEG(BranchMEG::CallNoIcon, text("A caller with a very long name"), false, true);
+    list.addItem(row);
+    EXPECT_EQ(line(0), "A caller with a very long n");
+    row->branch->setCallSecurityState(BranchMEG::SecureCall);
+    row->branch->setRemoteMaintenanceIcon(true);
+    EXPECT_EQ(line(0), "A caller with a very l \u25A1\u25A1\u25A1\u25A1");
+}
+
+TEST_F(TreeItemTest, TheVoicePathTakesThePlaceOfAConnectedStateOnly)
+{
+    auto* row = call("Bob");
+    list.addItem(row);
+    auto picture = [this] {
+        UWindowManager::instance().paintIfNeeded();
+        return screen;
+    };
+    const UScreenWE1 plain = picture();
+    row->branch->setHeadsetIcon(true);
+    const UScreenWE1 headset = picture();
+    EXPECT_FALSE(headset == plain);
+    row->branch->setMuteIcon(true);
+    EXPECT_FALSE(picture() == headset);
+    row->branch->setMuteIcon(false);
+    EXPECT_TRUE(picture() == headset);
+    row->setFirstIconType(BranchMEG::CallHeldByFarEnd);
+    const UScreenWE1 held = picture();
+    row->branch->setHeadsetIcon(false);
+    EXPECT_TRUE(picture() == held);
+}
+
+TEST_F(TreeItemTest, ALeafIsShownWithTheCurrentRow)
+{
+    auto* bob = call("Bob");
+    EXPECT_EQ(bob->branch->childElement(0), nullptr);
+    bob->setSecondLineText(text("second line"));
+    EXPECT_FALSE(bob->branch->childShown()) << "a row in no list is not on the glass";
+    list.addItem(bob);
+    list.addItem(call("Carol"));
+    TreeElement* element = bob->branch->childElement(0);
+    ASSERT_NE(element, nullptr);
+    ASSERT_EQ(element->elementKind(), TreeElement::LeafElement);
+    const auto* leaf = dynamic_cast<Leaf*>(element);
+    ASSERT_NE(leaf, nullptr);
+    EXPECT_EQ(leaf->text(), text("second line"));
+    EXPECT_TRUE(bob->branch->childShown());
+    EXPECT_EQ(leaf->getRect(), list.getRect());
+
+    list.setCurrentIndex(1);
+    EXPECT_FALSE(bob->branch->childShown());
+    EXPECT_EQ(leaf->getRect(), bob->getRect());
+    bob->clearSecondLineText();
+    EXPECT_EQ(bob->branch->childElement(0), nullptr);
+}
+
+TEST_F(TreeItemTest, ADisabledRowCannotBeChosen)
+{
+    auto* row = call("Bob");
+    list.addItem(row);
+    row->enabled(false);
+    EXPECT_TRUE(press(UGlobal::KeyOk));
+    EXPECT_TRUE(agent.types.empty());
+    row->enabled(true);
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(agent.types, std::vector<int>{EventType::RowChosen});
+}
+
+// Conferences
+
+TEST_F(TreeItemTest, TheHighlightGoesThroughTheMembers)
+{
+    TreeItemMEG* conference = addConference();
+    list.addItem(call("Dave"));
+    EXPECT_EQ(line(0), "\u25A1\u25A1Conference          0:00>");
+    EXPECT_EQ(line(1), "  Bob 4712                v");
+    EXPECT_TRUE(isInverse(0));
+
+    std::vector<int> children;
+    for (int presses = 0; presses < 4; ++presses) {
+        press(UGlobal::KeyDown);
+        children.push_back(list.currentIndex() * 10 + conference->getCurrentChild());
+    }
+    EXPECT_EQ(children, (std::vector<int>{1, 2, 12, 0})) << "title, members, next row, and round again";
+    EXPECT_EQ(agent.types, std::vector<int>(4, EventType::RowMoved));
+    press(UGlobal::KeyUp);
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(conference->getCurrentChild(), 2) << "from below the last member comes first";
+    EXPECT_EQ(line(1), "  Carol 4713              |");
+    EXPECT_TRUE(isInverse(1));
+    EXPECT_FALSE(isInverse(0));
+}
+
+TEST_F(TreeItemTest, AConferenceAloneWrapsInItself)
+{
+    TreeItemMEG* conference = addConference();
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(conference->getCurrentChild(), 2);
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(conference->getCurrentChild(), 0);
+    EXPECT_EQ(agent.types, std::vector<int>(2, EventType::RowMoved));
+}
+
+TEST_F(TreeItemTest, SettingAMemberCurrentMakesItsRowCurrent)
+{
+    list.addItem(call("Dave"));
+    TreeItemMEG* conference = addConference();
+    conference->setCurrentChild(2);
+    conference->setCurrentChild(3);
+    conference->setCurrentChild(-1);
+    EXPECT_EQ(list.currentIndex(), 1);
+    EXPECT_EQ(conference->getCurrentChild(), 2);
+    EXPECT_TRUE(agent.types.empty());
+}
+
+TEST_F(TreeItemTest, MembersComeAndGoWithTheirOwners)
+{
+    TreeItemMEG* conference = addConference();
+    auto* dave = call("Dave");
+    list.addItem(dave);
+    conference->addChildItem(dave);
+    conference->addChildItem(dave);
+    conference->addChildItem(nullptr);
+    EXPECT_EQ(list.count(), 1) << "a call that joins leaves the list";
+    EXPECT_EQ(conference->childCount(), 3);
+
+    conference->setCurrentChild(3);
+    conference->removeChildItem(0);
+    conference->removeChildItem(4);
+    auto* bob = static_cast<BranchMEG*>(conference->branch->childElement(0))->parentWidget();
+    std::unique_ptr<UWidget> first(bob);
+    conference->removeChildItem(1);
+    EXPECT_EQ(bob->parentWidget(), nullptr);
+    EXPECT_EQ(conference->getCurrentChild(), 2) << "Dave stays current";
+    delete dave;
+    EXPECT_EQ(conference->getCurrentChild(), 1);
+    conference->removeChildItem(static_cast<TreeItemMEG*>(bob));
+
+    UPointer<UWidget> carol(static_cast<BranchMEG*>(conference->branch->childElement(0))->parentWidget());
+    list.clear();
+    EXPECT_FALSE(carol) << "members die with the conference";
+}
