@@ -3,14 +3,12 @@
 #include "Picture.h"
 #include "UsageError.h"
 
-#include <UPainter.h>
 #include <UScreenWE1.h>
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <png.h>
-#include <set>
 
 using namespace Simulator;
 
@@ -37,23 +35,13 @@ TEST(DrawingTest, FourPixelsMakeACharacter)
 TEST(DrawingTest, TheFontReadsItsCells)
 {
     const FixedFont font("");
-    UScreenWE1 screen;
-    UPainter(screen, &font).text(0, 0, UString::fromUTF8("Ägé"));
-    const std::vector<std::string> lines = drawBlocks(screen);
-    const std::vector<std::string> expected = {
-        "         ",
-        "▗ ▖     ▖",
-        "▗▀▖▞▀▞▗▞▖",
-        "▙▄▌▙▄▘▙▄▌",
-        "▌ ▌▞▀▖▚▄▖",
-    };
     EXPECT_NE(font.glyph('A'), nullptr);
     EXPECT_NE(font.glyph(0x20AC), nullptr) << "the euro sign";
     EXPECT_EQ(font.glyph('\n'), nullptr) << "control characters paint nothing";
     EXPECT_EQ(font.glyph(0), nullptr);
     EXPECT_EQ(font.glyph(0xE123), nullptr);
-    const UFont::Glyph capitalI = {0, 0, 0b011100, 0b001000, 0b001000, 0b001000, 0b001000, 0b001000, 0b001000, 0b001000,
-        0b011100, 0, 0};
+    const UFont::Glyph capitalI
+        = {0, 0, 0b011100, 0b001000, 0b001000, 0b001000, 0b001000, 0b001000, 0b001000, 0b001000, 0b011100, 0, 0};
     ASSERT_NE(font.glyph('I'), nullptr);
     EXPECT_EQ(*font.glyph('I'), capitalI);
 }
@@ -64,7 +52,7 @@ TEST(DrawingTest, AFontThatCannotBeUsedIsRefused)
     EXPECT_THROW(FixedFont("/etc/passwd"), UsageError);
     const std::string otherSize = "/usr/share/fonts/X11/misc/9x15.pcf.gz";
     ASSERT_TRUE(std::filesystem::exists(otherSize));
-    EXPECT_THROW(FixedFont {otherSize}, UsageError);
+    EXPECT_THROW(FixedFont{otherSize}, UsageError);
 }
 
 TEST(DrawingTest, APictureShowsEveryPixelAtItsScale)
@@ -97,7 +85,7 @@ TEST(DrawingTest, AWrittenPictureReadsBackTheSame)
     const std::string file = (std::filesystem::temp_directory_path() / "drawing-test.png").string();
     writePicture(picture, file);
 
-    png_image image {};
+    png_image image{};
     image.version = PNG_IMAGE_VERSION;
     ASSERT_NE(png_image_begin_read_from_file(&image, file.c_str()), 0);
     image.format = PNG_FORMAT_RGB;

@@ -2,6 +2,8 @@
 #include "ScreenText.h"
 #include "UsageError.h"
 
+#include <Types.h>
+
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -84,8 +86,9 @@ TEST(ScriptTest, ALineThatIsNoStepIsNamedWithItsReason)
 
 TEST(ScriptTest, AnExpectedTextIsAWholeLineOrAWholeValue)
 {
-    const std::string screen = "object:\nname:VantoListBox\ncaption:Delete entry? Anna \nsubitem:\nstring0: Speaker -> \n"
-                               "string1:a:b\nstring2:\nend:\n";
+    const std::string screen
+        = "object:\nname:VantoListBox\ncaption:Delete entry? Anna \nsubitem:\nstring0: Speaker -> \n"
+          "string1:a:b\nstring2:\nend:\n";
     const struct {
         const char* wanted;
         bool isFound;
