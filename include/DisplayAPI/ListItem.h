@@ -1,0 +1,124 @@
+#pragma once
+
+#include <DisplayAPI/Icons.h>
+#include <DisplayAPI/Widget.h>
+
+#include <atomic>
+#include <string>
+
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+class Displayable;
+class ListItemPrivateIfc;
+
+/// One row of a list: a text, a second text at the right edge, an icon at the left.
+///
+/// Threads: any. Reads wait for the GUI thread and see what the same thread has written before; the other calls
+/// return at once.
+/// Ownership: a row belongs to the application until a list takes it; then to the list, until the list gives it
+/// back. A row that is deleted while it stands in a list leaves that list first.
+/// Errors: a call on a row whose half on the GUI thread has gone changes nothing and answers an empty text or 0.
+class DISPLAYAPI_EXPORT ListItem : public Widget {
+public:
+    /// What a row shows beside its text.
+    enum ListItemType : int {
+        PlainItem = 0,
+        InfiniteProgressItem = 1, ///< A bar that runs without an end; see startInfiniteProgressBar().
+    };
+
+    /// A plain row without text.
+    ListItem();
+
+    /// A plain row. The flag has no effect.
+    ListItem(std::string text, bool flag);
+
+    /// A plain row whose text follows the locale. The row takes the translation; null is an empty text.
+    ListItem(TranslationInfo* text, bool flag);
+
+    /// A row of another type, without text. A number that is no type makes a plain row.
+    explicit ListItem(ListItemType type);
+
+    /// Waits until the row has gone from the GUI thread.
+    ~ListItem() override;
+
+    void processGuiRequest(GuiRequestEvent& event) override;
+
+    /// The half on the GUI thread; null until it has been made. Threads: GUI thread.
+    virtual ListItemPrivateIfc* getPrivateImplemetation();
+
+    // Text
+
+    /// Shows another text until the locale changes: a row that was made with a translation then shows that again.
+    void setText(std::string text);
+
+    /// Shows the complete translation, or nothing for null. The object stays the caller's and must live until
+    /// the request has run; a later change of locale does not read it again.
+    void setText(TranslationInfo* text);
+    std::string getText();
+
+    /// The text at the right edge; as setText().
+    void setRightText(std::string text);
+    void setRightText(TranslationInfo* text);
+    std::string getRightText();
+
+    // Icons
+
+    /// Shows one of the icons 345 to 360; any other number takes the icon away. From another thread than the
+    /// GUI thread 0 changes nothing.
+    void setLeftIcon(Icons::IconType icon);
+
+    /// The icon as last set, whether it is shown or not; 0 before. It is read at once, without waiting for
+    /// earlier calls.
+    Icons::IconType getLeftIcon();
+
+    /// 0 in this class.
+    virtual Icons::IconType getRightIcon();
+
+    // State
+
+    /// Lets the bar of an InfiniteProgressItem run; without effect on other rows.
+    void startInfiniteProgressBar();
+
+    /// Takes the highlight bar off the row until it becomes current again.
+    void clearBackground();
+
+    /// Without effect in this class.
+    void enableContextMenuArrow(bool enabled);
+
+    // For the screens that hold rows. Threads: GUI thread
+
+    /// Tells a screen that one of its rows is about to be deleted.
+    using RowDies = void (*)(Displayable& screen, ListItem& row, ListItemPrivateIfc* rowPrivate);
+
+    void joinScreen(Displayable& screen, RowDies rowDies);
+    void leaveScreen();
+
+    /// The screen among whose rows this one is, or null.
+    Displayable* screen() const { return mScreen; }
+
+protected:
+    /// For rows with a private of their own: makes no request and sets no name. Null if the subclass makes the
+    /// private later, see setPrivate().
+    explicit ListItem(ListItemPrivateIfc* rowPrivate);
+
+    /// Takes the private over.
+    void setPrivate(ListItemPrivateIfc* rowPrivate);
+
+    /// The deletion of a row's private on the GUI thread: retires the handle and takes the row out of its
+    /// screen. What is left is to delete the private.
+    void retireRow();
+
+private:
+    enum class Request : int;
+
+    void destroyPrivate();
+
+    // Another thread may read the icon while the GUI thread makes the private.
+    std::atomic<ListItemPrivateIfc*> mPrivate = nullptr;
+    Displayable* mScreen = nullptr;
+    RowDies mRowDies = nullptr;
+};
+
+}
