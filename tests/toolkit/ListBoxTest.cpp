@@ -283,6 +283,17 @@ TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
     }
 }
 
+TEST_F(ListBoxTest, AListMayDieInWhatItsWidgetHandsOn)
+{
+    RecordingAgent outer;
+    widget->setListener(&outer);
+    list.setListener(widget);
+    addRows(list, {"a"});
+    outer.onEvent = [this] { delete widget; };
+    EXPECT_TRUE(press(UGlobal::KeyLeft));
+    EXPECT_EQ(outer.types, std::vector<int>{EventType::LeftPressed});
+}
+
 TEST_F(ListBoxTest, AListMayDieWhileItsListenerLooksAtAKey)
 {
     addRows(list, {"a", "b"});
