@@ -1,0 +1,764 @@
+#include "PhoneTest.h"
+#include "RecordingListener.h"
+#include "ThreadedPhoneTest.h"
+
+#include <DisplayAPI/GuiRequestEvent.h>
+#include <DisplayAPI/List.h>
+#include <DisplayAPI/ListItem.h>
+#include <DisplayAPI/ListItemPrivateIfc.h>
+#include <DisplayAPI/PopupDialerPrivateIfc.h>
+
+#include "ExistingDisplayables.h"
+#include "ListBoxPrivate.h"
+
+#include <Log.h>
+#include <TranslationInfo.h>
+#include <TreeItemMEG.h>
+#include <UApplication.h>
+#include <UEvent.h>
+#include <VantoListBoxMEG.h>
+
+#include <atomic>
+#include <functional>
+
+using namespace DisplayAPI;
+
+namespace {
+
+/// A row that tells when its handle dies.
+class CountedItem : public ListItem {
+public:
+    explicit CountedItem(const std::string& text)
+        : ListItem(text, true)
+    {
+        ++living;
+    }
+    ~CountedItem() override { --living; }
+
+    static inline std::atomic<int> living = 0;
+};
+
+/// A translator whose language a test can change.
+class Prefixing : public TranslatorIfc {
+public:
+    std::string translate(std::string key) override { return prefix + key; }
+
+    std::string prefix;
+};
+
+/// A subscriber that acts once on a notice.
+class ActingSubscriber : public DisplayEventIfc {
+public:
+    void displayChanged(std::string) override
+    {
+        if (auto now = std::exchange(action, nullptr))
+            now();
+    }
+
+    std::function<void()> action;
+};
+
+ListBoxPrivate& half(List& list)
+{
+    return dynamic_cast<ListBoxPrivate&>(*list.getPrivateImpl());
+}
+
+VantoListBoxMEG& box(List& list)
+{
+    return *half(list).getListWidget()->list();
+}
+
+/// The handles' texts in order, and the current one in brackets.
+std::string rows(List& list)
+{
+    ListItem* selected = list.getSelected();
+    std::string all;
+    for (ListItem* item : list.getItems())
+        all += item == selected ? "[" + item->getText() + "]" : item->getText();
+    return all;
+}
+
+/// The same, read from the toolkit's list.
+std::string toolkitRows(List& list)
+{
+    std::string all;
+    for (int i = 0; i < box(list).numItems(); ++i) {
+        const std::string text = box(list).item(i)->getText().toUTF8();
+        all += i == box(list).currentIndex() ? "[" + text + "]" : text;
+    }
+    return all;
+}
+
+class ListTest : public PhoneTest {
+protected:
+    ~ListTest() override
+    {
+        if (display)
+            display->setCurrent(nullptr);
+        EXPECT_EQ(CountedItem::living, 0) << "rows were lost";
+    }
+
+    /// A list of rows with one letter each.
+    void fill(List& list, const std::string& letters)
+    {
+        for (const char letter : letters)
+            list.append(new CountedItem(std::string(1, letter)));
+    }
+
+    /// Handles and toolkit rows, which must agree.
+    std::string both(List& list)
+    {
+        EXPECT_EQ(rows(list), toolkitRows(list));
+        return rows(list);
+    }
+};
+
+class ThreadedListTest : public ThreadedPhoneTest { };
+
+/// What a dialer of a test has heard.
+struct DialerLog {
+    std::string keys;
+    int lostFocus = 0;
+};
+
+class TestDialerPrivate : public PopupDialerPrivateIfc {
+public:
+    explicit TestDialerPrivate(DialerLog& log)
+        : mLog(log)
+    {
+    }
+
+    bool keyEvent(UKeyEvent* key) override
+    {
+        mLog.keys += std::to_string(key->key()) + (key->state() == UGlobal::KeyPressed ? "+" : "-");
+        return false;
+    }
+    void lostFocus() override { ++mLog.lostFocus; }
+
+    UWidget* getWidget() override { return this; }
+    void releaseOwnership() override { }
+    void gainOwnership() override { }
+    void show() override { }
+    void setLine1PrefixText(std::string) override { }
+    void setLine1PrefixText(TranslationInfo*) override { }
+    void setText(std::string) override { }
+    void setText(TranslationInfo*) override { }
+    void setLine2Text(std::string) override { }
+    void setLine2Text(TranslationInfo*) override { }
+    std::string getLineEditText() override { return {}; }
+    void setLineEditText(std::string) override { }
+    void setLineEditText(TranslationInfo*) override { }
+    void addItemStateListener(ItemStateListener*) override { }
+    void removeItemStateListener(ItemStateListener*) override { }
+    void addCommand(MenuCommand*) override { }
+    void setDefaultCommand(MenuCommand*) override { }
+    void removeCommand(MenuCommand*) override { }
+    void setMode(PopupDialer::eMode) override { }
+    void setEditMode() override { }
+    void setIgnoreKeypadEvents(bool) override { }
+    void clearCommands() override { }
+    void setParentIdleDisplay(UWidget*) override { }
+    void dismiss() override { }
+    int getSelectedIndex() override { return -1; }
+    bool selectionHasChanged() override { return false; }
+    void setStimulusText(std::string) override { }
+    void setStimulusText(TranslationInfo*) override { }
+    void showStimulusTextInHeader(bool) override { }
+
+private:
+    DialerLog& mLog;
+};
+
+class TestDialer : public PopupDialer {
+public:
+    DisplayablePrivateIfc* getPrivateImpl() override { return &mPrivate; }
+
+    DialerLog log;
+
+private:
+    TestDialerPrivate mPrivate{log};
+};
+
+}
+
+// Rows
+
+TEST(ListOnBothRoadsTest, TheRowsAreTheSame)
+{
+    const std::string seen = onBothRoads([](Display& display) {
+        List list(0);
+        display.setCurrent(&list);
+        std::string story;
+        const auto tell = [&](const char* step) {
+            story += std::string(step) + ": " + rows(list) + " " + std::to_string(list.size()) + " "
+                + std::to_string(list.getSelectedIndex()) + "\n";
+        };
+        auto* b = new ListItem("B", true);
+        auto* x = new ListItem("X", true);
+        auto* y = new ListItem("Y", true);
+        auto* z = new ListItem("Z", true);
+        tell("empty");
+        list.append("A");
+        list.append(b);
+        list.append(new TranslationInfo("", "C", "", nullptr));
+        tell("append");
+        list.insertAt(x, -5);
+        list.insertAt(y, 100);
+        list.insertAt(z, 2);
+        tell("insertAt");
+        list.setSelected(b);
+        tell("setSelected");
+        list.setSelectedIndex(99);
+        list.setSelectedIndex(0);
+        tell("setSelectedIndex");
+        list.remove(x);
+        list.remove(x);
+        tell("remove");
+        delete list.removeAt(-1);
+        tell("removeAt");
+        list.replace(b, x);
+        tell("replace");
+        list.move(z, b, 3);
+        tell("move");
+        list.append(z);
+        list.move(z, z, 0);
+        tell("move alone");
+        list.replace(nullptr, list.removeAt(0));
+        tell("replace null");
+        ListItem* c = list.getItems()[1];
+        list.removeAll();
+        tell("removeAll");
+        delete b;
+        delete c;
+        delete x;
+        delete y;
+        list.append(z);
+        list.clear();
+        tell("clear");
+        return story;
+    });
+    // Rows in view stay where they are when others come or go; the first row of an empty list is current.
+    EXPECT_EQ(seen,
+        lines({"empty:  0 -1", "append: [A]BC 3 0", "insertAt: X[A]ZBCY 6 1", "setSelected: XAZ[B]CY 6 3",
+            "setSelectedIndex: [X]AZBCY 6 0", "remove: [A]ZBCY 5 0", "removeAt: [Z]BCY 4 0", "replace: [Z]XCY 4 0",
+            "move: [X]CYB 4 0", "move alone: Z[X]CYB 5 1", "replace null: [X]CYBZ 5 0", "removeAll:  0 -1",
+            "clear:  0 -1"}));
+}
+
+TEST_F(ListTest, RowsThatAreGivenBackStayWhole)
+{
+    List list(0);
+    fill(list, "ABCDE");
+    const std::vector<ListItem*> items = list.getItems();
+    auto* f = new CountedItem("F");
+    auto* g = new CountedItem("G");
+    list.remove(items[0]);
+    EXPECT_EQ(list.removeAt(0), items[1]);
+    list.replace(items[2], f);
+    list.move(items[3], g, 0);
+    EXPECT_EQ(both(list), "GF[E]");
+    list.removeAll();
+    EXPECT_EQ(CountedItem::living, 7);
+    for (ListItem* item : {items[0], items[1], items[2], items[3], items[4], (ListItem*)f, (ListItem*)g}) {
+        EXPECT_EQ(item->screen(), nullptr);
+        EXPECT_EQ(item->getText().size(), 1u) << "the row's widget lives";
+        delete item;
+    }
+    EXPECT_EQ(CountedItem::living, 0);
+}
+
+TEST_F(ListTest, ClearAndDeletingTheListDeleteTheRows)
+{
+    auto list = std::make_unique<List>(0);
+    fill(*list, "ABC");
+    list->clear();
+    EXPECT_EQ(CountedItem::living, 0);
+    fill(*list, "ABC");
+    show(*list);
+    list.reset();
+    EXPECT_EQ(CountedItem::living, 0);
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_EQ(screenText(), "");
+}
+
+TEST_F(ListTest, ARowThatStandsSomewhereIsRefused)
+{
+    List list(0);
+    List other(0);
+    fill(list, "AB");
+    fill(other, "XY");
+    ListItem* a = list.getItems()[0];
+    ListItem* x = other.getItems()[0];
+    VantoListBoxMEG loose;
+    CountedItem held("H");
+    loose.addItem(held.getPrivateImplemetation()->getVantoListItem());
+    for (ListItem* item : {a, x, static_cast<ListItem*>(&held)}) {
+        list.append(item);
+        list.insertAt(item, 0);
+        list.replace(list.getItems()[1], item);
+        list.replace(nullptr, item);
+    }
+    list.move(list.getItems()[1], x, 0);
+    list.move(list.getItems()[1], &held, 0);
+    EXPECT_EQ(both(list), "[A]B");
+    EXPECT_EQ(both(other), "[X]Y");
+    loose.removeItem(held.getPrivateImplemetation()->getVantoListItem());
+}
+
+TEST_F(ListTest, NullAndForeignRowsChangeNothing)
+{
+    List list(0);
+    fill(list, "AB");
+    CountedItem foreign("X");
+    list.append(static_cast<ListItem*>(nullptr));
+    list.insertAt(nullptr, 0);
+    list.remove(nullptr);
+    list.remove(&foreign);
+    list.replace(list.getItems()[0], nullptr);
+    list.replace(nullptr, nullptr);
+    list.move(nullptr, nullptr, 0);
+    list.move(list.getItems()[0], nullptr, 0);
+    list.setSelected(nullptr);
+    list.setSelected(&foreign);
+    list.addCommandListener(nullptr);
+    list.removeCommandListener(nullptr);
+    list.addDialer(nullptr);
+    EXPECT_EQ(both(list), "[A]B");
+    EXPECT_EQ(foreign.getText(), "X");
+}
+
+TEST_F(ListTest, AMoveWithinTheListTakesTheReplacementFromItsOldPlace)
+{
+    List list(0);
+    fill(list, "ABCD");
+    const std::vector<ListItem*> items = list.getItems();
+    list.move(items[0], items[3], 1);
+    EXPECT_EQ(both(list), "[B]DC");
+    delete items[0];
+    list.move(nullptr, items[1], 99);
+    EXPECT_EQ(both(list), "[D]CB") << "without an old row it is an insertion";
+    list.move(items[2], items[2], -1);
+    EXPECT_EQ(both(list), "C[D]B");
+}
+
+TEST_F(ListTest, TheLastRowTakesTheListOffTheScreenOnlyByRemove)
+{
+    List list(0);
+    fill(list, "A");
+    show(list);
+    const UWidget* parent = half(list).getWidget()->parentWidget();
+    ASSERT_NE(parent, nullptr);
+    list.replace(list.getItems()[0], list.removeAt(5));
+    std::unique_ptr<ListItem> row(list.removeAt(0));
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "removeAt()";
+    list.append(row.release());
+    row.reset(list.getItems()[0]);
+    list.replace(row.get(), new CountedItem("B"));
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "replace()";
+    CountedItem foreign("X");
+    delete list.removeAt(0);
+    list.replace(&foreign, new CountedItem("C"));
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "replace() of a foreign row";
+    EXPECT_FALSE(half(list).hasOwnership());
+    row.reset(list.getItems()[0]);
+    list.remove(row.get());
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), nullptr);
+    EXPECT_TRUE(half(list).hasOwnership());
+    list.append("D");
+    show(list);
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "shown again";
+    EXPECT_FALSE(half(list).hasOwnership());
+}
+
+TEST_F(ListTest, ARowDeletedInAListLeavesItFirst)
+{
+    List list(0);
+    fill(list, "ABC");
+    show(list);
+    delete list.getItems()[1];
+    EXPECT_EQ(both(list), "[A]C");
+    delete list.getItems()[0];
+    EXPECT_EQ(both(list), "[C]");
+}
+
+TEST_F(ListTest, ListsOfManyRowsEnd)
+{
+    constexpr int count = 100000;
+    List list(0);
+    show(list);
+    for (int i = 0; i < count; ++i)
+        list.append("row");
+    EXPECT_EQ(list.size(), count);
+    const std::vector<ListItem*> items = list.getItems();
+    list.append(items[count / 2]);
+    EXPECT_EQ(list.size(), count) << "refused";
+    list.removeAll();
+    EXPECT_EQ(list.size(), 0);
+    for (ListItem* item : items)
+        list.append(item);
+    list.setSelectedIndex(count - 1);
+    EXPECT_EQ(list.getSelected(), items.back());
+    list.clear();
+    EXPECT_EQ(list.size(), 0);
+}
+
+// Screen
+
+TEST_F(ListTest, TitleAndCurrentRowAreWrittenAndPainted)
+{
+    List list(0);
+    fill(list, "AB");
+    list.setTitle("Speaker");
+    show(list);
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:VantoListBox", "caption:Speaker", "subitem:", "name:VantoListBoxItem", "string0: A",
+            "endsubitem:", "end:"}));
+    EXPECT_TRUE(half(list).hasCaption());
+    EXPECT_EQ(display->serialise(), "");
+    EXPECT_TRUE(glassLine(0).starts_with("Speaker"));
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(screenField("string0"), " B");
+    EXPECT_TRUE(glassLine(1).starts_with("B"));
+    list.setTitle(static_cast<TranslationInfo*>(nullptr));
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:VantoListBox", "subitem:", "name:VantoListBoxItem", "string0: B",
+            "endsubitem:", "end:"}));
+    EXPECT_FALSE(half(list).hasCaption());
+}
+
+TEST_F(ListTest, ChangesThatCanBeSeenAreTold)
+{
+    List list(0);
+    fill(list, "AB");
+    show(list);
+    const struct {
+        const char* name;
+        int notices;
+        std::function<void()> change;
+    } changesOf[] = {
+        {"append", 1, [&] { list.append("C"); }},
+        {"insertAt", 1, [&] { list.insertAt(new ListItem("D", true), 0); }},
+        {"removeAt", 1, [&] { delete list.removeAt(0); }},
+        {"setSelected", 1, [&] { list.setSelected(list.getItems()[1]); }},
+        {"setSelectedIndex", 0, [&] { list.setSelectedIndex(0); }},
+        {"setTitle", 1, [&] { list.setTitle("T"); }},
+        {"clear", 1, [&] { list.clear(); }},
+        {"hide", 0, [&] { list.hide(); }},
+        {"Down", 0, [&] { press(UGlobal::KeyDown); }},
+    };
+    for (const auto& change : changesOf) {
+        const int before = changes.count;
+        change.change();
+        EXPECT_EQ(changes.count - before, change.notices) << change.name;
+    }
+}
+
+TEST_F(ListTest, WhatTheUserDoesReachesTheListeners)
+{
+    List list(1);
+    fill(list, "AB");
+    RecordingListener listener;
+    RecordingListener gone;
+    list.addCommandListener(&listener);
+    list.addCommandListener(&listener);
+    list.addCommandListener(&gone);
+    list.removeCommandListener(&gone);
+    show(list);
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(list.getSelectedIndex(), 1);
+    for (const int key : {UGlobal::KeyOk, UGlobal::KeyLeft, UGlobal::KeyRight})
+        press(key);
+    EXPECT_EQ(listener.commands(3),
+        (std::vector<Command*>{List::SELECT_COMMAND(), List::BACK_COMMAND(), List::RIGHT_COMMAND()}));
+    EXPECT_EQ(listener.waitFor(3)[0].second, &list);
+    list.hide();
+    press(UGlobal::KeyOk);
+    list.clearCommandListeners();
+    show(list);
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(listener.count(), 3u);
+    EXPECT_EQ(gone.count(), 0u);
+}
+
+TEST_F(ListTest, WellKnownCommandsAreToldApartByAddress)
+{
+    const std::vector<std::pair<Command*, int>> commands = {{List::BACK_COMMAND(), 1}, {List::RIGHT_COMMAND(), 9},
+        {List::SELECT_COMMAND(), 6}, {List::DISPLAY_CHANGED_COMMAND(), 20}, {List::TABBAR_ACTIVE_COMMAND(), 16},
+        {List::TABBAR_INACTIVE_COMMAND(), 17}, {List::HEADER_TEXT_CHANGED_COMMAND(), 6},
+        {List::HEADER_TEXT_ENTRY_FINISHED_COMMAND(), 6}, {List::FILTER_CHANGED_COMMAND(), 6}};
+    std::set<Command*> addresses;
+    for (const auto& [command, type] : commands) {
+        addresses.insert(command);
+        EXPECT_EQ(command->getType(), type);
+        EXPECT_EQ(command->getLabel(), "");
+        EXPECT_TRUE(Command::exists(command));
+    }
+    EXPECT_EQ(addresses.size(), commands.size());
+    EXPECT_EQ(List::BACK_COMMAND(), commands[0].first);
+}
+
+TEST_F(ListTest, ANewLocaleReadsTitleAndRowsAgain)
+{
+    Prefixing translator;
+    display->setTranslator(&translator);
+    List list(0);
+    list.append(new TranslationInfo("<", "row", ">", &translator));
+    auto* title = new TranslationInfo("", "title", "!", &translator);
+    list.setTitle(title);
+    list.setTitle(title);
+    show(list);
+    EXPECT_EQ(box(list).backText().toUTF8(), "Back?");
+    translator.prefix = "de:";
+    display->localeChanged("de");
+    EXPECT_EQ(screenField("caption"), "de:title!");
+    EXPECT_EQ(screenField("string0"), " <de:row>");
+    EXPECT_EQ(box(list).backText().toUTF8(), "de:Back?");
+    EXPECT_EQ(VantoListBoxMEG::deleteText().toUTF8(), "de:Speller.menu.Delete?");
+    list.setTitle("literal");
+    translator.prefix = "fr:";
+    display->localeChanged("fr");
+    EXPECT_EQ(screenField("caption"), "literal");
+    EXPECT_EQ(screenField("string0"), " <fr:row>");
+    display->setTranslator(nullptr);
+}
+
+TEST_F(ListTest, AListOfCallsHasItsPlaceAndHearsTheDuration)
+{
+    List list(0);
+    VantoListBoxWithTitleMEG& widget = *half(list).getListWidget();
+    show(list);
+    struct CallRow : ListItemPrivateIfc {
+        void localeChanged(std::string) override { }
+        void releaseOwnership() override { }
+        VantoListBoxItemMEG* getVantoListItem() override { return row; }
+        TreeItemMEG* row = new TreeItemMEG(BranchMEG::CallActive, UString(std::string("Bob")), false, true);
+    } call;
+    half(list).append(&call);
+    EXPECT_EQ(widget.getRect(), URect(3, 0, 157, 13));
+    EXPECT_EQ(box(list).getRect(), URect(3, 0, 157, 13));
+    const int before = changes.count;
+    advance(1000);
+    EXPECT_EQ(changes.count, before + 1);
+    EXPECT_EQ(screenField("string0"), "Bob  0:01");
+}
+
+// Dialer and stored settings
+
+TEST_F(ListTest, ADialerGetsEveryKey)
+{
+    List list(0);
+    fill(list, "AB");
+    auto dialer = std::make_unique<TestDialer>();
+    RecordingListener listener;
+    list.addCommandListener(&listener);
+    show(list);
+    list.addDialer(dialer.get());
+    half(list).dismissDialler();
+    EXPECT_EQ(dialer->log.lostFocus, 0) << "no key yet";
+    press('5');
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(dialer->log.keys, "53+53-4+4-");
+    EXPECT_EQ(list.getSelectedIndex(), 0) << "the list's own keys rest";
+    half(list).dismissDialler();
+    half(list).dismissDialler();
+    EXPECT_EQ(dialer->log.lostFocus, 1);
+    press(UGlobal::KeyOk);
+    TestDialer second;
+    list.addDialer(&second);
+    EXPECT_EQ(dialer->log.lostFocus, 2) << "another dialer dismisses the first";
+    EXPECT_EQ(list.getDialer(), &second);
+    list.addDialer(dialer.get());
+    dialer.reset();
+    EXPECT_EQ(list.getDialer(), nullptr);
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(list.getSelectedIndex(), 1) << "the list has its keys back";
+    list.addDialer(&second);
+    list.addDialer(nullptr);
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(list.getSelectedIndex(), 0);
+    EXPECT_EQ(listener.count(), 0u);
+}
+
+TEST_F(ListTest, FixedAnswersAndStoredSettings)
+{
+    for (int kind = -1; kind < 5; ++kind) {
+        List list(kind);
+        EXPECT_EQ(list.hasBackItem(), kind == 1 || kind == 3);
+        EXPECT_EQ(half(list).hasBackItem(), list.hasBackItem());
+    }
+    List list(0);
+    fill(list, "A");
+    EXPECT_EQ(list.widgetName(), "List");
+    auto* ticker = reinterpret_cast<Ticker*>(&list);
+    list.setTicker(ticker);
+    EXPECT_EQ(list.getTicker(), ticker);
+    list.showDiallerOnInitialKeyEvent(true);
+    EXPECT_TRUE(half(list).showsDialerOnKey());
+    EXPECT_EQ(list.getDisplayIndexForItem(list.getItems()[0]), -1);
+    EXPECT_EQ(list.getCurrentPageNumber(), -1);
+    EXPECT_EQ(list.getFilterType() + list.getFilterHeader() + list.getUserEnteredHeaderText(), "");
+    list.clearSelectedItemBackground();
+    EXPECT_FALSE(box(list).item(0)->hasBackground());
+}
+
+// Odd circumstances
+
+namespace {
+
+std::vector<LogControl::Message> messages;
+
+}
+
+TEST_F(ListTest, AFailedRemoveAtIsLogged)
+{
+    LogControl::setLevel("DisplayAPI::List", 3);
+    LogControl::setSink([](const LogControl::Message& message) { messages.push_back(message); });
+    List list(0);
+    EXPECT_EQ(list.removeAt(0), nullptr);
+    fill(list, "A");
+    EXPECT_EQ(list.removeAt(list.size()), nullptr);
+    list.move(list.getItems()[0], nullptr, 0);
+    LogControl::setLevel("DisplayAPI::List", 5);
+    list.setSelectedIndex(7);
+    LogControl::reset();
+    char removeAt[100];
+    std::snprintf(removeAt, sizeof removeAt, "removeAt() this %p, cannot remove item at index ", (void*)&list);
+    char select[100];
+    std::snprintf(select, sizeof select, "setSelectedIndex() this: %p index 7\n", (void*)&list);
+    ASSERT_EQ(messages.size(), 4u);
+    EXPECT_EQ(messages[0].text, removeAt + std::string("0"));
+    EXPECT_EQ(messages[1].text, removeAt + std::string("1"));
+    EXPECT_EQ(messages[1].file, "src/List");
+    EXPECT_EQ(messages[1].module, "DisplayAPI::List");
+    EXPECT_EQ(messages[1].level, 3);
+    EXPECT_TRUE(messages[2].text.starts_with("oldListItemPrivate[0x")) << messages[2].text;
+    EXPECT_EQ(messages[2].level, 2);
+    EXPECT_EQ(messages[3].text, select);
+    EXPECT_EQ(both(list), "[A]");
+}
+
+TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
+{
+    using Change = std::function<void(List&)>;
+    const std::pair<const char*, Change> table[] = {
+        {"append", [](List& list) { list.append(new CountedItem("X")); }},
+        {"insertAt", [](List& list) { list.insertAt(new CountedItem("X"), 0); }},
+        {"removeAt", [](List& list) { EXPECT_EQ(list.removeAt(0), nullptr); }},
+        {"replace", [](List& list) { list.replace(list.getItems()[0], new CountedItem("X")); }},
+        {"replace null", [](List& list) { list.replace(nullptr, new CountedItem("X")); }},
+        {"move", [](List& list) { list.move(list.getItems()[0], new CountedItem("X"), 0); }},
+        {"move within", [](List& list) { list.move(list.getItems()[0], list.getItems()[1], 0); }},
+        {"remove", [](List& list) { list.remove(list.getItems()[0]); }},
+        {"removeAll", [](List& list) { list.removeAll(); }},
+        {"clear", [](List& list) { list.clear(); }},
+        {"setTitle", [](List& list) { list.setTitle("T"); }},
+        {"setSelected", [](List& list) { list.setSelected(list.getItems()[1]); }},
+        {"Ok", [this](List&) { press(UGlobal::KeyOk); }},
+        {"Down", [this](List&) { press(UGlobal::KeyDown); }},
+    };
+    ActingSubscriber subscriber;
+    display->subscribe(&subscriber);
+    for (const auto& [name, change] : table) {
+        SCOPED_TRACE(name);
+        auto list = std::make_unique<List>(0);
+        fill(*list, "ABC");
+        show(*list);
+        subscriber.action = [&] { list.reset(); };
+        change(*list);
+        EXPECT_EQ(list, nullptr);
+        EXPECT_EQ(CountedItem::living, 0);
+    }
+    display->subscribe(&changes);
+}
+
+TEST_F(ListTest, AListOutlivesTheDisplay)
+{
+    List list(0);
+    fill(list, "AB");
+    show(list);
+    endDisplay();
+    EXPECT_TRUE(half(list).hasOwnership());
+    list.append(new CountedItem("C"));
+    EXPECT_EQ(both(list), "[A]BC");
+}
+
+TEST_F(ListTest, OddTextsComeThrough)
+{
+    List list(0);
+    const std::string longText(1 << 20, 'x');
+    for (const std::string& text : {std::string("a\0b", 3), std::string("\xC3\x28"), longText, std::string()}) {
+        list.append(text);
+        list.setTitle(text);
+        list.setSelectedIndex(list.size() - 1);
+        EXPECT_EQ(list.getSelected()->getText(), UString(text).toUTF8());
+    }
+}
+
+TEST_F(ListTest, RequestsPostedByHandAndUnknownNumbersAreServed)
+{
+    List list(0);
+    auto* append = new GuiRequestEvent(&list, 5);
+    append->stringParam1 = "posted";
+    UApplication::instance()->postEvent(append);
+    for (const int number : {23, 37, 38, -1, 2, 90, 1000})
+        UApplication::instance()->postEvent(new GuiRequestEvent(&list, number));
+    pump();
+    EXPECT_EQ(both(list), "[posted]");
+}
+
+// Threads
+
+TEST_F(ThreadedListTest, ManyThreadsWorkOnOneListAndReadCopies)
+{
+    auto list = std::make_unique<List>(0);
+    display->setCurrent(list.get());
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([&] {
+            for (int i = 0; i < 50; ++i) {
+                auto* mine = new CountedItem("mine");
+                list->append(mine);
+                list->append("theirs");
+                list->setTitle(std::to_string(i));
+                EXPECT_GE(list->getItems().size(), 2u);
+                list->remove(mine);
+                delete mine; // stands behind the remove in the queue
+            }
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(list->size(), 200);
+    EXPECT_EQ(CountedItem::living, 0);
+    list.reset();
+    EXPECT_EQ(display->getCurrent(), nullptr);
+}
+
+TEST_F(ThreadedListTest, AListThatIsDeletedBehindTheLoopStaysQuiet)
+{
+    Prefixing translator;
+    auto list = std::make_unique<List>(1);
+    list->append(new CountedItem("A"));
+    list->setTitle(new TranslationInfo("", "title", "", &translator));
+    display->setCurrent(list.get());
+    EXPECT_EQ(list->size(), 1);
+    endLoop();
+    EXPECT_EQ(list->size(), -1);
+    EXPECT_EQ(list->getSelectedIndex(), -1);
+    EXPECT_EQ(list->getSelected(), nullptr);
+    EXPECT_EQ(list->removeAt(0), nullptr);
+    EXPECT_EQ(list->getItems().size(), 0u);
+    EXPECT_EQ(list->getDialer(), nullptr);
+    EXPECT_TRUE(list->hasBackItem());
+    auto* late = new CountedItem("B");
+    list->append(late);
+    late->setText("still there");
+    list->append(new TranslationInfo("", "never", "", &translator));
+    list->setTitle(new TranslationInfo("", "never", "", &translator));
+    list->clear();
+    list.reset();
+    EXPECT_EQ(CountedItem::living, 1) << "the row that never arrived is kept";
+    delete late;
+    List unborn(0);
+    EXPECT_EQ(unborn.getPrivateImpl(), nullptr);
+}
