@@ -160,23 +160,6 @@ TEST_F(ThreadedListItemTest, AnIconSetFromAnotherThreadIsReadAtOnceAndZeroIsSkip
     onGui([&] { EXPECT_TRUE(dynamic_cast<InfiniteBarItemMEG&>(rowOf(progress)).isRunning()); });
 }
 
-TEST_F(ThreadedListItemTest, ManyThreadsReadIconsWhileTheRowsAreMade)
-{
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t) {
-        threads.emplace_back([] {
-            for (int i = 0; i < 200; ++i) {
-                ListItem item("Anna", true);
-                item.setLeftIcon(icon(345 + i % 16));
-                const int seen = item.getLeftIcon();
-                EXPECT_TRUE(seen == 0 || seen == 345 + i % 16);
-            }
-        });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
-}
-
 TEST_F(ThreadedListItemTest, ARowOutlivesTheLoop)
 {
     Prefixing translator;

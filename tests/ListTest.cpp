@@ -30,7 +30,6 @@ public:
 std::vector<LogControl::Message> messages;
 
 class ListTest : public ListFixture { };
-class ThreadedListTest : public ThreadedPhoneTest { };
 
 }
 
@@ -352,59 +351,4 @@ TEST_F(ListTest, RequestsPostedByHandAndUnknownNumbersAreServed)
         UApplication::instance()->postEvent(new GuiRequestEvent(&list, number));
     pump();
     EXPECT_EQ(both(list), "[posted]");
-}
-
-// Threads
-
-TEST_F(ThreadedListTest, ManyThreadsWorkOnOneListAndReadCopies)
-{
-    auto list = std::make_unique<List>(0);
-    display->setCurrent(list.get());
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t) {
-        threads.emplace_back([&] {
-            for (int i = 0; i < 50; ++i) {
-                auto* mine = new ListItem("mine", true);
-                list->append(mine);
-                list->append("theirs");
-                list->setTitle(std::to_string(i));
-                EXPECT_GE(list->getItems().size(), 2u);
-                list->remove(mine);
-                delete mine; // stands behind the remove in the queue
-            }
-        });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(list->size(), 200);
-    list.reset();
-    EXPECT_EQ(display->getCurrent(), nullptr);
-}
-
-TEST_F(ThreadedListTest, AListThatIsDeletedBehindTheLoopStaysQuiet)
-{
-    Prefixing translator;
-    auto list = std::make_unique<List>(1);
-    list->append(new ListItem("A", true));
-    list->setTitle(new TranslationInfo("", "title", "", &translator));
-    display->setCurrent(list.get());
-    EXPECT_EQ(list->size(), 1);
-    endLoop();
-    EXPECT_EQ(list->size(), -1);
-    EXPECT_EQ(list->getSelectedIndex(), -1);
-    EXPECT_EQ(list->getSelected(), nullptr);
-    EXPECT_EQ(list->removeAt(0), nullptr);
-    EXPECT_EQ(list->getItems().size(), 0u);
-    EXPECT_EQ(list->getDialer(), nullptr);
-    EXPECT_TRUE(list->hasBackItem());
-    auto* late = new ListItem("B", true);
-    list->append(late);
-    late->setText("still there");
-    list->append(new TranslationInfo("", "never", "", &translator));
-    list->setTitle(new TranslationInfo("", "never", "", &translator));
-    list->clear();
-    list.reset();
-    delete late; // it never arrived, and nobody else has deleted it
-    List unborn(0);
-    EXPECT_EQ(unborn.getPrivateImpl(), nullptr);
 }
