@@ -2,12 +2,13 @@
 
 #include "Disturb.h"
 
+#include <algorithm>
 #include <chrono>
 
 #if TOOLKIT_PORTABLE_GATE
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mCount(count)
+    : mCount(std::min(count, maximum))
     , mMaximum(maximum)
 {
 }
@@ -90,8 +91,8 @@ timespec deadlineIn(int milliseconds)
 }
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mWord(count)
-    , mMaximum(maximum < CountMask ? maximum : CountMask)
+    : mWord(std::min({count, maximum, CountMask}))
+    , mMaximum(std::min(maximum, CountMask))
 {
 }
 
