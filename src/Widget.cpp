@@ -41,11 +41,12 @@ void Widget::setGuiThreadId(unsigned int id)
 
 void Widget::postEvent(GuiRequestEvent* event) const
 {
+    // Behind the wait for the lock the handle itself may have gone.
+    if (!event)
+        event = new GuiRequestEvent(const_cast<Widget*>(this), -1);
     WidgetImplUse use(*mImpl);
     Semaphore& lock = mImpl->lock;
     lock.take(-1);
-    if (!event)
-        event = new GuiRequestEvent(const_cast<Widget*>(this), -1);
 
     if (Wait* callersWait = event->waitCondition()) {
         postToApplication(event);
@@ -67,11 +68,12 @@ void Widget::postEvent(int type) const
 
 void Widget::postEventAsync(GuiRequestEvent* event) const
 {
+    // Behind the wait for the lock the handle itself may have gone.
+    if (!event)
+        event = new GuiRequestEvent(const_cast<Widget*>(this), -1);
     WidgetImplUse use(*mImpl);
     Semaphore& lock = mImpl->lock;
     lock.take(-1);
-    if (!event)
-        event = new GuiRequestEvent(const_cast<Widget*>(this), -1);
     postToApplication(event);
     lock.give();
 }
@@ -83,8 +85,11 @@ void Widget::postEventAsync(int type) const
 
 void Widget::postEventHelper(bool async, GuiRequestEvent* event)
 {
+    if (!event)
+        event = new GuiRequestEvent(this, -1);
     if (isGuiThread()) {
         std::unique_ptr<GuiRequestEvent> owned(event);
+        event->freeOwned(false); // the handler takes the copies over
         processGuiRequest(*event);
     } else if (async) {
         postEventAsync(event);
