@@ -1,20 +1,14 @@
 #include <DisplayAPI/Command.h>
 
 #include "CommandExecutor.h"
+#include "CurrentApplication.h"
 
 #include <Semaphore.h>
 #include <TranslationInfo.h>
-#include <UApplication.h>
 
 namespace DisplayAPI {
 
 namespace {
-
-bool isHardwareVariantOne()
-{
-    const VantoUApplication* application = VantoUApplication::getCurrentApplication();
-    return application && application->getHardwareVariant() == 1;
-}
 
 // Neither the set nor its lock is ever destroyed: well-known commands die behind main().
 std::unordered_set<const Command*>& allCommands()
@@ -56,7 +50,7 @@ std::string Command::getText() const
     CriticalSection section(commandListMutex());
     if (!mTranslation)
         return mLabel;
-    return isHardwareVariantOne() ? mTranslation->getString() : mTranslation->getCompleteString();
+    return currentHardwareVariant() == 1 ? mTranslation->getString() : mTranslation->getCompleteString();
 }
 
 std::string Command::getBasicText() const

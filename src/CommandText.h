@@ -14,7 +14,7 @@ namespace DisplayAPI {
 inline std::optional<std::string> livingCommandText(const Command* command)
 {
     CriticalSection section(Command::commandListMutex());
-    if (!Command::exists(command))
+    if (!command || !Command::exists(command))
         return std::nullopt;
     return command->getText();
 }

@@ -50,6 +50,10 @@ public:
         return copy;
     }
 
+    /// The same for an object that the request hands over, and that others may still know: if the request never
+    /// runs, `abandon(object)` is called.
+    void ownUntilRun(void* object, void (*abandon)(void*)) { mOwned = new Owned{object, abandon, mOwned}; }
+
     std::string stringParam1;
     std::string stringParam2;
     std::string stringParam3;

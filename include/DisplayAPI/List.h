@@ -241,14 +241,18 @@ private:
     void privateMove(ListItem* old, ListItem* replacement, int index);
     void privateRemoveAll();
     void privateReplace(ListItem* old, ListItem* replacement);
+    void appendInsteadOf(ListItem* foreign, ListItem* replacement);
     void privateSetDialer(PopupDialer* dialer);
+    void privateClearSelectedBackground();
+    void copyItemsTo(std::vector<ListItem*>* copy) const;
+    PopupDialer* livingDialer() const;
 
     bool isAcceptable(ListItem* item) const;
-    bool isDeletedWith(ListItem* item);
     int indexOf(const ListItem* item) const;
-    void enter(ListItem* item, int index);
-    void leave(int index);
+    std::vector<ListItem*>::iterator position(int index);
+    void takeOffVector(int index);
     void deleteItems();
+    static bool isDeletedWith(const List* list, ListItem* item);
     static void itemDies(Displayable& list, ListItem& item, ListItemPrivateIfc* itemPrivate);
 
     std::vector<ListItem*> mItems;

@@ -7,8 +7,6 @@ namespace {
 
 class CallRowsTest : public ListFixture {
 protected:
-    CallRowsTest() { widget->setParent(&root); }
-
     static CallLogListItemMEG* logRow(const std::string& date, int icon = 4, int count = 1)
     {
         return new CallLogListItemMEG(UString("Bob"), UString("4712"), static_cast<CallLogListItemMEG::IconType>(icon),
@@ -24,9 +22,6 @@ protected:
         std::strftime(date, sizeof date, "%Y-%m-%d", &local);
         return date;
     }
-
-    VantoListBoxWithTitleMEG* widget = new VantoListBoxWithTitleMEG;
-    VantoListBoxMEG& list = *widget->list();
 };
 
 }
@@ -73,14 +68,11 @@ TEST_F(CallRowsTest, ACallLogRowShowsWhoAndWhen)
     EXPECT_EQ(row->getItemType(), VantoListBoxItemMEG::CallLogRow);
 
     list.hideHighlightBar();
-    line(0);
-    const UScreenWE1 thin = screen;
+    const UScreenWE1 thin = picture();
     row->setBold(true);
-    line(0);
-    EXPECT_FALSE(screen == thin) << "calls that nobody has looked at stand out";
+    EXPECT_FALSE(picture() == thin) << "calls that nobody has looked at stand out";
     row->setBold(false);
-    line(0);
-    EXPECT_TRUE(screen == thin);
+    EXPECT_TRUE(picture() == thin);
 }
 
 TEST_F(CallRowsTest, ARowWithoutANameShowsTheNumberAlone)
@@ -121,21 +113,16 @@ TEST_F(CallRowsTest, TheEndlessBarRunsWhileItIsOnTheGlass)
 {
     auto* row = new InfiniteBarItemMEG;
     list.addItem(row);
-    line(0);
-    const UScreenWE1 still = screen;
-    ULoop::instance().advance(1000);
-    line(0);
-    EXPECT_TRUE(screen == still) << "nobody has started it";
+    const UScreenWE1 still = picture();
+    advance(1000);
+    EXPECT_TRUE(picture() == still) << "nobody has started it";
 
     row->startInfiniteProgressBar();
-    line(0);
-    const UScreenWE1 first = screen;
-    ULoop::instance().advance(1000);
-    line(0);
-    EXPECT_FALSE(screen == first);
-    ULoop::instance().advance(1200);
-    line(0);
-    EXPECT_TRUE(screen == first) << "it begins again";
+    const UScreenWE1 first = picture();
+    advance(1000);
+    EXPECT_FALSE(picture() == first);
+    advance(1200);
+    EXPECT_TRUE(picture() == first) << "it begins again";
     delete widget;
-    ULoop::instance().advance(1000);
+    advance(1000);
 }

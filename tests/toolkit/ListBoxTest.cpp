@@ -7,18 +7,15 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class ListBoxTest : public ListFixture {
-protected:
-    ListBoxTest()
-    {
-        widget->setParent(&root);
-        list.setListener(&agent);
-    }
+std::vector<std::string> texts(const VantoListBoxMEG& list)
+{
+    std::vector<std::string> result;
+    for (int index = 0; index < list.count(); ++index)
+        result.push_back(list.item(index)->getText().toUTF8());
+    return result;
+}
 
-    RecordingAgent agent;
-    VantoListBoxWithTitleMEG* widget = new VantoListBoxWithTitleMEG;
-    VantoListBoxMEG& list = *widget->list();
-};
+class ListBoxTest : public ListFixture { };
 
 }
 
@@ -54,7 +51,7 @@ TEST_F(ListBoxTest, TheCurrentRowSurvivesWhatComesAndGoesAroundIt)
     EXPECT_EQ(list.currentItem(), rows[1]) << "or the last one";
     delete rows[1];
     EXPECT_EQ(list.currentIndex(), -1);
-    EXPECT_TRUE(agent.types.empty()) << "operations raise nothing";
+    EXPECT_TRUE(agent.entries.empty()) << "operations raise nothing";
 }
 
 TEST_F(ListBoxTest, OnlyIndicesOfTheListAndMinusOneBecomeCurrent)
@@ -66,7 +63,7 @@ TEST_F(ListBoxTest, OnlyIndicesOfTheListAndMinusOneBecomeCurrent)
     list.setCurrentItem(-1);
     EXPECT_EQ(list.currentItem(), nullptr);
     EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_TRUE(agent.types.empty());
+    EXPECT_TRUE(agent.entries.empty());
     press(UGlobal::KeyUp);
     EXPECT_EQ(list.currentIndex(), 1);
 }
@@ -167,11 +164,11 @@ TEST_F(ListBoxTest, KeysRaiseOneEventEach)
     };
     for (const Step& step : steps) {
         SCOPED_TRACE(step.name);
-        agent.types.clear();
-        agent.sources.clear();
+        agent.entries.clear();
         EXPECT_TRUE(press(step.key));
-        EXPECT_EQ(agent.types, std::vector<int>{step.type});
-        EXPECT_EQ(agent.sources, std::vector<UAgent*>{step.source});
+        ASSERT_EQ(agent.entries.size(), 1u);
+        EXPECT_EQ(agent.entries[0].type, step.type);
+        EXPECT_EQ(agent.entries[0].source, step.source);
         EXPECT_EQ(list.currentIndex(), step.current);
     }
     EXPECT_FALSE(press(UGlobal::Key0)) << "a dial key is somebody else's";
@@ -186,14 +183,15 @@ TEST_F(ListBoxTest, WhatCannotHappenRaisesNothing)
     list.setReadOnly(0, true);
     list.setReadOnly(7, true);
     EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_TRUE(agent.types.empty());
+    EXPECT_TRUE(agent.entries.empty());
 
     list.disable();
-    EXPECT_FALSE(press(UGlobal::KeyLeft));
+    press(UGlobal::KeyLeft);
     list.enable();
     widget->hide();
-    EXPECT_FALSE(press(UGlobal::KeyLeft));
-    EXPECT_TRUE(agent.types.empty());
+    press(UGlobal::KeyLeft);
+    EXPECT_GT(below->keys, 0) << "the screen below has the keys";
+    EXPECT_TRUE(agent.entries.empty());
 }
 
 TEST_F(ListBoxTest, AHoldOrAReleaseDoesNotMove)
@@ -211,7 +209,7 @@ TEST_F(ListBoxTest, RightChoosesWhenItEqualsOK)
     addRows(list, {"a"});
     list.setRightArrowEqualsOK(true);
     press(UGlobal::KeyRight);
-    EXPECT_EQ(agent.types, std::vector<int>{EventType::RowChosen});
+    EXPECT_EQ(agent.takeTypes(), Types{EventType::RowChosen});
 }
 
 TEST_F(ListBoxTest, AListenerThatUsesAKeyKeepsItFromTheList)
@@ -220,26 +218,36 @@ TEST_F(ListBoxTest, AListenerThatUsesAKeyKeepsItFromTheList)
     agent.usesKeys = true;
     EXPECT_TRUE(press(UGlobal::KeyDown));
     EXPECT_TRUE(press(UGlobal::Key0));
-    EXPECT_EQ(agent.keys, (std::vector<int>{UGlobal::KeyDown, UGlobal::Key0}));
+    EXPECT_EQ(agent.keys, (Types{UGlobal::KeyDown, UGlobal::KeyDown, UGlobal::Key0, UGlobal::Key0})) << "releases too";
     EXPECT_EQ(list.currentIndex(), 0);
-    EXPECT_TRUE(agent.types.empty());
+    EXPECT_TRUE(agent.entries.empty());
 }
 
 TEST_F(ListBoxTest, TheWidgetRelaysOnlyWhatNobodyElseHears)
 {
-    RecordingAgent outer;
+    KeyRecorder outer;
     widget->setListener(&outer);
     auto rows = addRows(list, {"a", "b"});
     press(UGlobal::KeyDown);
-    EXPECT_TRUE(outer.types.empty()) << "the list has a listener of its own";
+    EXPECT_TRUE(outer.entries.empty()) << "the list has a listener of its own";
 
     list.setListener(widget);
     outer.usesKeys = true;
     press(UGlobal::KeyOk);
-    EXPECT_EQ(outer.types, std::vector<int>{EventType::RowChosen});
-    EXPECT_EQ(outer.sources, std::vector<UAgent*>{rows[1]});
-    EXPECT_EQ(outer.payloads, std::vector<UAgent*>{rows[1]});
+    EXPECT_EQ(outer.entries, (std::vector<Recorder::Entry>{{EventType::RowChosen, rows[1], rows[1]}}));
     EXPECT_TRUE(outer.keys.empty()) << "a relay passes events, no keys";
+}
+
+TEST_F(ListBoxTest, AWidgetMayHandItsKeysOnToItsList)
+{
+    struct KeyList : VantoListBoxWithTitleMEG {
+        bool keyEvent(UKeyEvent* key) override { return list()->keyEvent(key); }
+    };
+    KeyList outer;
+    addRows(*outer.list(), {"a", "b"});
+    UKeyEvent down(UGlobal::KeyDown, UGlobal::KeyPressed);
+    EXPECT_TRUE(outer.keyEvent(&down)) << "and is not asked for them again";
+    EXPECT_EQ(outer.list()->currentIndex(), 1);
 }
 
 // Ownership
@@ -249,18 +257,18 @@ TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
     struct Order {
         const char* name;
         int key;
-        std::function<void(RecordingAgent*&, VantoListBoxWithTitleMEG*)> death;
+        std::function<void(Recorder*&, VantoListBoxWithTitleMEG*)> death;
     };
     using Widget = VantoListBoxWithTitleMEG;
     const Order orders[] = {
-        {"the row", UGlobal::KeyOk, [](RecordingAgent*&, Widget* w) { delete w->list()->currentItem(); }},
-        {"all rows", UGlobal::KeyDown, [](RecordingAgent*&, Widget* w) { w->list()->clear(); }},
-        {"the list", UGlobal::KeyRight, [](RecordingAgent*&, Widget* w) { delete w; }},
-        {"the list on left", UGlobal::KeyLeft, [](RecordingAgent*&, Widget* w) { delete w; }},
+        {"the row", UGlobal::KeyOk, [](Recorder*&, Widget* w) { delete w->list()->currentItem(); }},
+        {"all rows", UGlobal::KeyDown, [](Recorder*&, Widget* w) { w->list()->clear(); }},
+        {"the list", UGlobal::KeyRight, [](Recorder*&, Widget* w) { delete w; }},
+        {"the list on left", UGlobal::KeyLeft, [](Recorder*&, Widget* w) { delete w; }},
         {"the listener", UGlobal::KeyOk,
-            [](RecordingAgent*& dying, Widget*) {
+            [](Recorder*& dying, Widget*) {
                 // What runs now lives in the listener: keep it until it has returned.
-                auto running = std::make_shared<std::function<void()>>(std::move(dying->onEvent));
+                auto running = std::make_shared<std::function<void(UEvent&)>>(std::move(dying->onEvent));
                 delete dying;
                 dying = nullptr;
             }},
@@ -270,11 +278,11 @@ TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
         auto* shown = new VantoListBoxWithTitleMEG;
         UPointer<VantoListBoxWithTitleMEG> life(shown);
         shown->setParent(&root);
-        auto* listener = new RecordingAgent;
+        auto* listener = new Recorder;
         shown->list()->setListener(listener);
         addRows(*shown->list(), {"a", "b"});
         const auto death = order.death;
-        listener->onEvent = [&listener, shown, death] { death(listener, shown); };
+        listener->onEvent = [&listener, shown, death](UEvent&) { death(listener, shown); };
         EXPECT_TRUE(press(order.key));
         if (life)
             press(UGlobal::KeyUp);
@@ -283,12 +291,23 @@ TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
     }
 }
 
+TEST_F(ListBoxTest, AListMayDieInWhatItsWidgetHandsOn)
+{
+    Recorder outer;
+    widget->setListener(&outer);
+    list.setListener(widget);
+    addRows(list, {"a"});
+    outer.onEvent = [this](UEvent&) { delete widget; };
+    EXPECT_TRUE(press(UGlobal::KeyLeft));
+    EXPECT_EQ(outer.takeTypes(), Types{EventType::LeftPressed});
+}
+
 TEST_F(ListBoxTest, AListMayDieWhileItsListenerLooksAtAKey)
 {
     addRows(list, {"a", "b"});
     agent.onKey = [this] { delete widget; };
     EXPECT_TRUE(press(UGlobal::KeyDown));
-    EXPECT_TRUE(agent.types.empty());
+    EXPECT_TRUE(agent.entries.empty());
 }
 
 TEST_F(ListBoxTest, RowsMayDieBeforeAndAfterTheirList)
@@ -419,6 +438,19 @@ TEST_F(ListBoxTest, WithoutATitleTheCurrentOfTwoRowsIsInverse)
     EXPECT_TRUE(isInverse(1)) << "a row that becomes current has its bar again";
 }
 
+TEST_F(ListBoxTest, TheViewStaysWhenRowsComeAndGoAboveIt)
+{
+    auto rows = addRows(list, {"a", "b", "c", "d", "e"});
+    list.setCurrentIndex(3);
+    list.setCurrentIndex(2);
+    list.insertItem(new VantoListBoxItemMEG, 0);
+    EXPECT_EQ(line(0), whole("c"));
+    list.setCurrentIndex(4);
+    delete rows[0];
+    EXPECT_EQ(line(0), whole("c"));
+    EXPECT_TRUE(isInverse(1));
+}
+
 TEST_F(ListBoxTest, ARowDividesItsLine)
 {
     auto rows = addRows(list, {"A name that is far too long for it"});
@@ -450,9 +482,9 @@ TEST_F(ListBoxTest, ARadioListHasExactlyOneSelectedRow)
     press(UGlobal::KeyDown);
     EXPECT_EQ(line(1), "( ) Loud                  |");
     int selectedInside = -1;
-    agent.onEvent = [&] { selectedInside = radio->selectedIndex(); };
+    agent.onEvent = [&](UEvent&) { selectedInside = radio->selectedIndex(); };
     press(UGlobal::KeyOk);
-    EXPECT_EQ(agent.types, (std::vector<int>{EventType::RowMoved, EventType::RowChosen}));
+    EXPECT_EQ(agent.takeTypes(), (Types{EventType::RowMoved, EventType::RowChosen}));
     EXPECT_EQ(selectedInside, 1) << "the listener finds the new selection";
     EXPECT_EQ(line(1), "(o) Loud                  |");
 

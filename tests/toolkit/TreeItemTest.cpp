@@ -7,12 +7,7 @@ namespace {
 
 class TreeItemTest : public ListFixture {
 protected:
-    TreeItemTest()
-    {
-        widget->setParent(&root);
-        list.setCoordinates(3, 0, 157, 13);
-        list.setListener(&agent);
-    }
+    TreeItemTest() { list.setCoordinates(3, 0, 157, 13); }
 
     static TreeItemMEG* call(const std::string& name, BranchMEG::IconType state = BranchMEG::CallActive)
     {
@@ -34,12 +29,7 @@ protected:
         return conference;
     }
 
-    static void advance(std::uint64_t milliseconds) { ULoop::instance().advance(milliseconds); }
     static std::string duration(const TreeItemMEG& row) { return row.branch->getTimeDuration().toUTF8(); }
-
-    RecordingAgent agent;
-    VantoListBoxWithTitleMEG* widget = new VantoListBoxWithTitleMEG;
-    VantoListBoxMEG& list = *widget->list();
 };
 
 }
@@ -47,28 +37,28 @@ protected:
 TEST_F(TreeItemTest, TheDurationRunsFromTheFirstConnection)
 {
     std::unique_ptr<TreeItemMEG> row(call("Bob", BranchMEG::Alerting));
-    RecordingAgent ticks;
+    Recorder ticks;
     row->branch->setListener(&ticks);
     advance(5000);
     EXPECT_EQ(duration(*row), "0:00");
-    EXPECT_TRUE(ticks.types.empty());
+    EXPECT_TRUE(ticks.entries.empty());
 
     row->setFirstIconType(BranchMEG::CallActive);
     advance(9999);
     EXPECT_EQ(duration(*row), "0:09");
-    EXPECT_EQ(ticks.types, std::vector<int>(9, EventType::ContentChanged));
-    EXPECT_EQ(ticks.sources.front(), row->branch);
+    EXPECT_EQ(ticks.entries.front().source, row->branch);
+    EXPECT_EQ(ticks.takeTypes(), Types(9, EventType::ContentChanged));
 
     row->setFirstIconType(BranchMEG::CallHeldByThisEnd);
     row->setFirstIconType(BranchMEG::CallActiveHD);
     advance(3600001);
     EXPECT_EQ(duration(*row), "60:10") << "a new state does not start the time again";
     row->stopDurationTimer();
-    ticks.types.clear();
+    ticks.entries.clear();
     row->setFirstIconType(BranchMEG::CallActive);
     advance(60000);
     EXPECT_EQ(duration(*row), "60:10");
-    EXPECT_TRUE(ticks.types.empty());
+    EXPECT_TRUE(ticks.entries.empty());
 
     row->cancelDurationTimer();
     row->setFirstIconType(BranchMEG::CallActive);
@@ -80,11 +70,11 @@ TEST_F(TreeItemTest, ATickMayDeleteTheRow)
 {
     auto* row = call("Bob");
     list.addItem(row);
-    RecordingAgent ticks;
+    Recorder ticks;
     row->branch->setListener(&ticks);
-    ticks.onEvent = [row] { delete row; };
+    ticks.onEvent = [row](UEvent&) { delete row; };
     advance(3000);
-    EXPECT_EQ(ticks.types.size(), 1u);
+    EXPECT_EQ(ticks.entries.size(), 1u);
     EXPECT_EQ(list.count(), 0);
 }
 
@@ -132,10 +122,6 @@ TEST_F(TreeItemTest, TheVoicePathTakesThePlaceOfAConnectedStateOnly)
 {
     auto* row = call("Bob");
     list.addItem(row);
-    auto picture = [this] {
-        UWindowManager::instance().paintIfNeeded();
-        return screen;
-    };
     const UScreenWE1 plain = picture();
     row->branch->setHeadsetIcon(true);
     const UScreenWE1 headset = picture();
@@ -180,10 +166,10 @@ TEST_F(TreeItemTest, ADisabledRowCannotBeChosen)
     list.addItem(row);
     row->enabled(false);
     EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_TRUE(agent.types.empty());
+    EXPECT_TRUE(agent.entries.empty());
     row->enabled(true);
     press(UGlobal::KeyOk);
-    EXPECT_EQ(agent.types, std::vector<int>{EventType::RowChosen});
+    EXPECT_EQ(agent.takeTypes(), Types{EventType::RowChosen});
 }
 
 // Conferences
@@ -202,7 +188,7 @@ TEST_F(TreeItemTest, TheHighlightGoesThroughTheMembers)
         children.push_back(list.currentIndex() * 10 + conference->getCurrentChild());
     }
     EXPECT_EQ(children, (std::vector<int>{1, 2, 12, 0})) << "title, members, next row, and round again";
-    EXPECT_EQ(agent.types, std::vector<int>(4, EventType::RowMoved));
+    EXPECT_EQ(agent.takeTypes(), Types(4, EventType::RowMoved));
     press(UGlobal::KeyUp);
     press(UGlobal::KeyUp);
     EXPECT_EQ(conference->getCurrentChild(), 2) << "from below the last member comes first";
@@ -218,7 +204,7 @@ TEST_F(TreeItemTest, AConferenceAloneWrapsInItself)
     EXPECT_EQ(conference->getCurrentChild(), 2);
     press(UGlobal::KeyDown);
     EXPECT_EQ(conference->getCurrentChild(), 0);
-    EXPECT_EQ(agent.types, std::vector<int>(2, EventType::RowMoved));
+    EXPECT_EQ(agent.takeTypes(), Types(2, EventType::RowMoved));
 }
 
 TEST_F(TreeItemTest, SettingAMemberCurrentMakesItsRowCurrent)
@@ -230,7 +216,7 @@ TEST_F(TreeItemTest, SettingAMemberCurrentMakesItsRowCurrent)
     conference->setCurrentChild(-1);
     EXPECT_EQ(list.currentIndex(), 1);
     EXPECT_EQ(conference->getCurrentChild(), 2);
-    EXPECT_TRUE(agent.types.empty());
+    EXPECT_TRUE(agent.entries.empty());
 }
 
 TEST_F(TreeItemTest, MembersComeAndGoWithTheirOwners)

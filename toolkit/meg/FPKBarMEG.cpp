@@ -91,7 +91,7 @@ UString FPKBarMEG::serialise() const
     TextBlock block("FPKBar");
     for (const Key* key : labelledKeys()) {
         block.beginSubitem("FPKLabel");
-        block.field("icon0", statusWords[key->status]);
+        block.field("icon0", statusWords[static_cast<std::size_t>(key->status)]);
         block.field("string0", shownLabel(*key));
         block.endSubitem();
     }

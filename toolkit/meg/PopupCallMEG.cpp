@@ -75,7 +75,7 @@ void PopupWithListMEG::paint(UPainter& painter)
             listBox->paint(painter);
         return;
     }
-    paintLine(painter, 1, 1, line2(), UPainter::Columns - 1);
+    paintLine(painter, 1, 1, line2(), UPainter::Columns - 1, iconColumns(0));
     if (hasRows() && listBox->scrollArrows())
         painter.mark(1, Icons::Mark::MoreBelow);
 }

@@ -40,7 +40,7 @@ BranchMEG::~BranchMEG() = default;
 UString BranchMEG::text() const
 {
     static const UString blank(" ");
-    const UString text = mRow.getText();
+    UString text = mRow.getText();
     if (mPrePrefix.isEmpty())
         return text;
     return text.isEmpty() ? mPrePrefix : mPrePrefix + blank + text;
@@ -237,11 +237,6 @@ TreeItemMEG::TreeItemMEG(
 }
 
 TreeItemMEG::~TreeItemMEG() = default;
-
-void TreeItemMEG::setText(const UString& text)
-{
-    VantoListBoxItemMEG::setText(text);
-}
 
 void TreeItemMEG::setFirstIconType(BranchMEG::IconType iconType)
 {

@@ -172,7 +172,6 @@ public:
 
     // Content
 
-    void setText(const UString& text) override;
     virtual void setFirstIconType(BranchMEG::IconType iconType);
 
     /// A text by which the application knows the call; it is not shown.

@@ -1,5 +1,6 @@
 #include "VantoListBoxMEG.h"
 
+#include "TextBlock.h"
 #include "Types.h"
 #include "UEvent.h"
 #include "UPainter.h"
@@ -43,19 +44,12 @@ URect rowAt(int top)
     return URect(0, top, GlassRight, top + RowHeight - 1);
 }
 
-/// A value of the screen text stands on one line.
-std::string onOneLine(std::string text)
-{
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
-}
-
 /// An icon word comes with or without a line feed at its end.
 std::string iconLine(const char* key, std::string word)
 {
     while (!word.empty() && word.back() == '\n')
         word.pop_back();
-    return word.empty() ? std::string() : key + onOneLine(std::move(word)) + "\n";
+    return word.empty() ? std::string() : key + TextBlock::oneLine(word) + "\n";
 }
 
 }
@@ -349,13 +343,13 @@ void VantoListBoxMEG::rowChosen(VantoListBoxItemMEG*) { }
 
 UString VantoListBoxMEG::screenText()
 {
-    const std::string text = onOneLine(std::exchange(mNotificationText, {}));
+    const std::string text = TextBlock::oneLine(std::exchange(mNotificationText, {}));
     const std::string icon = std::exchange(mNotificationIcon, {});
     const std::string secondIcon = std::exchange(mNotificationSecondIcon, {});
     const VantoListBoxItemMEG* row = currentItem();
     if (!row)
         return UString();
-    const std::string rowText = onOneLine(row->getText().toUTF8());
+    const std::string rowText = TextBlock::oneLine(row->getText().toUTF8());
     std::string block = "subitem:\nname:VantoListBoxItem\n";
     block += iconLine("icon0:", icon);
     block += iconLine("icon1:", secondIcon);

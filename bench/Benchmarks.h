@@ -1,0 +1,15 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <string>
+
+void registerFrameBenchmarks(const std::string& mode);
+void registerDeliveryBenchmarks(const std::string& mode);
+void registerScreenBenchmarks(const std::string& mode);
+
+/// Registers a benchmark that measures its operations itself: `measure` returns nanoseconds for each operation, of
+/// which `operations` make a round. Each round is one iteration, so that the report gets the median of the rounds.
+void registerRounds(
+    const std::string& mode, const std::string& name, long operations, const std::function<double()>& measure);

@@ -1,0 +1,143 @@
+#include "Benchmarks.h"
+#include "Phone.h"
+#include "Report.h"
+
+#include <DisplayAPI/List.h>
+#include <DisplayAPI/ListItem.h>
+#include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/PopupConfirm.h>
+
+#include <UApplication.h>
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <vector>
+
+using namespace DisplayAPI;
+
+namespace {
+
+thread_local long tAllocations = 0;
+
+}
+
+// Counts what the measured thread allocates.
+void* operator new(std::size_t size)
+{
+    ++tAllocations;
+    if (void* block = std::malloc(size ? size : 1))
+        return block;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* block) noexcept
+{
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept
+{
+    std::free(block);
+}
+
+namespace {
+
+/// The screen text of a list with two questions over it.
+double serialiseStackOfThree(const std::string& mode, long rounds)
+{
+    Phone phone;
+    double time = 0;
+    phone.onGui([&] {
+        List list(0);
+        list.setTitle("Speaker");
+        list.append(std::string("HeadSet"));
+        list.append(std::string("Loudspeaker"));
+        MenuCommand yes("Yes?", 1);
+        MenuCommand no("No?", 2);
+        PopupConfirm first(true);
+        PopupConfirm second(true);
+        for (PopupConfirm* popup : {&first, &second}) {
+            popup->setText("Delete the entry of this caller?");
+            popup->addCommand(&yes);
+            popup->addCommand(&no);
+        }
+        phone.display().setCurrent({&list, &first, &second});
+        const std::vector<Rect> rects = *phone.display().getDisplayedRects();
+        const long allocationsBefore = tAllocations;
+        const double begin = nowInNanoseconds();
+        for (long round = 0; round < rounds; ++round)
+            benchmark::DoNotOptimize(phone.display().serialiseByRect(rects, ""));
+        time = (nowInNanoseconds() - begin) / static_cast<double>(rounds);
+        Report::addFigure(mode, "allocations of serialiseByRect, stack of three",
+            static_cast<double>(tAllocations - allocationsBefore) / static_cast<double>(rounds), "", 20);
+        phone.display().setCurrent(nullptr);
+    });
+    Report::addFigure(mode, "serialiseByRect, stack of three", time / 1000, "us", 10);
+    return time;
+}
+
+/// The time of an append to a list of so many rows.
+double appendRows(long rows)
+{
+    Phone phone;
+    double time = 0;
+    phone.onGui([&] {
+        List list(0);
+        phone.display().setCurrent(&list);
+        std::vector<ListItem*> items;
+        for (long row = 0; row < rows; ++row)
+            items.push_back(new ListItem("Row", false));
+        const double begin = nowInNanoseconds();
+        for (ListItem* item : items)
+            list.append(item);
+        time = (nowInNanoseconds() - begin) / static_cast<double>(rows);
+        phone.display().setCurrent(nullptr);
+    });
+    return time;
+}
+
+/// A key press and the notice that follows it, with so many other screens alive.
+double keyAmongScreens(long living)
+{
+    Phone phone;
+    double time = 0;
+    constexpr int Presses = 2000;
+    phone.onGui([&] {
+        List list(0);
+        list.append(std::string("HeadSet"));
+        list.append(std::string("Loudspeaker"));
+        std::vector<std::unique_ptr<List>> others;
+        for (long i = 0; i < living; ++i)
+            others.push_back(std::make_unique<List>(0));
+        phone.display().setCurrent(&list);
+        const double begin = nowInNanoseconds();
+        for (int i = 0; i < Presses; ++i) {
+            UApplication::instance()->postKey(UGlobal::KeyDown, UGlobal::KeyPressed);
+            UApplication::instance()->processEvents();
+        }
+        time = (nowInNanoseconds() - begin) / Presses;
+        phone.display().setCurrent(nullptr);
+    });
+    return time;
+}
+
+}
+
+void registerScreenBenchmarks(const std::string& mode)
+{
+    auto ratio = [mode](const std::string& name, long operations, std::function<double()> measure) {
+        registerRounds(mode, name, operations, [=] {
+            const double time = measure();
+            Report::addRatio(mode, name, time, 0);
+            return time;
+        });
+    };
+    registerRounds(mode, "serialiseByRect, stack of three", 20'000,
+        [mode] { return serialiseStackOfThree(mode, 20'000); });
+    ratio("List::append to 10 rows", 10, [] { return appendRows(10); });
+    ratio("List::append to 1,000 rows", 1000, [] { return appendRows(1000); });
+    ratio("List::append to 100,000 rows", 100'000, [] { return appendRows(100'000); });
+    ratio("key press with 10 screens alive", 2000, [] { return keyAmongScreens(10); });
+    ratio("key press with 10,000 screens alive", 2000, [] { return keyAmongScreens(10'000); });
+}

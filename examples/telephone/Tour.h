@@ -1,0 +1,4 @@
+#pragma once
+
+/// What `phone --tour` plays.
+extern const char* const Tour;

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <DisplayAPI/ListItem.h>
+#include <DisplayAPI/ListItemPrivateIfc.h>
+
+#include "TranslationHolder.h"
+
+#include <VantoListBoxItemMEG.h>
+
+#include <atomic>
+#include <string>
+
+namespace DisplayAPI {
+
+/// A row with text, right text and left icon, or with an endless progress bar.
+///
+/// It owns the toolkit's row while that stands in no list. Threads: GUI thread, but for getLeftIcon().
+class ListItemPrivate : public ListItemPrivateIfc {
+public:
+    /// The flag has no effect.
+    ListItemPrivate(const std::string& text, bool flag);
+
+    /// Takes the translation over; null is an empty text.
+    ListItemPrivate(TranslationInfo* text, bool flag);
+    explicit ListItemPrivate(ListItem::ListItemType type);
+    ~ListItemPrivate() override;
+    ListItemPrivate(const ListItemPrivate&) = delete;
+    ListItemPrivate& operator=(const ListItemPrivate&) = delete;
+
+    /// Reads the text's translation again, not the right text's.
+    void localeChanged(std::string locale) override;
+    void releaseOwnership() override { mOwnsWidget = false; }
+    void gainOwnership() override { mOwnsWidget = true; }
+    bool hasOwnership() const { return mOwnsWidget; }
+
+    // Content. The forms with a translation take it over.
+
+    void setText(std::string text) override;
+    void setText(TranslationInfo* text) override;
+    void setRightText(std::string text) override;
+    void setRightText(TranslationInfo* text) override;
+    VantoListBoxItemMEG* getVantoListItem() override { return mWidget.get(); }
+    void startInfiniteProgressBar() override;
+    void setLeftIcon(Icons::IconType icon) override;
+
+    /// Threads: any.
+    Icons::IconType getLeftIcon() override { return mLeftIcon; }
+
+private:
+    void showText(const std::string& text);
+    void showRightText(const std::string& text);
+
+    UPointer<VantoListBoxItemMEG> mWidget; // a list that holds the row may delete it
+    TranslationHolder mTextInfo;
+    TranslationHolder mRightTextInfo;
+    bool mOwnsWidget = true;
+    bool mIsProgressRow = false;
+    std::atomic<Icons::IconType> mLeftIcon = {};
+};
+
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <DisplayAPI/Command.h>
+#include <DisplayAPI/PopupConfirmPrivateIfc.h>
+
+#include "TranslationHolder.h"
+
+#include <vector>
+
+class PopupDialogMEG;
+class URect;
+class VantoListBoxItemMEG;
+
+namespace DisplayAPI {
+
+class ScreenTextWriter;
+
+/// The question popup on the GUI thread: a PopupDialogMEG with its texts and a row for each choice.
+class PopupConfirmPrivate final : public PopupConfirmPrivateIfc {
+public:
+    explicit PopupConfirmPrivate(Displayable* parent);
+
+    /// A popup that no handle stands for.
+    explicit PopupConfirmPrivate(bool flag);
+    ~PopupConfirmPrivate() override;
+
+    Displayable* getParent() const { return mParent; }
+    Displayable* getPopupConfirm() const { return mParent; }
+
+    // Texts
+
+    void setLine1PrefixText(const std::string& text) override;
+    void setLine1PrefixText(TranslationInfo* text) override;
+    void setText(const std::string& text) override;
+    void setText(TranslationInfo* text) override;
+    void setLine2PrefixText(const std::string& text) override;
+    void setLine2PrefixText(TranslationInfo* text) override;
+    void setLine2Text(const std::string& text) override;
+    void setLine2Text(TranslationInfo* text) override;
+    void setState(PopupConfirm::PopupState state) override;
+    void localeChanged(std::string locale);
+
+    // Choices
+
+    void addCommand(Command* command) override;
+    void setDefaultCommand(Command* command) override;
+    void removeCommand(Command* command) override;
+    void clearCommands() override;
+    int getSelectedIndex() override;
+    bool selectionHasChanged() override;
+
+    // Listeners
+
+    void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
+    void removeCommandListener(CommandListener* listener) override { mCommandListeners.remove(listener); }
+
+    /// An agent outside, beside the command listeners.
+    void setListener(UAgent* listener) override { UAgent::setListener(listener); }
+    UAgent* getListener() const { return listener(); }
+
+    // Life on the screen
+
+    UWidget* getWidget() override;
+    void releaseOwnership() override { mOwnsWidget = false; }
+    void gainOwnership() override { mOwnsWidget = true; }
+    bool hasOwnership() const { return mOwnsWidget; }
+    void show() override;
+    void lostFocus() override { }
+    void dismiss() override;
+    void setTimeout(int milliseconds) override;
+    bool hideOldWidgetOnFocusGained() override { return false; }
+    int widgetPosition() override { return 1; }
+    void event(UEvent* event) override;
+
+    // Screen text
+
+    using DisplayablePrivate::serialise;
+    std::string serialise() override;
+
+    /// Empty unless a rectangle holds the whole popup.
+    std::string serialise(const std::vector<URect>& rects);
+
+private:
+    void create();
+    void appendToText(const std::string& text);
+    void setBackTranslator(Command* command);
+    void popupCameUp();
+    void popupWentDown();
+    void windowHiddenAfterTimeout();
+    void selectionMoved();
+    void listItemSelected(VantoListBoxItemMEG* item);
+    void backSelected();
+    void updateRows();
+    void writeText(ScreenTextWriter& writer, const char* key) const;
+
+    bool mSelectionChanged = false;
+    Displayable* mParent;
+    UPointer<PopupDialogMEG> mWidget;
+    std::vector<Command*> mCommands; // one for each row, in the order of the rows, until one is removed
+    bool mOwnsWidget = true;
+    int mDefaultIndex = 0;
+    std::unique_ptr<Command> mBackCommand;
+    PopupConfirm::PopupState mState = PopupConfirm::Information;
+    TranslationHolder mLine1PrefixInfo;
+    TranslationHolder mTextInfo;
+    TranslationHolder mLine2PrefixInfo;
+    TranslationHolder mLine2Info;
+};
+
+}

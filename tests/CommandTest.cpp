@@ -1,0 +1,369 @@
+#include "CommandExecutor.h"
+#include "CommandText.h"
+
+#include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/Item.h>
+#include <DisplayAPI/ItemStateListener.h>
+#include <DisplayAPI/ListenerList.h>
+#include <DisplayAPI/MenuCommand.h>
+
+#include <Log.h>
+#include <Semaphore.h>
+#include <TranslationInfo.h>
+#include <UApplication.h>
+#include <UScreenWE1.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+using namespace DisplayAPI;
+
+namespace {
+
+class Screen : public Displayable {
+public:
+    DisplayablePrivateIfc* getPrivateImpl() override { return nullptr; }
+};
+
+class Field : public Item {
+public:
+    void processGuiRequest(GuiRequestEvent&) override { }
+    ItemPrivateIfc* getPrivateImpl() override { return nullptr; }
+    void localeChanged(std::string) override { }
+};
+
+/// What a listener was told, as words in one line.
+struct Story {
+    std::string text;
+    void add(const std::string& word) { text += (text.empty() ? "" : " ") + word; }
+};
+
+class Listener : public CommandListener, public ItemStateListener {
+public:
+    Listener(std::string name, Story& story)
+        : mName(std::move(name))
+        , mStory(story)
+    {
+    }
+    void commandAction(Command* command, Displayable*) override { mStory.add(mName + ":" + command->getText()); }
+    void itemStateChanged(Item*) override { mStory.add(mName + ":changed"); }
+
+private:
+    std::string mName;
+    Story& mStory;
+};
+
+/// Queues without calling a worker; deliver() is the worker's work on this thread.
+class QueueTest : public testing::Test {
+protected:
+    ~QueueTest() override
+    {
+        CommandExecutor::retrieveCommand(nullptr, nullptr, nullptr);
+        CommandExecutor::retrieveCommand(nullptr, nullptr);
+        LogControl::reset();
+    }
+    static void post(CommandListener& listener, Command& command, Displayable* screen = nullptr)
+    {
+        CommandExecutor::postCommand(&listener, &command, screen, false);
+    }
+    static void post(ItemStateListener& listener, Item& item) { CommandExecutor::postCommand(&listener, &item, false); }
+    std::string deliver()
+    {
+        story.text.clear();
+        CommandExecutor().run();
+        return story.text;
+    }
+
+    Story story;
+    Listener anna{"anna", story};
+    Listener otto{"otto", story};
+    Command yes{"yes", Command::Select};
+    Command no{"no", Command::Back};
+    Screen screen;
+    Field field;
+    Field other;
+};
+
+class Translator : public TranslatorIfc {
+public:
+    std::string translate(std::string key) override { return whenAsked ? whenAsked(key) : "<" + key + ">"; }
+    std::function<std::string(const std::string&)> whenAsked;
+};
+
+/// Whether another thread could take the lock of all commands now.
+bool isMutexFree()
+{
+    bool isFree = false;
+    std::thread([&isFree] {
+        isFree = Command::commandListMutex().take(0);
+        if (isFree)
+            Command::commandListMutex().give();
+    }).join();
+    return isFree;
+}
+
+}
+
+TEST(CommandTest, EqualCommandsAreDifferentCommands)
+{
+    auto first = std::make_unique<Command>("OK", Command::Select);
+    Command second("OK", Command::Select);
+    EXPECT_TRUE(first->isSameAs(second));
+    EXPECT_TRUE(Command::exists(first.get()) && Command::exists(&second));
+
+    const Command* gone = first.get();
+    first.reset();
+    EXPECT_FALSE(Command::exists(gone));
+    EXPECT_TRUE(Command::exists(&second));
+    EXPECT_FALSE(Command::exists(nullptr));
+
+    second.setUseAlternativeDisplay(true);
+    EXPECT_FALSE(second.isSameAs(Command("OK", Command::Select)));
+    EXPECT_FALSE(Command("OK", Command::Back).isSameAs(Command("OK", Command::Select)));
+}
+
+TEST(CommandTest, TheTextIsTheCompleteTranslationExceptOnHardwareVariantOne)
+{
+    Translator translator;
+    Command plain("", Command::Select);
+    EXPECT_EQ(plain.getText(), "");
+    plain.setLabel("Call");
+    EXPECT_EQ(plain.getText(), "Call");
+
+    Command translated(new TranslationInfo("[", "call", "]", &translator), Command::Select);
+    translated.setLabel("never read");
+    EXPECT_EQ(translated.getText(), "[<call>]");
+    EXPECT_EQ(translated.getBasicText(), "<call>");
+
+    UScreenWE1 glass;
+    auto* application = new VantoUApplication(UString(), &glass, {}, {}, {}, {});
+    EXPECT_EQ(translated.getText(), "[<call>]");
+    application->setHardwareVariant(static_cast<VantoUApplication::HardwareVariant>(1));
+    EXPECT_EQ(translated.getText(), "<call>");
+    VantoUApplication::endCurrent();
+}
+
+TEST(CommandTest, TheLockIsHeldWhileTheTranslatorRunsAndGivenBackWhenItThrows)
+{
+    Translator translator;
+    Command command(new TranslationInfo("key", &translator), Command::Select);
+    bool wasFree = true;
+    translator.whenAsked = [&](const std::string&) {
+        wasFree = isMutexFree();
+        // The same thread may ask on.
+        return Command::exists(&command) ? "there" : "gone";
+    };
+    EXPECT_EQ(livingCommandText(&command), "there");
+    EXPECT_FALSE(wasFree);
+    EXPECT_TRUE(isMutexFree());
+
+    translator.whenAsked = [](const std::string&) -> std::string { throw std::runtime_error("no text"); };
+    EXPECT_THROW(livingCommandText(&command), std::runtime_error);
+    EXPECT_TRUE(isMutexFree());
+    EXPECT_EQ(livingCommandText(nullptr), std::nullopt);
+}
+
+TEST(MenuCommandTest, TheFieldsOnOneLine)
+{
+    EXPECT_EQ(MenuCommand("", 5).toString(), "0:0:5::F:0:F:F:F:F:F:0:");
+
+    std::string path = "/icons/phone";
+    MenuCommand all("Dial: now", path, 4'000'000'000UL);
+    all.setUnifiedIconType(static_cast<Icons::IconType>(77));
+    all.setTextEntryBoxVisible(true);
+    all.setFeatureClearDrop(true);
+    all.setIconExpected(true);
+    all.setAssignedFPK(static_cast<PhysDefs::keyCode>(12));
+    EXPECT_EQ(all.toString(), "0:0:4000000000:/icons/phone:F:77:T:F:T:F:T:12:Dial: now");
+
+    int anything = 0;
+    auto* image = reinterpret_cast<Image*>(&anything);
+    EXPECT_EQ(MenuCommand("", image, 1).getIconType(), PhonebookItem::ImageIcon);
+    EXPECT_EQ(MenuCommand(static_cast<TranslationInfo*>(nullptr), image, 1).getIconType(), PhonebookItem::ImageIcon);
+    EXPECT_EQ(MenuCommand("", static_cast<Image*>(nullptr), 1).getIconType(), PhonebookItem::NoIcon);
+    EXPECT_EQ(MenuCommand("", PhonebookItem::Mobile, 1).toString(), "4:0:1::F:0:F:F:F:F:F:0:");
+}
+
+TEST(MenuCommandTest, EachFieldMakesADifference)
+{
+    using Change = void (*)(MenuCommand&);
+    const std::vector<Change> changes = {
+        [](MenuCommand& command) { command.setLabel("other"); },
+        [](MenuCommand& command) { command.setUseAlternativeDisplay(true); },
+        [](MenuCommand& command) { command.setUnifiedIconType(static_cast<Icons::IconType>(1)); },
+        [](MenuCommand& command) { command.setTextEntryBoxVisible(true); },
+        [](MenuCommand& command) { command.setReadOnly(true); },
+        [](MenuCommand& command) { command.setFeatureClearDrop(true); },
+        [](MenuCommand& command) { command.setPhoneBookActivated(true); },
+        [](MenuCommand& command) { command.setIconExpected(true); },
+        [](MenuCommand& command) { command.setAssignedFPK(static_cast<PhysDefs::keyCode>(1)); },
+    };
+    const MenuCommand original("label", 5);
+    EXPECT_TRUE(original == MenuCommand("label", 5));
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        MenuCommand changed("label", 5);
+        changes[i](changed);
+        EXPECT_TRUE(original != changed) << "change " << i;
+    }
+    std::string path = "path";
+    EXPECT_FALSE(original == MenuCommand("label", 6));
+    EXPECT_FALSE(original == MenuCommand("label", PhonebookItem::Folder, 5));
+    EXPECT_FALSE(original == MenuCommand("label", path, 5));
+}
+
+TEST_F(QueueTest, CommandsComeInTheOrderOfPostingAndChangesOnce)
+{
+    post(anna, yes);
+    post(anna, field);
+    post(anna, yes);
+    post(otto, field);
+    post(anna, field);
+    post(otto, no);
+    EXPECT_EQ(deliver(), "anna:yes anna:changed anna:yes otto:changed otto:no");
+    EXPECT_EQ(deliver(), "");
+
+    // A change that was delivered is no longer one that waits.
+    post(anna, field);
+    EXPECT_EQ(deliver(), "anna:changed");
+}
+
+TEST_F(QueueTest, ARecallTakesWhatMatchesAllThatIsNamed)
+{
+    struct Case {
+        const char* name;
+        CommandListener* listener;
+        Command* command;
+        Displayable* displayable;
+        const char* left;
+    };
+    const Case cases[] = {
+        {"all commands", nullptr, nullptr, nullptr, "anna:changed otto:changed"},
+        {"listener", &anna, nullptr, nullptr, "anna:changed otto:changed otto:no"},
+        {"command", nullptr, &yes, nullptr, "anna:no anna:changed otto:changed otto:no"},
+        {"screen", nullptr, nullptr, &screen, "anna:no anna:changed anna:yes otto:changed otto:no"},
+        {"listener and command", &anna, &no, nullptr, "anna:yes anna:changed anna:yes otto:changed otto:no"},
+        {"nothing of all three", &otto, &no, &screen, "anna:yes anna:no anna:changed anna:yes otto:changed otto:no"},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.name);
+        post(anna, yes, &screen);
+        post(anna, no);
+        post(anna, field);
+        post(anna, yes);
+        post(otto, field);
+        post(otto, no);
+        CommandExecutor::retrieveCommand(each.listener, each.command, each.displayable);
+        EXPECT_EQ(deliver(), each.left);
+    }
+}
+
+TEST_F(QueueTest, ARecalledChangeMayBePostedAgain)
+{
+    post(anna, field);
+    post(anna, other);
+    post(otto, field);
+    post(anna, yes);
+    anna.retrievePendingItemStateChange(&field);
+    post(anna, field);
+    EXPECT_EQ(deliver(), "anna:changed otto:changed anna:yes anna:changed");
+
+    post(anna, field);
+    post(otto, other);
+    CommandExecutor::retrieveCommand(nullptr, nullptr);
+    EXPECT_EQ(deliver(), "");
+}
+
+TEST_F(QueueTest, WhateverDiesTakesItsDeliveriesAlong)
+{
+    auto shortListener = std::make_unique<Listener>("short", story);
+    auto shortCommand = std::make_unique<MenuCommand>("short", 1);
+    auto shortScreen = std::make_unique<Screen>();
+    auto shortField = std::make_unique<Field>();
+    post(*shortListener, yes);
+    post(*shortListener, field);
+    post(anna, *shortCommand);
+    post(anna, no);
+    post(anna, yes, shortScreen.get());
+    post(anna, *shortField);
+    post(anna, field);
+
+    shortListener.reset();
+    shortCommand.reset();
+    shortScreen.reset();
+    shortField.reset();
+    EXPECT_EQ(deliver(), "anna:no anna:changed");
+}
+
+TEST_F(QueueTest, NobodyPostsToNullOrToTheDead)
+{
+    auto shortListener = std::make_unique<Listener>("short", story);
+    CommandListener* commands = shortListener.get();
+    ItemStateListener* changes = shortListener.get();
+    ListenerList<CommandListener> listeners;
+    listeners.add(commands);
+    listeners.add(&anna);
+    shortListener.reset();
+
+    CommandExecutor::postCommand(commands, &yes, nullptr, true);
+    CommandExecutor::postCommand(changes, &field, true);
+    CommandExecutor::postCommand(static_cast<CommandListener*>(nullptr), &yes, nullptr, true);
+    CommandExecutor::postCommand(static_cast<ItemStateListener*>(nullptr), &field, true);
+    listeners.forEach([this](CommandListener* listener) { post(*listener, yes); });
+    EXPECT_EQ(deliver(), "anna:yes");
+}
+
+TEST_F(QueueTest, ACopyOfAListenerLives)
+{
+    const Listener copy(anna);
+    EXPECT_TRUE(CommandListener::exists(&copy) && ItemStateListener::exists(&copy));
+    EXPECT_TRUE(CommandListener::exists(&anna) && ItemStateListener::exists(&anna));
+}
+
+TEST_F(QueueTest, AListenerMayPostAndRecallFromItsDelivery)
+{
+    struct Insistent : CommandListener {
+        void commandAction(Command* command, Displayable*) override { act(command); }
+        std::function<void(Command*)> act;
+    };
+    Insistent insistent;
+    insistent.act = [&](Command* command) {
+        insistent.retrievePendingCommandAction(&no, nullptr);
+        if (command == &yes)
+            post(anna, no);
+    };
+    post(insistent, yes);
+    post(insistent, no);
+    post(otto, yes);
+    EXPECT_EQ(deliver(), "otto:yes anna:no");
+}
+
+TEST_F(QueueTest, EachRecallIsLoggedWithoutTheLock)
+{
+    static std::vector<LogControl::Message> messages;
+    messages.clear();
+    LogControl::setLevel("DisplayAPI::AbbreviatedItemPrivate", 5);
+    LogControl::setSink([](const LogControl::Message& message) {
+        messages.push_back(message);
+        CommandExecutor::retrieveCommand(nullptr, nullptr); // would stand still under the lock
+    });
+    post(anna, yes);
+    post(anna, yes, &screen);
+    anna.retrievePendingCommandAction(&yes, nullptr);
+    post(anna, field);
+    anna.retrievePendingItemStateChange(&field);
+
+    ASSERT_EQ(messages.size(), 3U);
+    EXPECT_EQ(messages[0].text, messages[1].text);
+    EXPECT_TRUE(messages[0].text.starts_with("CommandExecutor::retrieveCommand(CommandListener=0x"));
+    EXPECT_TRUE(messages[0].text.ends_with(", Displayable=(nil)) recall of posted command."));
+    EXPECT_TRUE(messages[2].text.starts_with("CommandExecutor::retrieveCommand(ItemStateListener=0x"));
+    EXPECT_EQ(messages[2].level, 5);
+}

@@ -1,0 +1,135 @@
+// The program `phone` as its users start it: options, exit codes, and what it writes where.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+struct Result {
+    int code = -1;
+    std::string output;
+    std::string errors;
+};
+
+class ProgramTest : public testing::Test {
+protected:
+    ProgramTest()
+        : mFolder(std::filesystem::temp_directory_path() / ("program-test-" + std::to_string(getpid())))
+    {
+        std::filesystem::create_directories(mFolder);
+    }
+    ~ProgramTest() override { std::filesystem::remove_all(mFolder); }
+
+    Result run(const std::string& arguments) const
+    {
+        const std::string command = "cd '" + mFolder.string() + "' && '" PROJECT_BINARY_DIR "/bin/phone' " + arguments
+            + " >output 2>errors </dev/null";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, content("output"), content("errors")};
+    }
+
+    std::string content(const std::string& file) const
+    {
+        std::ifstream input(mFolder / file);
+        std::ostringstream text;
+        text << input.rdbuf();
+        return text.str();
+    }
+
+    void writeScript(const std::string& text) const { std::ofstream(mFolder / "test.script") << text; }
+
+    std::filesystem::path mFolder;
+};
+
+TEST_F(ProgramTest, AQuestionAnsweredWithYesChangesTheList)
+{
+    writeScript("expect caption:Audio output\n"
+                "expect Speaker (in use)\n"
+                "press DOWN\n"
+                "expect HeadSet\n"
+                "press OK\n"
+                "expect string0:Use HeadSet?\n"
+                "expect Yes\n"
+                "press OK\n"
+                "expect HeadSet (in use)\n"
+                "press UP\n"
+                "expect Speaker\n"
+                "shot end.png\n");
+    const Result result = run("--script test.script");
+    EXPECT_EQ(result.code, 0) << result.errors;
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(content("end.png").substr(1, 3), "PNG");
+}
+
+TEST_F(ProgramTest, NoAndLeftGoBackToTheListAsItWas)
+{
+    writeScript("press DOWN\nexpect HeadSet\npress OK\nexpect Yes\npress DOWN\nexpect No\npress OK\n"
+                "expect caption:Audio output\nexpect HeadSet\n"
+                "press OK\nexpect string0:Use HeadSet?\npress LEFT\nexpect caption:Audio output\nexpect HeadSet\n");
+    const Result result = run("--script test.script");
+    EXPECT_EQ(result.code, 0) << result.errors;
+}
+
+TEST_F(ProgramTest, TextAndPictureOfTheFirstScreen)
+{
+    const Result result = run("--text --shot first.png --scale 2");
+    EXPECT_EQ(result.code, 0) << result.errors;
+    EXPECT_EQ(result.output.find("object:\nname:VantoListBox\ncaption:Audio output\n"), 0U) << result.output;
+    EXPECT_EQ(content("first.png").substr(1, 3), "PNG");
+    const Result failed = run("--shot /nonexistent/first.png");
+    EXPECT_EQ(failed.code, 1);
+    EXPECT_NE(failed.errors.find("/nonexistent/first.png"), std::string::npos) << failed.errors;
+}
+
+TEST_F(ProgramTest, WithoutATerminalTheTourIsPlayed)
+{
+    const Result result = run("");
+    EXPECT_EQ(result.code, 0) << result.errors;
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("┌──"), std::string::npos) << result.output;
+    EXPECT_NE(result.output.find("Use HeadSet?"), std::string::npos) << result.output;
+    EXPECT_EQ(run("--tour").output, result.output) << "and it is the same each time";
+}
+
+TEST_F(ProgramTest, AFailedStepGivesItsLineAndExitCodeOne)
+{
+    writeScript("press DOWN\n\nexpect Loudspeaker\n");
+    const Result result = run("--script test.script --timeout 0.1");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(
+        result.errors.find("test.script:3: expect Loudspeaker: expected \"Loudspeaker\", the screen has: object:"), 0U)
+        << result.errors;
+}
+
+TEST_F(ProgramTest, WhatCannotBeUsedGivesOneLineAndExitCodeTwo)
+{
+    writeScript("press DOWN\npress NOWHERE\n");
+    for (const char* arguments : {"--script test.script", "--script missing.script", "--script", "--bogus", "something",
+             "--font /etc/passwd", "--font missing.pcf", "--lines 4", "--model rx99", "--scale big", "--timeout -1",
+             "--tour --text", "--script test.script --shot x.png"}) {
+        const Result result = run(arguments);
+        EXPECT_EQ(result.code, 2) << arguments;
+        EXPECT_EQ(result.output, "") << arguments;
+        EXPECT_EQ(result.errors.find("phone: "), 0U) << arguments << ": " << result.errors;
+        EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << arguments << ": " << result.errors;
+    }
+}
+
+TEST_F(ProgramTest, HelpAndVersionAreAnswersAndNoErrors)
+{
+    const Result help = run("--help");
+    EXPECT_EQ(help.code, 0);
+    for (const char* word : {"--script", "--text", "--shot", "--tour", "--font", "q leaves"})
+        EXPECT_NE(help.output.find(word), std::string::npos) << word;
+    const Result version = run("--version");
+    EXPECT_EQ(version.code, 0);
+    EXPECT_EQ(version.output.find("phone "), 0U) << version.output;
+}
+
+}

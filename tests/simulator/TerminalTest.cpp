@@ -1,0 +1,152 @@
+// The program `phone` in a terminal of its own: what it draws, its keys, and the terminal that it leaves behind.
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <poll.h>
+#include <pty.h>
+#include <string>
+#include <sys/ioctl.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+class TerminalTest : public testing::Test {
+protected:
+    ~TerminalTest() override
+    {
+        if (mChild > 0) {
+            kill(mChild, SIGKILL);
+            waitpid(mChild, nullptr, 0);
+        }
+        close(mMaster);
+        close(mSlave);
+    }
+
+    /// Starts the program in a terminal of this size.
+    void start(unsigned short columns, unsigned short lines)
+    {
+        winsize size{lines, columns, 0, 0};
+        ASSERT_EQ(openpty(&mMaster, &mSlave, nullptr, nullptr, &size), 0);
+        tcgetattr(mSlave, &mBefore);
+        mChild = fork();
+        if (mChild == 0) {
+            login_tty(mSlave);
+            setenv("TERM", "xterm-256color", 1);
+            setenv("LC_ALL", "C", 1);
+            execl(PROJECT_BINARY_DIR "/bin/phone", "phone", static_cast<char*>(nullptr));
+            _exit(127);
+        }
+    }
+
+    void type(const std::string& keys)
+    {
+        ASSERT_EQ(write(mMaster, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
+    }
+
+    /// Reads until the terminal has been sent the text since the last call; false after a while without it.
+    bool awaits(const std::string& text)
+    {
+        const auto deadline = Clock::now() + std::chrono::seconds(30);
+        std::string::size_type found;
+        while ((found = mSent.find(text)) == std::string::npos) {
+            const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+            if (left.count() <= 0 || !readMore(static_cast<int>(left.count())))
+                return false;
+        }
+        mSent.erase(0, found + text.size());
+        return true;
+    }
+
+    bool readMore(int milliseconds)
+    {
+        pollfd source{mMaster, POLLIN, 0};
+        char buffer[4096];
+        if (poll(&source, 1, milliseconds) <= 0)
+            return false;
+        const ssize_t count = read(mMaster, buffer, sizeof buffer);
+        if (count <= 0)
+            return false;
+        mSent.append(buffer, static_cast<std::size_t>(count));
+        return true;
+    }
+
+    /// Waits for the end of the program; its status as of waitpid(), and the terminal's settings afterwards.
+    int finish()
+    {
+        int status = 0;
+        waitpid(mChild, &status, 0);
+        mChild = 0;
+        while (readMore(0)) { }
+        return status;
+    }
+
+    void expectTerminalAsBefore()
+    {
+        termios after{};
+        tcgetattr(mSlave, &after);
+        EXPECT_EQ(after.c_lflag, mBefore.c_lflag);
+        EXPECT_EQ(after.c_iflag, mBefore.c_iflag);
+        EXPECT_EQ(after.c_oflag, mBefore.c_oflag);
+        EXPECT_NE(mSent.find("\x1b[?1049l"), std::string::npos) << "the ordinary screen is back";
+    }
+
+    int mMaster = -1;
+    int mSlave = -1;
+    pid_t mChild = 0;
+    termios mBefore{};
+    std::string mSent;
+};
+
+TEST_F(TerminalTest, KeysWorkTheTelephoneAndQLeavesIt)
+{
+    start(120, 40);
+    ASSERT_TRUE(awaits("┌─ Telephone ─")) << mSent;
+    ASSERT_TRUE(awaits("Speaker (in use)")) << mSent;
+    type("\x1bOB"); // Down
+    ASSERT_TRUE(awaits("HeadSet")) << mSent;
+    type("\r");
+    ASSERT_TRUE(awaits("Use HeadSet?")) << mSent;
+    type("\x7f"); // Backspace
+    ASSERT_TRUE(awaits("Audio output")) << mSent;
+    type("q");
+    EXPECT_EQ(finish(), 0);
+    expectTerminalAsBefore();
+}
+
+TEST_F(TerminalTest, ASmallTerminalIsToldUntilItIsMadeLarger)
+{
+    start(80, 24);
+    ASSERT_TRUE(awaits("needs 83 columns")) << mSent;
+    const winsize larger{24, 84, 0, 0};
+    ioctl(mMaster, TIOCSWINSZ, &larger);
+    ASSERT_TRUE(awaits("┌─ Telephone ─")) << mSent;
+    ASSERT_TRUE(awaits("Screen text")) << "below the glass: " << mSent;
+    type("\x03");
+    EXPECT_EQ(finish(), 0);
+    expectTerminalAsBefore();
+}
+
+TEST_F(TerminalTest, ASignalGivesTheTerminalBack)
+{
+    for (int signal : {SIGTERM, SIGINT, SIGHUP, SIGABRT}) {
+        start(90, 24);
+        ASSERT_TRUE(awaits("Speaker (in use)")) << mSent;
+        kill(mChild, signal);
+        finish();
+        expectTerminalAsBefore();
+        close(mMaster);
+        close(mSlave);
+        mSent.clear();
+    }
+    mMaster = -1;
+    mSlave = -1;
+}
+
+}

@@ -1,0 +1,104 @@
+#include "PhoneTest.h"
+
+#include "ScreenTextParser.h"
+
+#include <UApplication.h>
+#include <ULoop.h>
+#include <UScreenWE1.h>
+#include <UWindowManager.h>
+
+using DisplayAPI::Display;
+using DisplayAPI::Rect;
+
+Rect wholeGlass()
+{
+    return Rect(0, 0, UScreenWE1::Width, 31);
+}
+
+std::string lines(std::initializer_list<const char*> texts)
+{
+    std::string all;
+    for (const char* text : texts) {
+        all += text;
+        all += '\n';
+    }
+    return all;
+}
+
+std::string fieldOf(const std::string& screenText, const std::string& key)
+{
+    const std::string text = "\n" + screenText;
+    const std::size_t start = text.find("\n" + key + ":");
+    if (start == std::string::npos)
+        return "(no such field)";
+    const std::size_t value = start + key.size() + 2;
+    return text.substr(value, text.find('\n', value) - value);
+}
+
+PhoneTest::PhoneTest(const PhoneSetup& setup)
+{
+    HardwareVersion::setAll(setup.hardware);
+    ULoop::instance().setManualClock(true);
+    UWindowManager::instance().setFont(&font);
+    display = std::make_unique<Display>(setup.applicationName, "Test", PhysDefs::hardwareSubVariant{},
+        setup.softwareType, "en", "dd.mm.yy", "hh:mm", setup.server, nullptr, false);
+    display->subscribe(&changes);
+    display->show();
+}
+
+PhoneTest::~PhoneTest()
+{
+    display.reset();
+    UWindowManager::instance().setFont(nullptr);
+    HardwareVersion::setAll({});
+    ULoop::instance().setManualClock(false);
+}
+
+void PhoneTest::pump()
+{
+    ULoop::instance().processEvents();
+}
+
+void PhoneTest::press(int key)
+{
+    UApplication::instance()->postKey(key, UGlobal::KeyPressed);
+    UApplication::instance()->postKey(key, UGlobal::KeyReleased);
+    pump();
+}
+
+void PhoneTest::pressAndHold(int key)
+{
+    UApplication::instance()->postKey(key, UGlobal::KeyPressed);
+    UApplication::instance()->postKey(key, UGlobal::KeyHeld);
+    pump();
+}
+
+void PhoneTest::type(const std::string& dialKeys)
+{
+    for (const char key : dialKeys)
+        press(key);
+}
+
+void PhoneTest::advance(std::uint64_t milliseconds)
+{
+    ULoop::instance().advance(milliseconds);
+}
+
+void PhoneTest::show(DisplayAPI::Displayable& screen)
+{
+    display->setCurrent(&screen);
+    pump();
+}
+
+std::string PhoneTest::screenText()
+{
+    const std::string text = display->serialiseByRect({wholeGlass()}, "");
+    EXPECT_EQ(ScreenTextParser::faultOf(text), "") << text;
+    return text;
+}
+
+std::string PhoneTest::glassLine(int line)
+{
+    pump();
+    return lineText(*UWindowManager::instance().screen(), line);
+}

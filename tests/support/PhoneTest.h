@@ -1,0 +1,74 @@
+#pragma once
+
+#include "CellFont.h"
+
+#include <DisplayAPI/Display.h>
+#include <DisplayAPI/DisplayEventIfc.h>
+
+#include <HardwareVersion.h>
+#include <Types.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
+#include <string>
+
+/// Which telephone a test works on.
+struct PhoneSetup {
+    std::string applicationName = "TestPhonelet";
+    std::string softwareType = "Zelmark SIP";
+    bool server = false;
+    HardwareVersion::Set hardware;
+};
+
+/// The whole glass as one rectangle.
+DisplayAPI::Rect wholeGlass();
+
+/// Lines with a line feed behind each, so that blanks at the ends stay visible in a test.
+std::string lines(std::initializer_list<const char*> texts);
+
+/// The value of the first line with this key in a screen text; "(no such field)" without one.
+std::string fieldOf(const std::string& screenText, const std::string& key);
+
+/// The subscriber of the tests: it counts the notices.
+class ChangeCounter : public DisplayAPI::DisplayEventIfc {
+public:
+    void displayChanged(std::string) override { ++count; }
+
+    int count = 0;
+};
+
+/// A telephone whose GUI thread is the test itself, with a clock that stands still.
+class PhoneTest : public testing::Test {
+protected:
+    explicit PhoneTest(const PhoneSetup& setup = {});
+    ~PhoneTest() override;
+
+    /// Runs what is queued, timers that are due, and the painting.
+    void pump();
+
+    /// Presses and releases a key, and pumps.
+    void press(int key);
+    void pressAndHold(int key);
+    void type(const std::string& dialKeys);
+    void advance(std::uint64_t milliseconds);
+
+    /// Makes a screen current.
+    void show(DisplayAPI::Displayable& screen);
+
+    /// What the subscriber reads of the whole glass, after a check of its grammar.
+    std::string screenText();
+    std::string screenField(const std::string& key) { return fieldOf(screenText(), key); }
+
+    /// A line of the painted glass, read back as text of 27 characters.
+    std::string glassLine(int line);
+
+    /// Ends the display, as an application does that is about to go.
+    void endDisplay() { display.reset(); }
+
+    CellFont font;
+    ChangeCounter changes;
+    std::unique_ptr<DisplayAPI::Display> display;
+};
