@@ -6,6 +6,7 @@
 #include <atomic>
 #include <clocale>
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -31,7 +32,7 @@ struct sigaction gOldActions[crashSignals.size()];
 void append(const char* capability)
 {
     // Cursor visible, ordinary screen: the texts that the terminal description gives, without its delays.
-    if (capability && capability != reinterpret_cast<char*>(-1))
+    if (capability && reinterpret_cast<std::intptr_t>(capability) != -1)
         std::strncat(gLeaveText, capability, sizeof gLeaveText - std::strlen(gLeaveText) - 1);
 }
 
