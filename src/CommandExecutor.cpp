@@ -95,15 +95,16 @@ bool CommandExecutor::State::takeFirst(Delivery& delivery)
     running = !queue.empty();
     if (!running)
         return false;
-    if (queue.front().first == ItemType::Command) {
-        delivery = commands.front();
+    const auto [type, record] = queue.front();
+    queue.pop_front();
+    if (type == ItemType::Command) {
+        delivery = *static_cast<const CommandDelivery*>(record);
         commands.pop_front();
     } else {
-        auto change = changes.find(*static_cast<const ItemStateDelivery*>(queue.front().second));
-        delivery = *change;
+        const ItemStateDelivery change = *static_cast<const ItemStateDelivery*>(record);
+        delivery = change;
         changes.erase(change);
     }
-    queue.pop_front();
     return true;
 }
 

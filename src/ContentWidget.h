@@ -16,7 +16,7 @@ namespace DisplayAPI {
 /// display lines. An operation on what does not exist does nothing and answers 0 or an empty text.
 /// Threads: GUI thread only.
 /// Ownership: it owns root, system window and key bar, and the root deletes the screens that are still in it.
-class ContentWidget final : public ContentWidgetIfc, public GUIEventIfc {
+class ContentWidget : public ContentWidgetIfc, public GUIEventIfc {
 public:
     ContentWidget();
     ~ContentWidget() override;

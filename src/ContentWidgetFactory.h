@@ -5,7 +5,7 @@
 namespace DisplayAPI {
 
 /// Makes the ordinary ContentWidget.
-class ContentWidgetFactory final : public ContentWidgetFactoryIfc {
+class ContentWidgetFactory : public ContentWidgetFactoryIfc {
 public:
     ContentWidgetIfc* createContentWidget() override;
 };

@@ -206,9 +206,9 @@ void DisplayPrivate::setStatusMessage(const std::string& text, unsigned int dura
         return;
     }
     if (!mStatusMessage || mStatusMessage->text() != text) {
-        // The message changes in step with the system window, as far as that changes within the duration.
-        const auto untilUpdate = static_cast<unsigned int>(std::max(0, mContent->getSystemWindowTimeToNextUpdate()));
-        const unsigned int start = duration - std::min(duration, untilUpdate);
+        // The subtraction may wrap around: the message takes it back, and changes in step with the system window.
+        const auto untilUpdate = static_cast<unsigned int>(mContent->getSystemWindowTimeToNextUpdate());
+        const unsigned int start = duration - untilUpdate;
         mStatusMessage = std::make_unique<StatusMessageMEG>(text, start, duration);
         mContent->getUWidget()->addWidget(mStatusMessage.get());
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Disturb.h>
+
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
@@ -105,6 +107,7 @@ private:
             const T* object = table.slots[slot].exchange(nullptr, std::memory_order_acq_rel);
             if (!object)
                 return;
+            disturb();
             put(table, object);
         }
     }

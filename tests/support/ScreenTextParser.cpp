@@ -23,13 +23,17 @@ ScreenTextParser::ScreenTextParser(std::string_view document)
     : mRest(document)
 {
     std::string_view line;
-    while (mFault.empty() && !mRest.empty()) {
-        if (!readLine(line))
-            return;
-        if (line == "object:")
+    bool mayCloseAgain = false;
+    while (mFault.empty() && readLine(line)) {
+        const bool isForm = !mObjects.empty() && mObjects.back().name == "FormWidget";
+        if (line == "object:") {
             parseObject();
-        else
+            mayCloseAgain = true;
+        } else if (line == "end:" && isForm && mayCloseAgain) {
+            mayCloseAgain = false;
+        } else {
             fail("a line outside of an object", line);
+        }
     }
 }
 
@@ -43,8 +47,11 @@ void ScreenTextParser::parseObject()
 void ScreenTextParser::parseSubitem(Block& object)
 {
     Block subitem;
-    if (parseLines(subitem, "endsubitem:", false))
-        object.subitems.push_back(std::move(subitem));
+    if (!parseLines(subitem, "endsubitem:", false))
+        return;
+    if (subitem.name.empty())
+        fail("a subitem without a name", "");
+    object.subitems.push_back(std::move(subitem));
 }
 
 bool ScreenTextParser::parseLines(Block& block, std::string_view endLine, bool isObject)
@@ -53,52 +60,51 @@ bool ScreenTextParser::parseLines(Block& block, std::string_view endLine, bool i
     for (bool isFirst = true; readLine(line); isFirst = false) {
         if (line == endLine)
             return true;
-        if (line == "subitem:" && isObject) {
+        if (line == "subitem:" && isObject)
             parseSubitem(block);
-            if (!mFault.empty())
-                return false;
-            continue;
-        }
-        const std::size_t colon = line.find(':');
-        if (colon == std::string_view::npos || !isKey(line.substr(0, colon))) {
-            fail("no field of a block", line);
-            return false;
-        }
-        const std::string key(line.substr(0, colon));
-        const std::string value(line.substr(colon + 1));
-        if ((key == "name") != isFirst && (key == "name" || !isObject)) {
-            fail("the name line is the first of its block", line);
-            return false;
-        }
-        if (key == "name")
-            block.name = value;
         else
-            block.fields.push_back({key, value});
+            parseField(block, line, isFirst, isObject);
+        if (!mFault.empty())
+            return false;
     }
-    if (mFault.empty())
-        fail("the document ends inside a block", "");
-    return false;
+    return mFault.empty() ? fail("the document ends inside a block", "") : false;
+}
+
+bool ScreenTextParser::parseField(Block& block, std::string_view line, bool isFirst, bool isObject)
+{
+    const std::size_t colon = line.find(':');
+    if (colon == std::string_view::npos || !isKey(line.substr(0, colon)))
+        return fail("no field of a block", line);
+    const std::string key(line.substr(0, colon));
+    const std::string value(line.substr(colon + 1));
+    if (key == "name" ? !isFirst : isFirst && !isObject)
+        return fail("the name is the first line of its block", line);
+    if (!block.subitems.empty())
+        return fail("a field behind a subitem", line);
+    if (key == "name" && value.empty())
+        return fail("an empty name", line);
+    if (key == "name")
+        block.name = value;
+    else
+        block.fields.push_back({key, value});
+    return true;
 }
 
 bool ScreenTextParser::readLine(std::string_view& line)
 {
-    const std::size_t end = mRest.find('\n');
-    if (end == std::string_view::npos) {
-        if (!mRest.empty())
-            fail("the last line has no line feed", mRest);
+    if (mRest.empty())
         return false;
-    }
+    const std::size_t end = mRest.find('\n');
+    if (end == std::string_view::npos)
+        return fail("the last line has no line feed", mRest);
     line = mRest.substr(0, end);
     mRest.remove_prefix(end + 1);
     ++mLineNumber;
-    if (line.find('\r') != std::string_view::npos) {
-        fail("a carriage return", line);
-        return false;
-    }
-    return true;
+    return line.find('\r') == std::string_view::npos || fail("a carriage return", line);
 }
 
-void ScreenTextParser::fail(std::string_view what, std::string_view line)
+bool ScreenTextParser::fail(std::string_view what, std::string_view line)
 {
     mFault = "line " + std::to_string(mLineNumber) + ": " + std::string(what) + ": \"" + std::string(line) + "\"";
+    return false;
 }

@@ -4,7 +4,11 @@
 #include <string_view>
 #include <vector>
 
-/// A screen text taken apart, and judged by its grammar.
+/// A screen text taken apart, and judged by its grammar: objects without anything between them, each with its
+/// name first, then its fields, then its subitems, which hold a name and fields.
+///
+/// Two irregular forms are part of the grammar: a form with an open selection list closes twice, and a context
+/// menu without a start line has no name.
 class ScreenTextParser {
 public:
     struct Field {
@@ -31,8 +35,9 @@ private:
     void parseObject();
     void parseSubitem(Block& object);
     bool parseLines(Block& block, std::string_view endLine, bool isObject);
+    bool parseField(Block& block, std::string_view line, bool isFirst, bool isObject);
     bool readLine(std::string_view& line);
-    void fail(std::string_view what, std::string_view line);
+    bool fail(std::string_view what, std::string_view line);
 
     std::string_view mRest;
     int mLineNumber = 0;

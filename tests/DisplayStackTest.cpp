@@ -1,0 +1,450 @@
+#include "ExistingDisplayables.h"
+#include "StackFixture.h"
+
+#include <DisplayAPI/PIPWindow.h>
+#include <DisplayAPI/YRCWindow.h>
+
+#include <UApplication.h>
+
+using namespace DisplayAPI;
+
+namespace {
+
+/// A visible display with an ordinary screen and two popups above it.
+class DisplayStackTest : public StackFixture {
+protected:
+    DisplayStackTest()
+    {
+        makeDisplay();
+        display->show();
+        bottom = makeScreen("bottom");
+        middle = makeScreen("middle", Kind::Popup);
+        top = makeScreen("top", Kind::Popup);
+    }
+
+    void fill()
+    {
+        for (TestScreen* screen : {bottom.get(), middle.get(), top.get()})
+            display->setCurrent(screen);
+        takeLog();
+        subscriber.takeNotices();
+    }
+
+    std::string stackText()
+    {
+        std::string names;
+        for (UWidget* child = content()->firstChild(); child; child = child->nextSibling()) {
+            for (const auto* screen : {&bottom, &middle, &top}) {
+                if (*screen && &(*screen)->widget() == child)
+                    names += (names.empty() ? "" : " ") + (*screen)->widgetName();
+            }
+        }
+        return names;
+    }
+
+    std::unique_ptr<TestScreen> bottom;
+    std::unique_ptr<TestScreen> middle;
+    std::unique_ptr<TestScreen> top;
+};
+
+TEST_F(DisplayStackTest, APopupLiesOnTopOfWhatIsThere)
+{
+    display->setCurrent(bottom.get());
+    display->setCurrent(middle.get());
+    EXPECT_EQ(takeLog(), (Lines{"show bottom", "show middle"}));
+    EXPECT_EQ(stackText(), "bottom middle");
+    EXPECT_EQ(display->getCurrent(), middle.get());
+    EXPECT_FALSE(bottom->screen().isOwner);
+    EXPECT_FALSE(middle->screen().isOwner);
+    EXPECT_TRUE(bottom->widget().isVisible());
+}
+
+TEST_F(DisplayStackTest, APopupMadeCurrentAgainStandsOnceAndOnTop)
+{
+    fill();
+    display->setCurrent(middle.get());
+    EXPECT_EQ(stackText(), "bottom top middle");
+    EXPECT_EQ(display->serialise(), bottom->screen().text + top->screen().text + middle->screen().text);
+    EXPECT_EQ(takeLog(), Lines{"show middle"});
+    EXPECT_EQ(subscriber.takeNotices(), 1);
+}
+
+TEST_F(DisplayStackTest, AnOrdinaryScreenTakesEverythingOffWithoutLostFocus)
+{
+    fill();
+    auto next = makeScreen("next");
+    display->setCurrent(next.get());
+    EXPECT_EQ(takeLog(), Lines{"show next"});
+    EXPECT_EQ(display->getCurrent(), next.get());
+    EXPECT_EQ(display->serialise(), next->screen().text);
+    for (TestScreen* screen : {bottom.get(), middle.get(), top.get()}) {
+        EXPECT_EQ(screen->widget().parentWidget(), nullptr) << screen->widgetName();
+        EXPECT_TRUE(screen->screen().isOwner) << screen->widgetName();
+        EXPECT_EQ(screen->screen().display(), nullptr) << screen->widgetName();
+        EXPECT_FALSE(screen->widget().isVisible()) << screen->widgetName();
+    }
+}
+
+TEST_F(DisplayStackTest, AnOrdinaryScreenMadeCurrentAgainIsShownAgain)
+{
+    fill();
+    display->setCurrent(bottom.get());
+    EXPECT_EQ(stackText(), "bottom");
+    EXPECT_TRUE(bottom->widget().isVisible());
+    EXPECT_FALSE(bottom->screen().isOwner);
+    EXPECT_EQ(bottom->screen().display(), display.get());
+}
+
+TEST_F(DisplayStackTest, WhenTheTopPopupGoesTheScreenBelowComesBack)
+{
+    fill();
+    top->screen().dismiss();
+    EXPECT_EQ(display->getCurrent(), middle.get());
+    EXPECT_EQ(takeLog(), Lines{"show middle"});
+    EXPECT_EQ(stackText(), "bottom middle");
+    EXPECT_TRUE(top->screen().isOwner);
+    EXPECT_FALSE(middle->screen().isOwner);
+    EXPECT_EQ(subscriber.takeNotices(), 0) << "the dismissing screen gives the notice on its own";
+    EXPECT_EQ(top->screen().display(), display.get()) << "so it keeps the display";
+}
+
+TEST_F(DisplayStackTest, APopupInTheMiddleLeavesWithoutFurtherEffect)
+{
+    fill();
+    middle->screen().dismiss();
+    EXPECT_EQ(display->getCurrent(), top.get());
+    EXPECT_EQ(takeLog(), Lines{});
+    EXPECT_EQ(stackText(), "bottom top");
+    EXPECT_TRUE(middle->screen().isOwner);
+    middle->screen().dismiss(); // it stands on no stack now
+    EXPECT_EQ(stackText(), "bottom top");
+}
+
+TEST_F(DisplayStackTest, WhenTheLastScreenGoesTheGlassIsDark)
+{
+    display->setCurrent(bottom.get());
+    subscriber.takeNotices();
+    bottom->screen().dismiss();
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_FALSE(content()->isVisible());
+    EXPECT_TRUE(bottom->screen().isOwner);
+    EXPECT_EQ(subscriber.takeNotices(), 1);
+    display->setCurrent(middle.get());
+    EXPECT_TRUE(content()->isVisible());
+}
+
+TEST_F(DisplayStackTest, NullDarkensTheGlassAndTellsEveryScreen)
+{
+    display->setCurrent(nullptr);
+    EXPECT_EQ(subscriber.takeNotices(), 1) << "only the one of show()";
+    fill();
+    display->setCurrent(nullptr);
+    EXPECT_EQ(takeLog(), (Lines{"lostFocus bottom", "lostFocus middle", "lostFocus top"}));
+    EXPECT_EQ(stackText(), "");
+    EXPECT_TRUE(bottom->screen().isOwner && middle->screen().isOwner && top->screen().isOwner);
+    EXPECT_EQ(display->serialise(), "");
+    EXPECT_EQ(subscriber.takeNotices(), 1);
+}
+
+TEST_F(DisplayStackTest, AHiddenDisplayOnlyBuildsTheStackAndShowsItsTopLater)
+{
+    display->hide();
+    fill();
+    EXPECT_EQ(stackText(), "");
+    EXPECT_EQ(display->getCurrent(), top.get());
+    EXPECT_FALSE(content()->isVisible());
+    middle->screen().dismiss();
+    top->screen().dismiss();
+    EXPECT_EQ(takeLog(), Lines{});
+    display->setCurrent(top.get());
+    EXPECT_EQ(subscriber.takeNotices(), 1);
+
+    display->show();
+    EXPECT_EQ(takeLog(), Lines{"show top"});
+    EXPECT_EQ(stackText(), "bottom top");
+    EXPECT_TRUE(content()->isVisible());
+    EXPECT_EQ(subscriber.takeNotices(), 1);
+}
+
+TEST_F(DisplayStackTest, OnlyHardwareVariantZeroGivesANoticeForShowAndHide)
+{
+    auto* application = VantoUApplication::getCurrentApplication();
+    application->setHardwareVariant(static_cast<VantoUApplication::HardwareVariant>(1));
+    subscriber.takeNotices();
+    display->hide();
+    display->show();
+    EXPECT_EQ(subscriber.takeNotices(), 0);
+}
+
+TEST_F(DisplayStackTest, TheCallViewKeepsTheFullScreenWhenItIsHidden)
+{
+    for (const bool isCallView : {false, true}) {
+        makeDisplay("Zelmark SIP", isCallView ? "CallViewPhonelet" : "TestPhonelet");
+        auto* application = VantoUApplication::getCurrentApplication();
+        display->show();
+        application->requestFullScreen();
+        display->hide();
+        EXPECT_EQ(application->isFullScreen(), isCallView);
+    }
+}
+
+TEST_F(DisplayStackTest, WhatIsNoScreenIsIgnored)
+{
+    fill();
+    auto* dead = makeScreen("dead").release();
+    delete dead;
+    auto withoutPrivate = makeScreen("without private");
+    withoutPrivate->dropPrivate();
+    auto withoutWidget = makeScreen("without widget");
+    withoutWidget->screen().hasWidget = false;
+    YRCWindow yrcWindow(true);
+    PIPWindow pipWindow(false);
+    const std::vector<Displayable*> screens{dead, withoutPrivate.get(), withoutWidget.get(), &yrcWindow, &pipWindow};
+    for (Displayable* screen : screens) {
+        display->setCurrent(screen);
+        display->createServerDisplay(screen);
+    }
+    display->createServerDisplay(nullptr);
+    display->widgetDismissed(nullptr);
+    EXPECT_EQ(stackText(), "bottom middle top");
+    EXPECT_EQ(display->getCurrent(), top.get());
+    EXPECT_EQ(subscriber.takeNotices(), 0);
+}
+
+TEST_F(DisplayStackTest, AScreenThatLosesItsWidgetOnTheStackIsPassedOver)
+{
+    fill();
+    middle->screen().hasWidget = false;
+    top->screen().dismiss();
+    EXPECT_EQ(display->getCurrent(), middle.get());
+    display->hide();
+    display->show();
+    EXPECT_EQ(display->getDisplayedRects()->size(), 1u);
+    EXPECT_EQ(display->serialiseByRect({Rect(0, 0, 162, 31)}, ""), bottom->screen().text);
+    middle->screen().hasWidget = true;
+}
+
+TEST_F(DisplayStackTest, AServerDisplayIsCurrentWithoutAStack)
+{
+    makeDisplay("Zelmark SIP", "TestPhonelet", true);
+    display->createServerDisplay(bottom.get());
+    EXPECT_EQ(display->getCurrent(), bottom.get());
+    EXPECT_EQ(bottom->widget().parentWidget(), nullptr);
+    EXPECT_TRUE(bottom->screen().isOwner);
+    EXPECT_EQ(bottom->screen().display(), display.get());
+    EXPECT_EQ(display->serialise(), "");
+    EXPECT_TRUE(content()->isVisible());
+    bottom.reset();
+    EXPECT_EQ(display->getCurrent(), nullptr);
+}
+
+TEST_F(DisplayStackTest, AServerDisplayThatStacksTakesAScreenTwice)
+{
+    display->createServerDisplay(bottom.get());
+    display->createServerDisplay(bottom.get());
+    EXPECT_EQ(display->serialise(), bottom->screen().text + bottom->screen().text);
+    EXPECT_TRUE(isInContent(*bottom));
+    bottom->screen().dismiss();
+    EXPECT_EQ(display->serialise(), bottom->screen().text);
+    EXPECT_EQ(display->getCurrent(), bottom.get());
+    EXPECT_TRUE(isInContent(*bottom));
+    bottom.reset();
+    EXPECT_EQ(display->serialise(), "");
+}
+
+TEST_F(DisplayStackTest, RemovingTheOldCurrentLeavesTheStackAlone)
+{
+    fill();
+    display->removeOldCurrent();
+    EXPECT_EQ(takeLog(), Lines{"lostFocus top"});
+    EXPECT_TRUE(top->screen().isOwner);
+    EXPECT_EQ(display->getCurrent(), top.get());
+}
+
+TEST_F(DisplayStackTest, TheDisplayAreaIsFixedOnOneVariantOnly)
+{
+    EXPECT_EQ(display->getDisplayArea(), nullptr);
+    HardwareVersion::Set hardware;
+    hardware.subPlatformVariant = 1;
+    HardwareVersion::setAll(hardware);
+    makeDisplay();
+    EXPECT_EQ(*display->getDisplayArea(), Rect(0, 0, 192, 48));
+}
+
+// Screens and displays that go
+
+struct Deletion {
+    const char* name;
+    int screen; // 0 bottom, 1 middle, 2 top
+    const char* stack;
+    int current; // -1 none
+};
+
+class DeletedOnTheStack : public DisplayStackTest, public ::testing::WithParamInterface<Deletion> { };
+
+TEST_P(DeletedOnTheStack, IsForgottenWithoutShowOrNotice)
+{
+    std::unique_ptr<TestScreen>* all[] = {&bottom, &middle, &top};
+    fill();
+    all[GetParam().screen]->reset();
+    EXPECT_EQ(stackText(), GetParam().stack);
+    EXPECT_EQ(display->getCurrent(), all[GetParam().current]->get());
+    EXPECT_EQ(takeLog(), Lines{});
+    EXPECT_EQ(subscriber.takeNotices(), 0);
+
+    display->hide();
+    display->show();
+    EXPECT_EQ(display->getDisplayedRects()->size(), 2u);
+    EXPECT_EQ(display->findVisibleRects().size(), 2u);
+    display->setCurrent(nullptr);
+    EXPECT_EQ(stackText(), "");
+}
+
+TEST_P(DeletedOnTheStack, IsForgottenAlsoWhileTheDisplayIsHidden)
+{
+    std::unique_ptr<TestScreen>* all[] = {&bottom, &middle, &top};
+    display->hide();
+    fill();
+    all[GetParam().screen]->reset();
+    display->show();
+    EXPECT_EQ(stackText(), GetParam().stack);
+}
+
+TEST_P(DeletedOnTheStack, IsDroppedByTheNextWalkIfItSaidNothing)
+{
+    std::unique_ptr<TestScreen>* all[] = {&bottom, &middle, &top};
+    const std::vector<std::function<void()>> walks{
+        [&] { display->setCurrent(nullptr); },
+        [&] { display->show(); },
+        [&] { display->serialise(); },
+        [&] { display->serialiseByRect({}, ""); },
+        [&] { display->getDisplayedRects(); },
+        [&] { display->findVisibleRects(); },
+        [&] { display->setStatusMessageAvailable(true); },
+        [&] { display->clearSWfromDisplayable(); },
+        [&] { display->removeOldCurrent(); },
+        [&] { display->widgetDismissed((*all[GetParam().current])->getPrivateImpl()); },
+        [&] { display.reset(); },
+    };
+    for (const auto& walk : walks) {
+        makeDisplay();
+        display->show();
+        bottom = makeScreen("bottom");
+        middle = makeScreen("middle", Kind::Popup);
+        top = makeScreen("top", Kind::Popup);
+        fill();
+        (*all[GetParam().screen])->isRetiring = false;
+        all[GetParam().screen]->reset();
+        walk();
+        if (display) {
+            EXPECT_TRUE(!display->getCurrent() || displayableExists(display->getCurrent()));
+            EXPECT_LT(display->getDisplayedRects()->size(), 3u);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Positions, DeletedOnTheStack,
+    ::testing::Values(Deletion{"Bottom", 0, "middle top", 2}, Deletion{"Middle", 1, "bottom top", 2},
+        Deletion{"Top", 2, "bottom middle", 1}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(DisplayStackTest, TheLastScreenDeletedLeavesNoCurrent)
+{
+    display->setCurrent(bottom.get());
+    bottom.reset();
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_EQ(content()->firstChild(), nullptr);
+}
+
+TEST_F(DisplayStackTest, ADisplayThatGoesFirstGivesEveryWidgetBack)
+{
+    for (const bool isVisible : {true, false}) {
+        makeDisplay();
+        if (isVisible)
+            display->show();
+        auto cleared = makeScreen("cleared");
+        auto dismissed = makeScreen("dismissed", Kind::Popup);
+        auto joined = makeScreen("joined");
+        display->setCurrent(cleared.get());
+        fill();
+        display->setCurrent(dismissed.get());
+        dismissed->screen().dismiss();
+        joined->screen().join(&top->screen());
+        display.reset();
+        for (TestScreen* screen :
+            {cleared.get(), dismissed.get(), joined.get(), bottom.get(), middle.get(), top.get()}) {
+            EXPECT_EQ(screen->screen().display(), nullptr) << screen->widgetName();
+            EXPECT_TRUE(screen->screen().isOwner) << screen->widgetName();
+            EXPECT_EQ(screen->widget().parentWidget(), nullptr) << screen->widgetName();
+            screen->screen().generateDisplayChangedEvent();
+        }
+    }
+}
+
+TEST_F(DisplayStackTest, ADisplayForgetsOnlyItsOwnScreens)
+{
+    fill();
+    DisplayPrivate other("Other", false, "other", "", "", "", "", nullptr, nullptr);
+    auto elsewhere = makeScreen("elsewhere");
+    other.setCurrent(elsewhere.get());
+    display.reset();
+    EXPECT_EQ(elsewhere->screen().display(), &other);
+    elsewhere.reset();
+    EXPECT_EQ(other.getCurrent(), nullptr);
+}
+
+// Calls from inside a notice
+
+TEST_F(DisplayStackTest, TheSubscriberMayReadUnsubscribeAndChangeTheStack)
+{
+    std::string seen;
+    subscriber.takeNotices();
+    subscriber.onNotice = [&] {
+        display->unSubscribe();
+        display->subscribe(&subscriber);
+        seen = display->serialiseByRect({Rect(0, 0, 162, 31)}, "");
+        if (display->getCurrent() == bottom.get())
+            display->setCurrent(middle.get());
+    };
+    display->setCurrent(bottom.get());
+    EXPECT_EQ(display->getCurrent(), middle.get());
+    EXPECT_EQ(seen, bottom->screen().text + middle->screen().text);
+    subscriber.onNotice = [&] { display->unSubscribe(); };
+    display->setCurrent(top.get());
+    display->setCurrent(bottom.get());
+    EXPECT_EQ(subscriber.takeNotices(), 3);
+}
+
+TEST_F(DisplayStackTest, AScreenMayGoWhileItIsBeingShown)
+{
+    display->setCurrent(bottom.get());
+    top->screen().onShow = [&] { top->screen().dismiss(); };
+    display->setCurrent(top.get());
+    EXPECT_EQ(display->getCurrent(), bottom.get());
+    EXPECT_TRUE(top->screen().isOwner);
+
+    middle->screen().onShow = [&] { display->setCurrent(nullptr); };
+    display->setCurrent(middle.get());
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_TRUE(middle->screen().isOwner);
+}
+
+TEST_F(DisplayStackTest, ANoticeInsideShowMayPutAnotherScreenOnTop)
+{
+    middle->screen().onShow = [&] { display->setCurrent(top.get()); };
+    display->setCurrent(bottom.get());
+    display->setCurrent(middle.get());
+    EXPECT_EQ(display->getCurrent(), top.get());
+    EXPECT_EQ(stackText(), "bottom middle top");
+}
+
+TEST_F(DisplayStackTest, AScreenMayDeleteOthersWhenItLosesTheFocus)
+{
+    fill();
+    bottom->screen().onLostFocus = [&] { top.reset(); };
+    display->setCurrent(nullptr);
+    EXPECT_EQ(takeLog(), (Lines{"lostFocus bottom", "lostFocus middle"}));
+    EXPECT_EQ(content()->firstChild(), nullptr);
+}
+
+}

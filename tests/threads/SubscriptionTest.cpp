@@ -1,0 +1,53 @@
+#include "StackFixture.h"
+
+#include <atomic>
+#include <thread>
+
+namespace {
+
+class SubscriptionTest : public StackFixture { };
+
+TEST_F(SubscriptionTest, ASubscriberMayDieAsSoonAsUnSubscribeHasReturned)
+{
+    makeDisplay();
+    std::atomic<bool> isDone = false;
+    std::thread application([&] {
+        for (int i = 0; i < 2000; ++i) {
+            Subscriber shortLived;
+            shortLived.onNotice = [&shortLived] { ++shortLived.notices; };
+            display->subscribe(&shortLived);
+            display->unSubscribe();
+        }
+        isDone = true;
+    });
+    while (!isDone)
+        display->displayChanged();
+    application.join();
+}
+
+TEST_F(SubscriptionTest, SubscribingWaitsForTheNoticeThatIsRunning)
+{
+    makeDisplay();
+    Subscriber next;
+    std::atomic<bool> isSubscribed = false;
+    std::thread application;
+    subscriber.onNotice = [&] {
+        application = std::thread([&] {
+            display->subscribe(&next);
+            isSubscribed = true;
+        });
+        // Inside the notice the lock is this thread's, also for calls that take it again.
+        for (int i = 0; i < 1000; ++i) {
+            display->serialiseByRect({}, "");
+            std::this_thread::yield();
+        }
+        EXPECT_FALSE(isSubscribed);
+    };
+    display->displayChanged();
+    application.join();
+    display->displayChanged();
+    EXPECT_EQ(subscriber.takeNotices(), 1);
+    EXPECT_EQ(next.takeNotices(), 1);
+}
+
+}
