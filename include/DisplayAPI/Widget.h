@@ -70,6 +70,8 @@ protected:
 private:
     friend class GuiRequestEvent;
 
+    void send(GuiRequestEvent* event) const;
+
     WidgetImpl* mImpl; // counted: shared with the events that name this handle
 };
 
