@@ -26,6 +26,12 @@ int twoDigits(const std::string& time, std::size_t position)
 
 }
 
+/// Where a screen text goes from the GUI thread to the one that asked for it.
+struct Display::TextHandover {
+    Semaphore lock{Semaphore::AVAILABLE, 1};
+    std::string text;
+};
+
 Display::Display(
     std::string name, std::string locale, std::string dateFormat, std::string timeFormat, bool server, Rect* area)
     : Display("", std::move(name), PhysDefs::hardwareSubVariant{}, "softwareUnknown", std::move(locale),
@@ -61,7 +67,7 @@ void Display::init(DisplayPrivateIfc* displayPrivate)
 {
     mApplication = VantoUApplication::getCurrentApplication();
     mPrivate.reset(displayPrivate);
-    mSerialisedTextLock = std::make_unique<Semaphore>(Semaphore::AVAILABLE, 1);
+    mHandover = std::make_shared<TextHandover>();
 }
 
 bool Display::postEvent(DisplayRequestEvent* event)
@@ -171,14 +177,16 @@ std::string Display::serialiseByRect(const std::vector<Rect>& rects, std::string
 
 std::string Display::fetchText(DisplayRequestEvent* event)
 {
+    // Kept here: once the request has run, the display may go before this thread runs again.
+    const std::shared_ptr<TextHandover> handover = mHandover;
     if (!postEvent(event))
         return {};
     // The handler has taken the lock for this thread, so that no other text replaces this one.
     struct Guard {
         ~Guard() { lock.give(); }
         Semaphore& lock;
-    } guard{*mSerialisedTextLock};
-    return mSerialisedText;
+    } guard{handover->lock};
+    return handover->text;
 }
 
 std::vector<Rect>* Display::getDisplayedRects()
@@ -461,15 +469,15 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::TimeFormatChanged: timeFormatChanged(text); break;
     case Event::Serialise:
         // Given back by the caller, once it has its copy.
-        mSerialisedTextLock->take(-1);
-        mSerialisedText = serialise();
+        mHandover->lock.take(-1);
+        mHandover->text = serialise();
         break;
     case Event::CreateServerDisplay: createServerDisplay(event.getDisplayable()); break;
     case Event::SetMaximised: setMaximised(flag); break;
     case Event::GetDisplayedRects: event.setDisplayedRects(getDisplayedRects()); break;
     case Event::SerialiseByRect:
-        mSerialisedTextLock->take(-1);
-        mSerialisedText
+        mHandover->lock.take(-1);
+        mHandover->text
             = serialiseByRect(event.getSerialisableRects() ? *event.getSerialisableRects() : std::vector<Rect>(), text);
         break;
     case Event::Unassigned: break;

@@ -10,7 +10,6 @@
 #include <string>
 #include <vector>
 
-class Semaphore;
 class TranslationInfo;
 class TranslatorIfc;
 class VantoUApplication;
@@ -182,13 +181,14 @@ protected:
     bool postEvent(DisplayRequestEvent* event);
 
 private:
+    struct TextHandover;
+
     void runRequest(DisplayRequestEvent& event);
     std::string fetchText(DisplayRequestEvent* event);
 
     VantoUApplication* mApplication = nullptr; // whose queue this display closes
     std::unique_ptr<DisplayPrivateIfc> mPrivate;
-    std::string mSerialisedText;
-    std::unique_ptr<Semaphore> mSerialisedTextLock;
+    std::shared_ptr<TextHandover> mHandover;
     std::string mDisplayName;
     std::string mSoftwareType;
     bool mIsSliderVisible = false;

@@ -1,11 +1,12 @@
 #include "Gate.h"
 
+#include <algorithm>
 #include <chrono>
 
 #if TOOLKIT_PORTABLE_GATE
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mCount(count)
+    : mCount(std::min(count, maximum))
     , mMaximum(maximum)
 {
 }
@@ -84,8 +85,8 @@ timespec deadlineIn(int milliseconds)
 }
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mWord(count)
-    , mMaximum(maximum < CountMask ? maximum : CountMask)
+    : mWord(std::min({count, maximum, CountMask}))
+    , mMaximum(std::min(maximum, CountMask))
 {
 }
 
