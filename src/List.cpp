@@ -2,7 +2,6 @@
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 
-#include "ExistingDisplayables.h"
 #include "KeepUntilExit.h"
 #include "ListBoxPrivate.h"
 #include "ListTrace.h"

@@ -27,7 +27,8 @@ class Ticker;
 /// BACK_COMMAND() and RIGHT_COMMAND(). While the list has a title it shows one row, else two.
 ///
 /// Threads: any. Calls that change the list return at once and run in their order; calls that answer wait for
-/// the GUI thread, so that they see what the same thread has asked for before.
+/// the GUI thread, so that they see what the same thread has asked for before. An application's own subclass is made
+/// on the GUI thread, or its base would run before it is whole.
 /// Ownership: a row belongs to the list from append(), insertAt(), replace() or move() on. remove(), removeAt(),
 /// removeAll(), and for the old row replace() and move(), give it back to the application. clear() and
 /// deleting the list delete the rows. Titles given as a translation become the list's; listeners, dialer and

@@ -16,7 +16,7 @@ class ListItemPrivateIfc;
 /// One row of a list: a text, a second text at the right edge, an icon at the left.
 ///
 /// Threads: any. Reads wait for the GUI thread and see what the same thread has written before; the other calls
-/// return at once.
+/// return at once. An application's own subclass is made on the GUI thread, or its base would run before it is whole.
 /// Ownership: a row belongs to the application until a list takes it; then to the list, until the list gives it
 /// back. A row that is deleted while it stands in a list leaves that list first.
 /// Errors: a call on a row whose half on the GUI thread has gone changes nothing and answers an empty text or 0.

@@ -1,0 +1,354 @@
+#include "ListFixture.h"
+#include "ThreadedPhoneTest.h"
+
+#include <DisplayAPI/DisplayEventIfc.h>
+#include <DisplayAPI/GuiRequestEvent.h>
+#include <DisplayAPI/ListItemPrivateIfc.h>
+
+#include <Log.h>
+#include <UApplication.h>
+
+#include <cstdio>
+#include <functional>
+
+using namespace DisplayAPI;
+
+namespace {
+
+/// A subscriber that acts once on a notice.
+class ActingSubscriber : public DisplayEventIfc {
+public:
+    void displayChanged(std::string) override
+    {
+        if (auto now = std::exchange(action, nullptr))
+            now();
+    }
+
+    std::function<void()> action;
+};
+
+std::vector<LogControl::Message> messages;
+
+class ListTest : public ListFixture { };
+
+}
+
+// Rows
+
+TEST(ListOnBothRoadsTest, TheRowsAreTheSame)
+{
+    const std::string seen = onBothRoads([](Display& display) {
+        List list(0);
+        display.setCurrent(&list);
+        std::string story;
+        const auto tell = [&](const char* step) {
+            story += std::string(step) + ": " + rows(list) + " " + std::to_string(list.size()) + " "
+                + std::to_string(list.getSelectedIndex()) + "\n";
+        };
+        auto* b = new ListItem("B", true);
+        auto* x = new ListItem("X", true);
+        auto* y = new ListItem("Y", true);
+        auto* z = new ListItem("Z", true);
+        tell("empty");
+        list.append("A");
+        list.append(b);
+        list.append(new TranslationInfo("", "C", "", nullptr));
+        tell("append");
+        list.insertAt(x, -5);
+        list.insertAt(y, 100);
+        list.insertAt(z, 2);
+        tell("insertAt");
+        list.setSelected(b);
+        tell("setSelected");
+        list.setSelectedIndex(99);
+        list.setSelectedIndex(0);
+        tell("setSelectedIndex");
+        list.remove(x);
+        list.remove(x);
+        tell("remove");
+        delete list.removeAt(-1);
+        tell("removeAt");
+        list.replace(b, x);
+        tell("replace");
+        list.move(z, b, 3);
+        tell("move");
+        list.append(z);
+        list.move(z, z, 0);
+        tell("move alone");
+        list.replace(nullptr, list.removeAt(0));
+        tell("replace null");
+        ListItem* c = list.getItems()[1];
+        list.removeAll();
+        tell("removeAll");
+        delete b;
+        delete c;
+        delete x;
+        delete y;
+        list.append(z);
+        list.clear();
+        tell("clear");
+        return story;
+    });
+    // Rows in view stay where they are when others come or go; the first row of an empty list is current.
+    EXPECT_EQ(seen,
+        lines({"empty:  0 -1", "append: [A]BC 3 0", "insertAt: X[A]ZBCY 6 1", "setSelected: XAZ[B]CY 6 3",
+            "setSelectedIndex: [X]AZBCY 6 0", "remove: [A]ZBCY 5 0", "removeAt: [Z]BCY 4 0", "replace: [Z]XCY 4 0",
+            "move: [X]CYB 4 0", "move alone: Z[X]CYB 5 1", "replace null: [X]CYBZ 5 0", "removeAll:  0 -1",
+            "clear:  0 -1"}));
+}
+
+TEST_F(ListTest, RowsThatAreGivenBackStayWhole)
+{
+    List list(0);
+    fill(list, "ABCDE");
+    const std::vector<ListItem*> items = list.getItems();
+    auto* f = new CountedItem("F");
+    auto* g = new CountedItem("G");
+    list.remove(items[0]);
+    EXPECT_EQ(list.removeAt(0), items[1]);
+    list.replace(items[2], f);
+    list.move(items[3], g, 0);
+    EXPECT_EQ(both(list), "GF[E]");
+    list.removeAll();
+    EXPECT_EQ(CountedItem::living, 7);
+    for (ListItem* item : {items[0], items[1], items[2], items[3], items[4], (ListItem*)f, (ListItem*)g}) {
+        EXPECT_EQ(item->screen(), nullptr);
+        EXPECT_EQ(item->getText().size(), 1u) << "the row's widget lives";
+        delete item;
+    }
+    EXPECT_EQ(CountedItem::living, 0);
+}
+
+TEST_F(ListTest, ClearAndDeletingTheListDeleteTheRows)
+{
+    auto list = std::make_unique<List>(0);
+    fill(*list, "ABC");
+    list->clear();
+    EXPECT_EQ(CountedItem::living, 0);
+    fill(*list, "ABC");
+    show(*list);
+    list.reset();
+    EXPECT_EQ(CountedItem::living, 0);
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_EQ(screenText(), "");
+}
+
+TEST_F(ListTest, ARowThatStandsSomewhereIsRefused)
+{
+    List list(0);
+    List other(0);
+    fill(list, "AB");
+    fill(other, "XY");
+    ListItem* a = list.getItems()[0];
+    ListItem* x = other.getItems()[0];
+    VantoListBoxMEG loose;
+    CountedItem held("H");
+    loose.addItem(held.getPrivateImplemetation()->getVantoListItem());
+    for (ListItem* item : {a, x, static_cast<ListItem*>(&held)}) {
+        list.append(item);
+        list.insertAt(item, 0);
+        list.replace(list.getItems()[1], item);
+        list.replace(nullptr, item);
+    }
+    list.move(list.getItems()[1], x, 0);
+    list.move(list.getItems()[1], &held, 0);
+    EXPECT_EQ(both(list), "[A]B");
+    EXPECT_EQ(both(other), "[X]Y");
+    loose.removeItem(held.getPrivateImplemetation()->getVantoListItem());
+}
+
+TEST_F(ListTest, NullAndForeignRowsChangeNothing)
+{
+    List list(0);
+    fill(list, "AB");
+    CountedItem foreign("X");
+    list.append(static_cast<ListItem*>(nullptr));
+    list.insertAt(nullptr, 0);
+    list.remove(nullptr);
+    list.remove(&foreign);
+    list.replace(list.getItems()[0], nullptr);
+    list.replace(nullptr, nullptr);
+    list.move(nullptr, nullptr, 0);
+    list.move(list.getItems()[0], nullptr, 0);
+    list.setSelected(nullptr);
+    list.setSelected(&foreign);
+    list.addCommandListener(nullptr);
+    list.removeCommandListener(nullptr);
+    list.addDialer(nullptr);
+    EXPECT_EQ(both(list), "[A]B");
+    EXPECT_EQ(foreign.getText(), "X");
+}
+
+TEST_F(ListTest, AMoveWithinTheListTakesTheReplacementFromItsOldPlace)
+{
+    List list(0);
+    fill(list, "ABCD");
+    const std::vector<ListItem*> items = list.getItems();
+    list.move(items[0], items[3], 1);
+    EXPECT_EQ(both(list), "[B]DC");
+    delete items[0];
+    list.move(nullptr, items[1], 99);
+    EXPECT_EQ(both(list), "[D]CB") << "without an old row it is an insertion";
+    list.move(items[2], items[2], -1);
+    EXPECT_EQ(both(list), "C[D]B");
+}
+
+TEST_F(ListTest, TheLastRowTakesTheListOffTheScreenOnlyByRemove)
+{
+    List list(0);
+    fill(list, "A");
+    show(list);
+    const UWidget* parent = half(list).getWidget()->parentWidget();
+    ASSERT_NE(parent, nullptr);
+    list.replace(list.getItems()[0], list.removeAt(5));
+    std::unique_ptr<ListItem> row(list.removeAt(0));
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "removeAt()";
+    list.append(row.release());
+    row.reset(list.getItems()[0]);
+    list.replace(row.get(), new CountedItem("B"));
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "replace()";
+    CountedItem foreign("X");
+    delete list.removeAt(0);
+    list.replace(&foreign, new CountedItem("C"));
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "replace() of a foreign row";
+    EXPECT_FALSE(half(list).hasOwnership());
+    row.reset(list.getItems()[0]);
+    list.remove(row.get());
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), nullptr);
+    EXPECT_TRUE(half(list).hasOwnership());
+    list.append("D");
+    show(list);
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "shown again";
+    EXPECT_FALSE(half(list).hasOwnership());
+}
+
+TEST_F(ListTest, ARowDeletedInAListLeavesItFirst)
+{
+    List list(0);
+    fill(list, "ABC");
+    show(list);
+    delete list.getItems()[1];
+    EXPECT_EQ(both(list), "[A]C");
+    delete list.getItems()[0];
+    EXPECT_EQ(both(list), "[C]");
+}
+
+TEST_F(ListTest, ListsOfManyRowsEnd)
+{
+    constexpr int count = 100000;
+    List list(0);
+    show(list);
+    for (int i = 0; i < count; ++i)
+        list.append("row");
+    EXPECT_EQ(list.size(), count);
+    const std::vector<ListItem*> items = list.getItems();
+    list.append(items[count / 2]);
+    EXPECT_EQ(list.size(), count) << "refused";
+    list.removeAll();
+    EXPECT_EQ(list.size(), 0);
+    for (ListItem* item : items)
+        list.append(item);
+    list.setSelectedIndex(count - 1);
+    EXPECT_EQ(list.getSelected(), items.back());
+    list.clear();
+    EXPECT_EQ(list.size(), 0);
+}
+
+// Odd circumstances
+
+TEST_F(ListTest, AFailedRemoveAtIsLogged)
+{
+    LogControl::setLevel("DisplayAPI::List", 3);
+    LogControl::setSink([](const LogControl::Message& message) { messages.push_back(message); });
+    List list(0);
+    EXPECT_EQ(list.removeAt(0), nullptr);
+    fill(list, "A");
+    EXPECT_EQ(list.removeAt(list.size()), nullptr);
+    list.move(list.getItems()[0], nullptr, 0);
+    LogControl::setLevel("DisplayAPI::List", 5);
+    list.setSelectedIndex(7);
+    LogControl::reset();
+    char removeAt[100];
+    std::snprintf(removeAt, sizeof removeAt, "removeAt() this %p, cannot remove item at index ", (void*)&list);
+    char select[100];
+    std::snprintf(select, sizeof select, "setSelectedIndex() this: %p index 7\n", (void*)&list);
+    ASSERT_EQ(messages.size(), 4u);
+    EXPECT_EQ(messages[0].text, removeAt + std::string("0"));
+    EXPECT_EQ(messages[1].text, removeAt + std::string("1"));
+    EXPECT_EQ(messages[1].file, "src/List");
+    EXPECT_EQ(messages[1].module, "DisplayAPI::List");
+    EXPECT_EQ(messages[1].level, 3);
+    EXPECT_TRUE(messages[2].text.starts_with("oldListItemPrivate[0x")) << messages[2].text;
+    EXPECT_EQ(messages[2].level, 2);
+    EXPECT_EQ(messages[3].text, select);
+    EXPECT_EQ(both(list), "[A]");
+}
+
+TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
+{
+    using Change = std::function<void(List&)>;
+    const std::pair<const char*, Change> table[] = {
+        {"append", [](List& list) { list.append(new CountedItem("X")); }},
+        {"insertAt", [](List& list) { list.insertAt(new CountedItem("X"), 0); }},
+        {"removeAt", [](List& list) { EXPECT_EQ(list.removeAt(0), nullptr); }},
+        {"replace", [](List& list) { list.replace(list.getItems()[0], new CountedItem("X")); }},
+        {"replace null", [](List& list) { list.replace(nullptr, new CountedItem("X")); }},
+        {"move", [](List& list) { list.move(list.getItems()[0], new CountedItem("X"), 0); }},
+        {"move within", [](List& list) { list.move(list.getItems()[0], list.getItems()[1], 0); }},
+        {"remove", [](List& list) { list.remove(list.getItems()[0]); }},
+        {"removeAll", [](List& list) { list.removeAll(); }},
+        {"clear", [](List& list) { list.clear(); }},
+        {"setTitle", [](List& list) { list.setTitle("T"); }},
+        {"setSelected", [](List& list) { list.setSelected(list.getItems()[1]); }},
+        {"Ok", [this](List&) { press(UGlobal::KeyOk); }},
+        {"Down", [this](List&) { press(UGlobal::KeyDown); }},
+    };
+    ActingSubscriber subscriber;
+    display->subscribe(&subscriber);
+    for (const auto& [name, change] : table) {
+        SCOPED_TRACE(name);
+        auto list = std::make_unique<List>(0);
+        fill(*list, "ABC");
+        show(*list);
+        subscriber.action = [&] { list.reset(); };
+        change(*list);
+        EXPECT_EQ(list, nullptr);
+        EXPECT_EQ(CountedItem::living, 0);
+    }
+    display->subscribe(&changes);
+}
+
+TEST_F(ListTest, AListOutlivesTheDisplay)
+{
+    List list(0);
+    fill(list, "AB");
+    show(list);
+    endDisplay();
+    EXPECT_TRUE(half(list).hasOwnership());
+    list.append(new CountedItem("C"));
+    EXPECT_EQ(both(list), "[A]BC");
+}
+
+TEST_F(ListTest, OddTextsComeThrough)
+{
+    List list(0);
+    const std::string longText(1 << 20, 'x');
+    for (const std::string& text : {std::string("a\0b", 3), std::string("\xC3\x28"), longText, std::string()}) {
+        list.append(text);
+        list.setTitle(text);
+        list.setSelectedIndex(list.size() - 1);
+        EXPECT_EQ(list.getSelected()->getText(), UString(text).toUTF8());
+    }
+}
+
+TEST_F(ListTest, RequestsPostedByHandAndUnknownNumbersAreServed)
+{
+    List list(0);
+    auto* append = new GuiRequestEvent(&list, 5);
+    append->stringParam1 = "posted";
+    UApplication::instance()->postEvent(append);
+    for (const int number : {23, 37, 38, -1, 2, 90, 1000})
+        UApplication::instance()->postEvent(new GuiRequestEvent(&list, number));
+    pump();
+    EXPECT_EQ(both(list), "[posted]");
+}

@@ -1,0 +1,104 @@
+#include "ThreadedPhoneTest.h"
+
+#include <DisplayAPI/List.h>
+#include <DisplayAPI/ListItem.h>
+
+#include <Disturb.h>
+#include <TranslationInfo.h>
+
+#include <functional>
+#include <memory>
+#include <thread>
+#include <vector>
+
+using namespace DisplayAPI;
+
+namespace {
+
+class ThreadedListTest : public ThreadedPhoneTest {
+protected:
+    /// Runs work in four threads at once, once for each seed.
+    void disturbed(int seeds, const std::function<void()>& work)
+    {
+        for (int seed = 1; seed <= seeds; ++seed) {
+            setDisturbanceSeed(static_cast<std::uint64_t>(seed));
+            std::vector<std::thread> threads;
+            for (int thread = 0; thread < 4; ++thread)
+                threads.emplace_back(work);
+            for (std::thread& thread : threads)
+                thread.join();
+            ASSERT_FALSE(HasFailure()) << "seed " << seed;
+        }
+        setDisturbanceSeed(0);
+    }
+};
+
+}
+
+TEST_F(ThreadedListTest, ManyThreadsWorkOnOneListAndReadCopies)
+{
+    List list(0);
+    display->setCurrent(&list);
+    disturbed(200, [&] {
+        auto* mine = new ListItem("mine", true);
+        list.append(mine);
+        list.append("theirs");
+        list.setTitle("title");
+        EXPECT_GE(list.getItems().size(), 2u);
+        list.remove(mine);
+        delete mine; // stands behind the remove in the queue
+    });
+    EXPECT_EQ(list.size(), 800);
+}
+
+TEST_F(ThreadedListTest, ListsComeAndGoWhileOthersDo)
+{
+    disturbed(200, [&] {
+        List list(0);
+        list.append("row");
+        auto* row = new ListItem("more", true);
+        list.append(row);
+        display->setCurrent(&list);
+        EXPECT_EQ(list.size(), 2);
+        EXPECT_EQ(list.removeAt(1), row);
+        delete row;
+    });
+    EXPECT_EQ(display->getCurrent(), nullptr);
+}
+
+TEST_F(ThreadedListTest, IconsAreReadWhileTheRowsAreMade)
+{
+    disturbed(200, [] {
+        ListItem item("Anna", true);
+        item.setLeftIcon(static_cast<Icons::IconType>(345));
+        const int seen = item.getLeftIcon();
+        EXPECT_TRUE(seen == 0 || seen == 345);
+    });
+}
+
+TEST_F(ThreadedListTest, AListThatIsDeletedBehindTheLoopStaysQuiet)
+{
+    auto list = std::make_unique<List>(1);
+    list->append(new ListItem("A", true));
+    list->setTitle(new TranslationInfo("", "title", "", nullptr));
+    display->setCurrent(list.get());
+    EXPECT_EQ(list->size(), 1);
+    endLoop();
+    EXPECT_EQ(list->size(), -1);
+    EXPECT_EQ(list->getSelectedIndex(), -1);
+    EXPECT_EQ(list->getSelected(), nullptr);
+    EXPECT_EQ(list->removeAt(0), nullptr);
+    EXPECT_EQ(list->getItems().size(), 0u);
+    EXPECT_EQ(list->getDialer(), nullptr);
+    EXPECT_TRUE(list->hasBackItem());
+    auto* late = new ListItem("B", true);
+    list->append(late);
+    late->setText("still there");
+    list->append(new TranslationInfo("", "never", "", nullptr));
+    list->setTitle(new TranslationInfo("", "never", "", nullptr));
+    list->clear();
+    list.reset();
+    delete late; // it never arrived, and nobody else has deleted it
+    List unborn(0);
+    EXPECT_EQ(unborn.getPrivateImpl(), nullptr);
+}
