@@ -1,5 +1,7 @@
 #include "DisplayPrivate.h"
 
+#include <DisplayAPI/Displayable.h>
+
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
@@ -120,7 +122,7 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
         return;
     dropDeadEntries();
     const auto found = std::find_if(mItemList.begin(), mItemList.end(),
-        [displayable](Displayable* entry) { return entry->getPrivateImpl() == displayable; });
+        [displayable](Displayable* entry) { return privateOfLiving(entry) == displayable; });
     if (found != mItemList.end()) {
         mItemList.erase(found);
         displayable->gainOwnership();
@@ -130,7 +132,7 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
             widget->setParent(nullptr);
         }
     }
-    if (!mCurrent || mCurrent->getPrivateImpl() != displayable)
+    if (!mCurrent || privateOfLiving(mCurrent) != displayable)
         return;
     if (mItemList.empty()) {
         setCurrent(nullptr);
@@ -218,7 +220,7 @@ void DisplayPrivate::hideContentWidget()
 void DisplayPrivate::removeOldCurrent()
 {
     dropDeadEntries();
-    if (DisplayablePrivateIfc* screen = mCurrent ? mCurrent->getPrivateImpl() : nullptr) {
+    if (DisplayablePrivateIfc* screen = privateOfLiving(mCurrent)) {
         screen->lostFocus();
         screen->gainOwnership();
     }
@@ -242,7 +244,7 @@ void DisplayPrivate::forget(Displayable* displayable)
         mCurrent = top();
     if (mPreviousCurrent == displayable)
         mPreviousCurrent = nullptr;
-    const StackScreen screen(displayable);
+    const StackScreen screen(displayable->getPrivateImpl());
     if (!screen)
         return;
     if (wasOnStack || isInContent(screen.widget()))
