@@ -2,6 +2,7 @@
 
 #include <DisplayAPI/Displayable.h>
 
+#include "AssertGuiThread.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
@@ -15,12 +16,14 @@ namespace DisplayAPI {
 
 Displayable* DisplayPrivate::getCurrent()
 {
+    assertGuiThread();
     dropDeadEntries();
     return mCurrent;
 }
 
 void DisplayPrivate::setCurrent(Displayable* displayable)
 {
+    assertGuiThread();
     if (!displayable) {
         darken();
         return;
@@ -118,6 +121,7 @@ void DisplayPrivate::showWidget(DisplayablePrivateIfc& screen)
 
 void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
 {
+    assertGuiThread();
     if (!displayable)
         return;
     dropDeadEntries();
@@ -150,6 +154,7 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
 
 void DisplayPrivate::createServerDisplay(Displayable* displayable)
 {
+    assertGuiThread();
     if (!displayableExists(displayable))
         return;
     const StackScreen screen(displayable);
@@ -169,6 +174,7 @@ void DisplayPrivate::createServerDisplay(Displayable* displayable)
 
 void DisplayPrivate::show()
 {
+    assertGuiThread();
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->enableScreen();
     const int hardwareVariant = currentHardwareVariant();
@@ -198,6 +204,7 @@ void DisplayPrivate::showContentWidget()
 
 void DisplayPrivate::hide()
 {
+    assertGuiThread();
     mIsVisible = false;
     if (auto* application = VantoUApplication::getCurrentApplication()) {
         application->disableScreen();
@@ -239,6 +246,7 @@ std::vector<Rect>* DisplayPrivate::getDisplayedRects()
 
 void DisplayPrivate::forget(Displayable* displayable)
 {
+    assertGuiThread();
     const bool wasOnStack = std::erase(mItemList, displayable) > 0;
     if (mCurrent == displayable)
         mCurrent = top();
