@@ -8,6 +8,7 @@
 #include <cassert>
 #include <chrono>
 #include <limits>
+#include <memory>
 #include <sched.h>
 #include <utility>
 
@@ -16,6 +17,12 @@ namespace {
 // What the queue holds instead of an event: nobody reads or writes through these addresses.
 UEvent* const Sleeping = reinterpret_cast<UEvent*>(std::uintptr_t{1});
 UEvent* const Closed = reinterpret_cast<UEvent*>(std::uintptr_t{2});
+
+/// A time that the clock never reaches stays one, instead of becoming one that has passed.
+std::uint64_t later(std::uint64_t time, std::uint64_t milliseconds)
+{
+    return time + std::min(milliseconds, std::numeric_limits<std::uint64_t>::max() - time);
+}
 
 std::uint64_t realTime()
 {
@@ -57,14 +64,21 @@ int ULoop::exec()
     open();
     mIsExecuting = true;
     mQuit = false;
+    // On every way out, an exception of an event included: nobody may wait for a loop that doesn't run.
+    struct End {
+        ~End()
+        {
+            loop.mIsExecuting = false;
+            loop.mQuit = false;
+            loop.close();
+        }
+        ULoop& loop;
+    } end{*this};
     while (!mQuit) {
         processEvents();
         if (!mQuit)
             sleep();
     }
-    mIsExecuting = false;
-    mQuit = false;
-    close();
     return 0;
 }
 
@@ -86,6 +100,8 @@ void ULoop::open()
 
 void ULoop::close()
 {
+    // A running loop has nothing left to wait for.
+    quit();
     UEvent* newest = mNewest.exchange(Closed, std::memory_order_acq_rel);
     destroyAll(std::exchange(mPass, nullptr));
     if (newest != Sleeping && newest != Closed)
@@ -130,10 +146,9 @@ void ULoop::runQueue()
 {
     fetchQueue();
     while (mPass && !mQuit) {
-        UEvent* event = mPass;
+        const std::unique_ptr<UEvent> event(mPass);
         mPass = event->mNext;
         event->process();
-        delete event;
     }
 }
 
@@ -179,8 +194,8 @@ void ULoop::advance(std::uint64_t milliseconds)
 {
     if (!mIsClockManual)
         return;
-    const std::uint64_t end = mManualTime + milliseconds;
-    while (!mTimers.empty() && mTimers.begin()->first.first <= end) {
+    const std::uint64_t end = later(mManualTime, milliseconds);
+    while (!mQuit && !mTimers.empty() && mTimers.begin()->first.first <= end) {
         mManualTime = std::max(mManualTime, mTimers.begin()->first.first);
         processEvents();
     }
@@ -196,7 +211,8 @@ std::int64_t ULoop::timeToNextTimer() const
     if (mIsClockManual)
         return due <= mManualTime ? 0 : -1;
     const std::uint64_t time = now();
-    return due <= time ? 0 : static_cast<std::int64_t>(due - time);
+    constexpr std::uint64_t longest = std::numeric_limits<std::int64_t>::max();
+    return due <= time ? 0 : static_cast<std::int64_t>(std::min(due - time, longest));
 }
 
 void ULoop::runTimers()
@@ -231,7 +247,7 @@ UTimer::~UTimer()
 void UTimer::start()
 {
     stop();
-    schedule(ULoop::instance().now() + std::max(mInterval, 1ULL));
+    schedule(later(ULoop::instance().now(), std::max(mInterval, 1ULL)));
 }
 
 void UTimer::stop()
@@ -260,7 +276,8 @@ void UTimer::fire(std::uint64_t now)
     // Set up first: the handler may stop, restart or delete this timer.
     if (!mIsSingleShot) {
         const std::uint64_t step = std::max(mInterval, 1ULL);
-        schedule(due + step > now ? due + step : now + step);
+        const std::uint64_t next = later(due, step);
+        schedule(next > now ? next : later(now, step));
     }
     UTimerEvent event(mId);
     agent->timerEvent(&event);
