@@ -35,6 +35,12 @@ LivingSet<Display>& livingHandles()
 
 }
 
+/// Where a screen text goes from the GUI thread to the one that asked for it.
+struct Display::TextHandover {
+    Semaphore lock{Semaphore::AVAILABLE, 1};
+    std::string text;
+};
+
 Display::Display(
     std::string name, std::string locale, std::string dateFormat, std::string timeFormat, bool server, Rect* area)
     : Display("", std::move(name), PhysDefs::hardwareSubVariant{}, "softwareUnknown", std::move(locale),
@@ -72,7 +78,7 @@ void Display::init(DisplayPrivateIfc* displayPrivate)
     livingHandles().add(this);
     mApplication = VantoUApplication::getCurrentApplication();
     mPrivate.reset(displayPrivate);
-    mSerialisedTextLock = std::make_unique<Semaphore>(Semaphore::AVAILABLE, 1);
+    mHandover = std::make_shared<TextHandover>();
 }
 
 bool Display::postEvent(DisplayRequestEvent* event)
@@ -182,14 +188,16 @@ std::string Display::serialiseByRect(const std::vector<Rect>& rects, std::string
 
 std::string Display::fetchText(DisplayRequestEvent* event)
 {
+    // Kept here: once the request has run, the display may go before this thread runs again.
+    const std::shared_ptr<TextHandover> handover = mHandover;
     if (!postEvent(event))
         return {};
     // The handler has taken the lock for this thread, so that no other text replaces this one.
     struct Guard {
         ~Guard() { lock.give(); }
         Semaphore& lock;
-    } guard{*mSerialisedTextLock};
-    return mSerialisedText;
+    } guard{handover->lock};
+    return handover->text;
 }
 
 std::vector<Rect>* Display::getDisplayedRects()
@@ -527,11 +535,11 @@ void Display::runRequest(DisplayRequestEvent& event)
 /// The caller gives the lock back, once it has its copy; unless there is no text to copy.
 void Display::storeText(const std::function<std::string()>& read)
 {
-    mSerialisedTextLock->take(-1);
+    mHandover->lock.take(-1);
     try {
-        mSerialisedText = read();
+        mHandover->text = read();
     } catch (...) {
-        mSerialisedTextLock->give();
+        mHandover->lock.give();
         throw;
     }
 }

@@ -11,7 +11,6 @@
 #include <string>
 #include <vector>
 
-class Semaphore;
 class TranslationInfo;
 class TranslatorIfc;
 class VantoUApplication;
@@ -188,13 +187,14 @@ protected:
     bool postEvent(DisplayRequestEvent* event);
 
 private:
+    struct TextHandover;
+
     void runRequest(DisplayRequestEvent& event);
     void storeText(const std::function<std::string()>& read);
     std::string fetchText(DisplayRequestEvent* event);
 
     std::unique_ptr<DisplayPrivateIfc> mPrivate;
-    std::string mSerialisedText;
-    std::unique_ptr<Semaphore> mSerialisedTextLock;
+    std::shared_ptr<TextHandover> mHandover;
     std::string mDisplayName;
     std::string mSoftwareType;
     bool mIsSliderVisible = false;

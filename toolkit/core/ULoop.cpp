@@ -18,12 +18,6 @@ namespace {
 UEvent* const Sleeping = reinterpret_cast<UEvent*>(std::uintptr_t{1});
 UEvent* const Closed = reinterpret_cast<UEvent*>(std::uintptr_t{2});
 
-/// A time that the clock never reaches stays one, instead of becoming one that has passed.
-std::uint64_t later(std::uint64_t time, std::uint64_t milliseconds)
-{
-    return time + std::min(milliseconds, std::numeric_limits<std::uint64_t>::max() - time);
-}
-
 std::uint64_t realTime()
 {
     const auto time = std::chrono::steady_clock::now().time_since_epoch();
@@ -100,7 +94,7 @@ void ULoop::open()
 
 void ULoop::close()
 {
-    // A running loop has nothing left to wait for.
+    // A loop whose queue is closed under it would never hear of its end.
     quit();
     UEvent* newest = mNewest.exchange(Closed, std::memory_order_acq_rel);
     destroyAll(std::exchange(mPass, nullptr));
@@ -194,7 +188,7 @@ void ULoop::advance(std::uint64_t milliseconds)
 {
     if (!mIsClockManual)
         return;
-    const std::uint64_t end = later(mManualTime, milliseconds);
+    const std::uint64_t end = mManualTime + milliseconds;
     while (!mQuit && !mTimers.empty() && mTimers.begin()->first.first <= end) {
         mManualTime = std::max(mManualTime, mTimers.begin()->first.first);
         processEvents();
@@ -211,8 +205,7 @@ std::int64_t ULoop::timeToNextTimer() const
     if (mIsClockManual)
         return due <= mManualTime ? 0 : -1;
     const std::uint64_t time = now();
-    constexpr std::uint64_t longest = std::numeric_limits<std::int64_t>::max();
-    return due <= time ? 0 : static_cast<std::int64_t>(std::min(due - time, longest));
+    return due <= time ? 0 : static_cast<std::int64_t>(due - time);
 }
 
 void ULoop::runTimers()
@@ -247,7 +240,7 @@ UTimer::~UTimer()
 void UTimer::start()
 {
     stop();
-    schedule(later(ULoop::instance().now(), std::max(mInterval, 1ULL)));
+    schedule(ULoop::instance().now() + step());
 }
 
 void UTimer::stop()
@@ -256,6 +249,13 @@ void UTimer::stop()
         return;
     ULoop::instance().mTimers.erase(mKey);
     mIsRunning = false;
+}
+
+std::uint64_t UTimer::step() const
+{
+    // A longer interval never ends either, and no sum of times wraps.
+    constexpr unsigned long long longest = 1ULL << 62;
+    return std::clamp(mInterval, 1ULL, longest);
 }
 
 void UTimer::schedule(std::uint64_t due)
@@ -274,11 +274,8 @@ void UTimer::fire(std::uint64_t now)
     if (!agent)
         return;
     // Set up first: the handler may stop, restart or delete this timer.
-    if (!mIsSingleShot) {
-        const std::uint64_t step = std::max(mInterval, 1ULL);
-        const std::uint64_t next = later(due, step);
-        schedule(next > now ? next : later(now, step));
-    }
+    if (!mIsSingleShot)
+        schedule(due + step() > now ? due + step() : now + step());
     UTimerEvent event(mId);
     agent->timerEvent(&event);
 }

@@ -38,8 +38,8 @@ public:
     /// Opens a closed queue again, for a new application.
     void open();
 
-    /// Closes the queue and destroys what waits in it, for an application that ends without a loop; a loop that
-    /// runs ends after the event in hand.
+    /// Closes the queue and destroys what waits in it, for an application that ends without a loop. Inside
+    /// exec() it ends that too.
     void close();
 
     /// Stops the clock, so that only advance() moves it; or lets it run again.
@@ -104,6 +104,7 @@ public:
 private:
     friend class ULoop;
 
+    std::uint64_t step() const;
     void schedule(std::uint64_t due);
     void fire(std::uint64_t now);
 
