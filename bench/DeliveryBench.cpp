@@ -90,7 +90,8 @@ double oneByOne(const std::string& mode, long posts)
         }
         time = nowInNanoseconds() - begin;
     });
-    Report::addFigure(mode, "sleeps of the worker for each single delivery", listener.sleepsForEachDelivery(), "", 1.01);
+    Report::addFigure(
+        mode, "sleeps of the worker for each single delivery", listener.sleepsForEachDelivery(), "", 1.01);
     return time / static_cast<double>(posts);
 }
 

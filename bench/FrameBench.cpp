@@ -138,8 +138,7 @@ void registerFrameBenchmarks(const std::string& mode)
     };
     ratio("synchronous call, 1 caller", Calls, limit(1.1), [] { return synchronousCalls(1, Calls, false); });
     ratio("synchronous call, 4 callers", Calls, limit(1.1), [] { return synchronousCalls(4, Calls / 4, false); });
-    ratio("synchronous call, 4 callers of one handle", Calls, 0,
-        [] { return synchronousCalls(4, Calls / 4, true); });
+    ratio("synchronous call, 4 callers of one handle", Calls, 0, [] { return synchronousCalls(4, Calls / 4, true); });
     ratio("asynchronous call, 1 thread", Posts, limit(0.03), [] { return asynchronousCalls(1, Posts); });
     ratio("asynchronous call, 4 threads", Posts, 0, [] { return asynchronousCalls(4, Posts / 4); });
 }

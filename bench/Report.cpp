@@ -30,10 +30,10 @@ double median(std::vector<double> values)
 
 void add(const std::string& mode, const std::string& name, const std::string& unit, double limit, double value)
 {
-    auto found = std::find_if(gEntries.begin(), gEntries.end(),
-        [&](const Entry& entry) { return entry.mode == mode && entry.name == name; });
+    auto found = std::find_if(
+        gEntries.begin(), gEntries.end(), [&](const Entry& entry) { return entry.mode == mode && entry.name == name; });
     if (found == gEntries.end())
-        found = gEntries.insert(gEntries.end(), Entry {mode, name, unit, limit, {}});
+        found = gEntries.insert(gEntries.end(), Entry{mode, name, unit, limit, {}});
     found->values.push_back(value);
 }
 

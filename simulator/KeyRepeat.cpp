@@ -7,8 +7,10 @@ namespace Simulator {
 
 namespace {
 
-// Keyboards repeat every 20 to 60 ms; fingers are slower, and pasted characters come at once.
-constexpr std::chrono::milliseconds ShortestRepeat{10};
+// A keyboard begins to repeat after this time, and then does so every 20 to 60 ms. Fingers are slower, and what a
+// program types comes at any pace, but not in this pattern.
+constexpr std::chrono::milliseconds ShortestDelay{150};
+constexpr std::chrono::milliseconds LongestDelay{1000};
 constexpr std::chrono::milliseconds LongestRepeat{80};
 
 }
@@ -16,11 +18,13 @@ constexpr std::chrono::milliseconds LongestRepeat{80};
 std::vector<KeyRepeat::Stroke> KeyRepeat::typed(int key, Clock::time_point now)
 {
     const auto gap = now - std::exchange(mLastTime, now);
-    if (mKey == key && gap >= ShortestRepeat && gap <= LongestRepeat) {
+    const bool isSame = std::exchange(mLastKey, key) == key;
+    if (mKey && isSame && mMayRepeat && gap <= LongestRepeat) {
         if (std::exchange(mIsHeld, true))
             return {};
         return {{key, UGlobal::KeyHeld}};
     }
+    mMayRepeat = isSame && gap >= ShortestDelay && gap <= LongestDelay;
     std::vector<Stroke> strokes;
     if (mKey)
         strokes.push_back({*mKey, UGlobal::KeyReleased});

@@ -9,7 +9,8 @@
 namespace Simulator {
 
 /// Makes presses, holds and releases from the characters of a terminal, which has no releases: a key counts as
-/// released when it has not come again for a moment, and as held when it repeats as fast as a keyboard does.
+/// released when it has not come again for a moment, and as held when it repeats as a keyboard does: again after a
+/// while, and then faster than fingers.
 class KeyRepeat {
 public:
     using Clock = std::chrono::steady_clock;
@@ -31,8 +32,10 @@ public:
 
 private:
     std::optional<int> mKey; // the one that is down
-    bool mIsHeld = false;
+    int mLastKey = 0;
     Clock::time_point mLastTime;
+    bool mMayRepeat = false; // the last key came after the delay with which keyboards begin to repeat
+    bool mIsHeld = false;
 };
 
 }

@@ -14,7 +14,7 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::chrono::seconds AnswerLimit{30};
+constexpr std::chrono::seconds AnswerLimit{20};
 constexpr std::chrono::seconds SettleLimit{5};
 constexpr std::chrono::milliseconds Quiet{120};
 

@@ -9,6 +9,8 @@
 #include "TerminalView.h"
 #include "UsageError.h"
 
+#include <chrono>
+#include <cstdlib>
 #include <iostream>
 #include <sstream>
 #include <unistd.h>
@@ -31,6 +33,20 @@ Phone::Settings phoneSettings(const Options& options)
     return settings;
 }
 
+/// Ends a phonelet for which nobody waits at a terminal. One that hangs must not keep a script running for ever.
+void end(Phone& phone)
+{
+    constexpr int attempts = 10; // a phonelet may run its loop several times
+    for (int attempt = 0; attempt < attempts && !phone.watch().hasEnded(); ++attempt) {
+        phone.quit();
+        phone.watch().waitFor([](const Snapshot&) { return false; }, std::chrono::seconds(1));
+    }
+    if (phone.watch().hasEnded())
+        return;
+    std::cerr << "phone: the phonelet does not end" << std::endl;
+    std::_Exit(Failure);
+}
+
 int runTerminal(const Options& options, const Phonelet& phonelet)
 {
     SignalWatch signals;
@@ -46,6 +62,7 @@ int runScript(const Options& options, const Script& script, const Phonelet& phon
     int failures = 0;
     phone.run(phonelet, [&](Phone& driven) {
         failures = ScriptRunner(driven, {options.patience, options.scale}, std::cout, std::cerr).run(script);
+        end(driven);
     });
     return failures == 0 ? Success : Failure;
 }
@@ -60,6 +77,7 @@ int runOnce(const Options& options, const Phonelet& phonelet)
             std::cout << snapshot.text << std::flush;
         if (!options.shot.empty())
             writePicture(drawPicture(snapshot.screen, options.scale), options.shot);
+        end(driven);
     });
     return Success;
 }

@@ -6,11 +6,13 @@
 #include <atomic>
 #include <clocale>
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <langinfo.h>
 #include <ncurses.h>
+#include <string>
 #include <sys/ioctl.h>
 #include <term.h>
 #include <termios.h>
@@ -31,7 +33,7 @@ struct sigaction gOldActions[crashSignals.size()];
 void append(const char* capability)
 {
     // Cursor visible, ordinary screen: the texts that the terminal description gives, without its delays.
-    if (capability && capability != reinterpret_cast<char*>(-1))
+    if (capability && reinterpret_cast<std::intptr_t>(capability) != -1)
         std::strncat(gLeaveText, capability, sizeof gLeaveText - std::strlen(gLeaveText) - 1);
 }
 
@@ -61,6 +63,20 @@ void releaseCrashes()
         sigaction(crashSignals[index], &gOldActions[index], nullptr);
 }
 
+// newterm() would tell as well, but leaves memory behind when it fails.
+void requireDescription()
+{
+    const char* variable = std::getenv("TERM");
+    const std::string kind = std::string("the terminal \"") + (variable ? variable : "") + "\"";
+    int found = 0;
+    if (setupterm(nullptr, STDOUT_FILENO, &found) != OK)
+        throw UsageError("no description of " + kind + "; set TERM");
+    const bool canPlaceText = tigetstr("cup") != nullptr;
+    del_curterm(cur_term);
+    if (!canPlaceText)
+        throw UsageError(kind + " can't show a full screen; try --tour");
+}
+
 void chooseCharacterSet()
 {
     if (std::setlocale(LC_CTYPE, "") && std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
@@ -76,11 +92,10 @@ TerminalSession::TerminalSession()
     chooseCharacterSet();
     if (tcgetattr(STDIN_FILENO, &gSettings) != 0)
         throw UsageError("standard input is no terminal");
+    requireDescription();
     SCREEN* screen = newterm(nullptr, stdout, stdin);
-    if (!screen) {
-        const char* kind = std::getenv("TERM");
-        throw UsageError(std::string("no description of the terminal \"") + (kind ? kind : "") + "\"; set TERM");
-    }
+    if (!screen)
+        throw UsageError("the terminal can't be used");
     set_term(screen);
     gLeaveText[0] = '\0';
     append(tigetstr("sgr0"));

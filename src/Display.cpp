@@ -4,11 +4,13 @@
 #include <DisplayAPI/Widget.h>
 
 #include "DisplayPrivate.h"
+#include "LivingSet.h"
 #include "PostToApplication.h"
 
 #include <Semaphore.h>
 
 #include <cstdlib>
+#include <functional>
 
 namespace DisplayAPI {
 
@@ -24,7 +26,20 @@ int twoDigits(const std::string& time, std::size_t position)
     return position < time.size() ? std::atoi(time.substr(position, 2).c_str()) : 0;
 }
 
+// Never destroyed: threads may post to a display while the process ends.
+LivingSet<Display>& livingHandles()
+{
+    static LivingSet<Display>& instance = *new LivingSet<Display>;
+    return instance;
 }
+
+}
+
+/// Where a screen text goes from the GUI thread to the one that asked for it.
+struct Display::TextHandover {
+    Semaphore lock{Semaphore::AVAILABLE, 1};
+    std::string text;
+};
 
 Display::Display(
     std::string name, std::string locale, std::string dateFormat, std::string timeFormat, bool server, Rect* area)
@@ -52,6 +67,7 @@ Display::Display(std::string applicationName, std::string name, PhysDefs::hardwa
 
 Display::~Display()
 {
+    livingHandles().remove(this);
     // First let everybody go who still waits for this display.
     if (mApplication && mApplication == VantoUApplication::getCurrentApplication())
         mApplication->closeEventQueue();
@@ -59,9 +75,10 @@ Display::~Display()
 
 void Display::init(DisplayPrivateIfc* displayPrivate)
 {
+    livingHandles().add(this);
     mApplication = VantoUApplication::getCurrentApplication();
     mPrivate.reset(displayPrivate);
-    mSerialisedTextLock = std::make_unique<Semaphore>(Semaphore::AVAILABLE, 1);
+    mHandover = std::make_shared<TextHandover>();
 }
 
 bool Display::postEvent(DisplayRequestEvent* event)
@@ -171,14 +188,16 @@ std::string Display::serialiseByRect(const std::vector<Rect>& rects, std::string
 
 std::string Display::fetchText(DisplayRequestEvent* event)
 {
+    // Kept here: once the request has run, the display may go before this thread runs again.
+    const std::shared_ptr<TextHandover> handover = mHandover;
     if (!postEvent(event))
         return {};
     // The handler has taken the lock for this thread, so that no other text replaces this one.
     struct Guard {
         ~Guard() { lock.give(); }
         Semaphore& lock;
-    } guard{*mSerialisedTextLock};
-    return mSerialisedText;
+    } guard{handover->lock};
+    return handover->text;
 }
 
 std::vector<Rect>* Display::getDisplayedRects()
@@ -434,8 +453,15 @@ void Display::callShowFPKBarMethodFromAdminPhonelet()
 
 // The road of the requests
 
+bool Display::exists(const Display* display)
+{
+    return display && livingHandles().contains(display);
+}
+
 void Display::processDisplayRequest(DisplayRequestEvent* event)
 {
+    if (!event)
+        return;
     runRequest(*event);
     event->requestCompleted();
 }
@@ -459,18 +485,15 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::LocaleChanged: localeChanged(text); break;
     case Event::DateFormatChanged: dateFormatChanged(text); break;
     case Event::TimeFormatChanged: timeFormatChanged(text); break;
-    case Event::Serialise:
-        // Given back by the caller, once it has its copy.
-        mSerialisedTextLock->take(-1);
-        mSerialisedText = serialise();
-        break;
+    case Event::Serialise: storeText([this] { return serialise(); }); break;
     case Event::CreateServerDisplay: createServerDisplay(event.getDisplayable()); break;
     case Event::SetMaximised: setMaximised(flag); break;
     case Event::GetDisplayedRects: event.setDisplayedRects(getDisplayedRects()); break;
     case Event::SerialiseByRect:
-        mSerialisedTextLock->take(-1);
-        mSerialisedText
-            = serialiseByRect(event.getSerialisableRects() ? *event.getSerialisableRects() : std::vector<Rect>(), text);
+        storeText([&] {
+            const std::vector<Rect>* rects = event.getSerialisableRects();
+            return serialiseByRect(rects ? *rects : std::vector<Rect>(), text);
+        });
         break;
     case Event::Unassigned: break;
     case Event::SetSystemWindowSize: setSystemWindowSize(number); break;
@@ -506,6 +529,18 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::ShiftChangeEventForCertainFPKey: mPrivate->shiftChangeEventForCertainFPKey(flag, number); break;
     case Event::CallShowFPKBarMethodFromAdminPhonelet: mPrivate->callShowFPKBarMethodFromAdminPhonelet(); break;
     case Event::SetRingerVolumeBarLimit: mPrivate->setRingerVolumeBarLimit(number); break;
+    }
+}
+
+/// The caller gives the lock back, once it has its copy; unless there is no text to copy.
+void Display::storeText(const std::function<std::string()>& read)
+{
+    mHandover->lock.take(-1);
+    try {
+        mHandover->text = read();
+    } catch (...) {
+        mHandover->lock.give();
+        throw;
     }
 }
 

@@ -89,29 +89,30 @@ void Widget::setGuiThreadId(unsigned int id)
 
 void Widget::postEvent(GuiRequestEvent* event) const
 {
-    Semaphore& lock = mImpl->lock;
-    lock.take(-1);
+    // Behind the wait for the lock the handle itself may have gone: its event is made before, and its impl stays.
     if (!event)
         event = GuiRequestEvent::forHandle(this, -1);
+    WidgetImpl& impl = *mImpl;
+    impl.lock.take(-1);
 
     if (Wait* callersWait = event->waitCondition()) {
-        send(event);
-        lock.give();
+        send(*event, impl);
+        impl.lock.give();
         callersWait->wait();
         return;
     }
     Wait wait;
     event->setWaitCondition(&wait);
-    send(event);
+    send(*event, impl);
     wait.wait();
-    lock.give();
+    impl.lock.give();
 }
 
-// The caller holds the lock.
-void Widget::send(GuiRequestEvent* event) const
+// The caller holds the lock of the impl.
+void Widget::send(GuiRequestEvent& event, WidgetImpl& impl)
 {
-    event->countAsPosted(*mImpl);
-    postToApplication(event);
+    event.countAsPosted(impl);
+    postToApplication(&event);
 }
 
 void Widget::postEvent(int type) const
@@ -121,12 +122,13 @@ void Widget::postEvent(int type) const
 
 void Widget::postEventAsync(GuiRequestEvent* event) const
 {
-    Semaphore& lock = mImpl->lock;
-    lock.take(-1);
+    // Behind the wait for the lock the handle itself may have gone: its event is made before, and its impl stays.
     if (!event)
         event = GuiRequestEvent::forHandle(this, -1);
-    send(event);
-    lock.give();
+    WidgetImpl& impl = *mImpl;
+    impl.lock.take(-1);
+    send(*event, impl);
+    impl.lock.give();
 }
 
 void Widget::postEventAsync(int type) const
@@ -136,8 +138,11 @@ void Widget::postEventAsync(int type) const
 
 void Widget::postEventHelper(bool async, GuiRequestEvent* event)
 {
+    if (!event)
+        event = new GuiRequestEvent(this, -1);
     if (isGuiThread()) {
         std::unique_ptr<GuiRequestEvent> owned(event);
+        event->freeOwned(false); // the handler takes the copies over
         processGuiRequest(*event);
     } else if (async) {
         postEventAsync(event);

@@ -70,7 +70,7 @@ protected:
 private:
     friend class GuiRequestEvent;
 
-    void send(GuiRequestEvent* event) const;
+    static void send(GuiRequestEvent& event, WidgetImpl& impl);
 
     WidgetImpl* mImpl; // counted: shared with the events that name this handle
 };

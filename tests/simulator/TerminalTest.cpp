@@ -12,6 +12,7 @@
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utility>
 #include <utmp.h>
 
 namespace {
@@ -26,12 +27,18 @@ protected:
             kill(mChild, SIGKILL);
             waitpid(mChild, nullptr, 0);
         }
-        close(mMaster);
-        close(mSlave);
+        closeTerminal();
+    }
+
+    void closeTerminal()
+    {
+        close(std::exchange(mMaster, -1));
+        close(std::exchange(mSlave, -1));
+        mSent.clear();
     }
 
     /// Starts the program in a terminal of this size.
-    void start(unsigned short columns, unsigned short lines)
+    void start(unsigned short columns, unsigned short lines, const char* kind = "xterm-256color")
     {
         winsize size{lines, columns, 0, 0};
         ASSERT_EQ(openpty(&mMaster, &mSlave, nullptr, nullptr, &size), 0);
@@ -39,7 +46,7 @@ protected:
         mChild = fork();
         if (mChild == 0) {
             login_tty(mSlave);
-            setenv("TERM", "xterm-256color", 1);
+            setenv("TERM", kind, 1);
             setenv("LC_ALL", "C", 1);
             execl(PROJECT_BINARY_DIR "/bin/phone", "phone", static_cast<char*>(nullptr));
             _exit(127);
@@ -145,12 +152,21 @@ TEST_F(TerminalTest, ASignalGivesTheTerminalBack)
         kill(mChild, signal);
         finish();
         expectTerminalAsBefore();
-        close(mMaster);
-        close(mSlave);
-        mSent.clear();
+        closeTerminal();
     }
-    mMaster = -1;
-    mSlave = -1;
+}
+
+TEST_F(TerminalTest, ATerminalThatCannotBeUsedIsRefused)
+{
+    for (const auto& [kind, reason] :
+        {std::pair("nonexistent", "phone: no description of the terminal \"nonexistent\""),
+            std::pair("dumb", "phone: the terminal \"dumb\" can't show a full screen")}) {
+        start(90, 24, kind);
+        while (readMore(30000) && mSent.find('\n') == std::string::npos) { }
+        EXPECT_NE(mSent.find(reason), std::string::npos) << mSent;
+        EXPECT_EQ(WEXITSTATUS(finish()), 2) << kind;
+        closeTerminal();
+    }
 }
 
 }

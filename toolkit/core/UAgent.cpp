@@ -9,6 +9,9 @@ UAgent::~UAgent()
     if (UAgent* listener = mListener) {
         unlinkFromListener();
         listener->removeEmitter(this);
+        // It may have found another one for an agent that is going.
+        if (mListener)
+            unlinkFromListener();
     }
     while (UAgent* emitter = mEmitters) {
         emitter->removeListener(this);
@@ -30,17 +33,19 @@ void UAgent::setListener(UAgent* listener)
 {
     if (listener == mListener)
         return;
-    if (UAgent* old = mListener) {
+    UAgent* old = mListener;
+    if (old)
         unlinkFromListener();
-        old->removeEmitter(this);
+    if (listener) {
+        mListener = listener;
+        mNextEmitter = listener->mEmitters;
+        if (mNextEmitter)
+            mNextEmitter->mPreviousEmitter = this;
+        listener->mEmitters = this;
     }
-    if (!listener)
-        return;
-    mListener = listener;
-    mNextEmitter = listener->mEmitters;
-    if (mNextEmitter)
-        mNextEmitter->mPreviousEmitter = this;
-    listener->mEmitters = this;
+    // Told last: it may name another listener for this agent, or delete either of them.
+    if (old)
+        old->removeEmitter(this);
 }
 
 void UAgent::removeListener(UAgent* listener)

@@ -8,6 +8,7 @@
 #include <cassert>
 #include <chrono>
 #include <limits>
+#include <memory>
 #include <sched.h>
 #include <utility>
 
@@ -57,14 +58,21 @@ int ULoop::exec()
     open();
     mIsExecuting = true;
     mQuit = false;
+    // On every way out, an exception of an event included: nobody may wait for a loop that doesn't run.
+    struct End {
+        ~End()
+        {
+            loop.mIsExecuting = false;
+            loop.mQuit = false;
+            loop.close();
+        }
+        ULoop& loop;
+    } end{*this};
     while (!mQuit) {
         processEvents();
         if (!mQuit)
             sleep();
     }
-    mIsExecuting = false;
-    mQuit = false;
-    close();
     return 0;
 }
 
@@ -86,6 +94,8 @@ void ULoop::open()
 
 void ULoop::close()
 {
+    // A loop whose queue is closed under it would never hear of its end.
+    quit();
     UEvent* newest = mNewest.exchange(Closed, std::memory_order_acq_rel);
     destroyAll(std::exchange(mPass, nullptr));
     if (newest != Sleeping && newest != Closed)
@@ -130,10 +140,9 @@ void ULoop::runQueue()
 {
     fetchQueue();
     while (mPass && !mQuit) {
-        UEvent* event = mPass;
+        const std::unique_ptr<UEvent> event(mPass);
         mPass = event->mNext;
         event->process();
-        delete event;
     }
 }
 
@@ -180,7 +189,7 @@ void ULoop::advance(std::uint64_t milliseconds)
     if (!mIsClockManual)
         return;
     const std::uint64_t end = mManualTime + milliseconds;
-    while (!mTimers.empty() && mTimers.begin()->first.first <= end) {
+    while (!mQuit && !mTimers.empty() && mTimers.begin()->first.first <= end) {
         mManualTime = std::max(mManualTime, mTimers.begin()->first.first);
         processEvents();
     }
@@ -231,7 +240,7 @@ UTimer::~UTimer()
 void UTimer::start()
 {
     stop();
-    schedule(ULoop::instance().now() + std::max(mInterval, 1ULL));
+    schedule(ULoop::instance().now() + step());
 }
 
 void UTimer::stop()
@@ -240,6 +249,13 @@ void UTimer::stop()
         return;
     ULoop::instance().mTimers.erase(mKey);
     mIsRunning = false;
+}
+
+std::uint64_t UTimer::step() const
+{
+    // A longer interval never ends either, and no sum of times wraps.
+    constexpr unsigned long long longest = 1ULL << 62;
+    return std::clamp(mInterval, 1ULL, longest);
 }
 
 void UTimer::schedule(std::uint64_t due)
@@ -258,10 +274,8 @@ void UTimer::fire(std::uint64_t now)
     if (!agent)
         return;
     // Set up first: the handler may stop, restart or delete this timer.
-    if (!mIsSingleShot) {
-        const std::uint64_t step = std::max(mInterval, 1ULL);
-        schedule(due + step > now ? due + step : now + step);
-    }
+    if (!mIsSingleShot)
+        schedule(due + step() > now ? due + step() : now + step());
     UTimerEvent event(mId);
     agent->timerEvent(&event);
 }

@@ -26,7 +26,7 @@ public:
     void post(UEvent* event);
 
     /// Opens the queue and runs until quit(); then closes the queue and destroys what is left in it. Must not
-    /// be called again from inside itself.
+    /// be called again from inside itself. An exception of an event ends it too, and comes out.
     int exec();
 
     /// Ends exec() after the event in hand; without effect outside of it. Threads: GUI thread.
@@ -38,7 +38,8 @@ public:
     /// Opens a closed queue again, for a new application.
     void open();
 
-    /// Closes the queue and destroys what waits in it, for an application that ends without a loop.
+    /// Closes the queue and destroys what waits in it, for an application that ends without a loop. Inside
+    /// exec() it ends that too.
     void close();
 
     /// Stops the clock, so that only advance() moves it; or lets it run again.
@@ -103,6 +104,7 @@ public:
 private:
     friend class ULoop;
 
+    std::uint64_t step() const;
     void schedule(std::uint64_t due);
     void fire(std::uint64_t now);
 

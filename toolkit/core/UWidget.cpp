@@ -4,8 +4,10 @@
 
 UWidget::UWidget(UWidget* parent)
 {
-    if (parent)
-        link(parent);
+    if (!parent)
+        return;
+    link(parent);
+    UWindowManager::instance().repaint();
 }
 
 UWidget::~UWidget()

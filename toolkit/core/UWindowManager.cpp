@@ -141,26 +141,46 @@ UWidget* UWindowManager::focusWidget() const
 bool UWindowManager::dispatchKey(UKeyEvent& key)
 {
     const std::vector<UWidget*> candidates = focusCandidates();
-    if (candidates.empty())
-        return false;
-    if (key.state() != UGlobal::KeyPressed) {
-        UWidget* owner = mPressOwner.get();
-        if (key.state() == UGlobal::KeyReleased)
-            mPressOwner = nullptr;
-        return owner && owner == candidates.front() && owner->keyEvent(&key);
-    }
-
     // A handler may delete any widget, also the one that comes next.
-    const bool isFirstPassive = candidates.front()->isPassive();
-    UPointer<UWidget> next = isFirstPassive && candidates.size() > 1 ? candidates[1] : nullptr;
-    mPressOwner = candidates.front();
-    if (candidates.front()->keyEvent(&key))
+    UPointer<UWidget> first = candidates.empty() ? nullptr : candidates.front();
+    UPointer<UWidget> next = first && first->isPassive() && candidates.size() > 1 ? candidates[1] : nullptr;
+    if (key.state() == UGlobal::KeyPressed)
+        return press(first.get(), key) || press(next.get(), key);
+
+    UWidget* owner = takePress(key);
+    if (!owner || (owner != first.get() && owner != next.get()))
+        return false;
+    return owner->keyEvent(&key);
+}
+
+bool UWindowManager::press(UWidget* widget, UKeyEvent& key)
+{
+    constexpr std::size_t mostFingers = 16;
+    const int code = key.key();
+    auto isThisKey = [code](const Press& press) { return press.key == code; };
+    std::erase_if(mPresses, isThisKey);
+    if (!widget)
+        return false;
+    // A telephone that loses releases must not fill the memory.
+    if (mPresses.size() == mostFingers)
+        mPresses.erase(mPresses.begin());
+    mPresses.push_back({code, widget});
+    if (widget->keyEvent(&key))
         return true;
-    mPressOwner = next.get();
-    if (next && next->keyEvent(&key))
-        return true;
-    mPressOwner = nullptr;
+    std::erase_if(mPresses, isThisKey);
     return false;
+}
+
+UWidget* UWindowManager::takePress(const UKeyEvent& key)
+{
+    const auto found
+        = std::find_if(mPresses.begin(), mPresses.end(), [&key](const Press& press) { return press.key == key.key(); });
+    if (found == mPresses.end())
+        return nullptr;
+    UWidget* owner = found->owner.get();
+    if (key.state() == UGlobal::KeyReleased)
+        mPresses.erase(found);
+    return owner;
 }
 
 const UWidget* UWindowManager::shownWidget(int role) const
@@ -244,8 +264,11 @@ void UWindowManager::paintTree(UWidget& widget, UPainter& painter) const
     widget.paint(painter);
     if (widget.paintsChildren())
         return;
-    for (UWidget* child = widget.firstChild(); child; child = child->nextSibling())
-        paintTree(*child, painter);
+    for (UWidget* child = widget.firstChild(); child; child = child->nextSibling()) {
+        // A popup is painted where it stands among those that are up, and not at all while it is down.
+        if (child->layer() != UWidget::Layer::Popup)
+            paintTree(*child, painter);
+    }
 }
 
 void UWindowManager::widgetDies(UWidget* widget)

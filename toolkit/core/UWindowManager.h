@@ -60,7 +60,8 @@ public:
     UWidget* focusWidget() const;
 
     /// Hands a key to the focus widget; a key that a passive popup does not take goes to the next one. A hold or
-    /// a release goes only to the widget that took the press, while it has the focus. Returns whether it was used.
+    /// a release goes only to the widget that took the press of that key, while it would get a press too.
+    /// Returns whether the key was used.
     bool dispatchKey(UKeyEvent& key);
 
     /// A shown widget of a UWidget::Role, or null.
@@ -91,7 +92,15 @@ private:
         const UWidget* boundTo = nullptr; // the screen that was on top when it came up
     };
 
+    /// A key that is down.
+    struct Press {
+        int key = 0;
+        UPointer<UWidget> owner; // who took the press
+    };
+
     UWindowManager() = default;
+    bool press(UWidget* widget, UKeyEvent& key);
+    UWidget* takePress(const UKeyEvent& key);
     bool isShown(const Popup& popup) const;
     UWidget* topScreen() const;
     std::vector<UWidget*> focusCandidates() const;
@@ -102,7 +111,7 @@ private:
 
     UPointer<UWidget> mRoot;
     UPointer<UWidget> mFocusRequest;
-    UPointer<UWidget> mPressOwner;
+    std::vector<Press> mPresses;
     std::vector<Popup> mPopups;
     std::vector<UWidget*> mOverlays;
     UScreenWE1* mScreen = nullptr;
