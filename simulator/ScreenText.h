@@ -2,12 +2,16 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Simulator {
 
 /// True when a line of the screen text is `wanted`: either the whole line, such as "caption:Speaker", or what
 /// stands behind its key, such as "Speaker". Blanks around both do not count; `*` stands for any characters.
 bool containsField(const std::string& screenText, std::string_view wanted);
+
+/// The lines that hold a value; those of a subitem stand two blanks to the right.
+std::vector<std::string> fieldLines(const std::string& screenText);
 
 /// The screen text in one line, for messages.
 std::string inOneLine(const std::string& screenText);

@@ -2,6 +2,7 @@
 
 #include "BlockDrawing.h"
 #include "Phone.h"
+#include "ScreenText.h"
 #include "SignalWatch.h"
 #include "TerminalSession.h"
 
@@ -14,7 +15,6 @@
 #include <cwchar>
 #include <ncurses.h>
 #include <poll.h>
-#include <sstream>
 #include <sys/eventfd.h>
 #include <unistd.h>
 #include <utility>
@@ -30,6 +30,7 @@ constexpr int LowestTerminal = 19; // frame, sixteen lines and the keys
 constexpr short GlassColours = 1;
 constexpr short FrameColours = 2;
 constexpr int ControlC = 3;
+constexpr int ControlL = 12;
 constexpr const char* Help = "Arrows  Enter OK  0-9 * #  Backspace left  Del clear  F1-F8   q leaves";
 
 void setColours()
@@ -154,6 +155,8 @@ TerminalView::Command TerminalView::handleKeys()
     for (int key = getch(); key != ERR; key = getch()) {
         if (key == 'q' || key == 'Q' || key == ControlC)
             return Command::Leave;
+        if (key == ControlL)
+            clearok(curscr, TRUE); // draws everything anew, for a terminal that something else has written on
         if (const int code = telephoneKey(key))
             post(mRepeat.typed(code, KeyRepeat::Clock::now()));
     }
@@ -222,9 +225,8 @@ void TerminalView::drawText(const std::string& text, int lineBelow) const
     attrset(A_BOLD);
     write(line++, left, "Screen text", width);
     attrset(A_NORMAL);
-    std::istringstream lines(text);
-    for (std::string row; line < LINES && std::getline(lines, row);) {
-        if (!row.empty())
+    for (const std::string& row : fieldLines(text)) {
+        if (line < LINES)
             write(line++, left, row, width);
     }
 }

@@ -70,12 +70,11 @@ private:
     int mPointers = 0;
 };
 
-/// A request of a handle with its arguments in their slots. A const operation posts through it too: the GUI
-/// thread runs the request on the same handle.
+/// A request of a handle with its arguments in their slots, to be posted by that handle.
 template <typename Request, typename... Arguments>
 GuiRequestEvent* makeRequest(const Widget* requester, Request request, Arguments&&... arguments)
 {
-    auto* event = new GuiRequestEvent(const_cast<Widget*>(requester), static_cast<int>(request));
+    auto* event = GuiRequestEvent::forHandle(requester, static_cast<int>(request));
     RequestSlots slots(*event);
     (slots.fill(std::forward<Arguments>(arguments)), ...);
     return event;

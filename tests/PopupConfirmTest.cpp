@@ -136,7 +136,7 @@ TEST_F(PopupConfirmTest, AChangeOfLocaleReadsTheTranslationsAndTheChoicesAgain)
 
     dictionary.words = {{"delete", "Supprimer"}, {"entry", "entrée"}, {"really", "Vraiment"}, {"ok", "Oui"}};
     display->localeChanged("fr");
-    EXPECT_EQ(screenField("caption"), "<Supprimer>: entrée Vraiment ") << "each text in its own line";
+    EXPECT_EQ(screenField("caption"), "<Supprimer>: entrée Vraiment") << "each text in its own line";
     press(UGlobal::KeyDown);
     EXPECT_EQ(screenField("string0"), "Oui?");
     press(UGlobal::KeyUp);

@@ -39,8 +39,8 @@ private:
     DisplayAPI::MenuCommand mYes{"Yes", 1};
     DisplayAPI::MenuCommand mNo{"No", 2};
 
-    // These belong to the worker threads.
-    std::vector<std::string> mNames{"Speaker", "HeadSet", "Handset", "Bluetooth"};
-    int mUsed = 0;
-    int mAskedFor = 0;
+    // What stands here is used by one delivery at a time.
+    std::vector<Output> mOutputs;
+    Output* mUsed = nullptr;
+    Output* mAskedFor = nullptr;
 };

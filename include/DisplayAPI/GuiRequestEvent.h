@@ -27,6 +27,10 @@ public:
     GuiRequestEvent(Widget* requester, Wait* wait, int requestType);
     ~GuiRequestEvent() override;
 
+    /// A request that its own handle will post. Somebody who posts one to the application himself uses a constructor,
+    /// which counts the event from the start.
+    static GuiRequestEvent* forHandle(const Widget* requester, int requestType);
+
     /// Runs the request, unless its handle has been retired.
     void process() override;
 
@@ -85,13 +89,23 @@ private:
         void (*destroy)(void*);
         Owned* next;
     };
+    /// How the event holds the lock and the mark of its handle.
+    enum class Hold : unsigned char {
+        None,
+        Counted,
+        Posted,
+    };
+
+    GuiRequestEvent(Widget* requester, Wait* wait, int requestType, Hold hold);
+    void countAsPosted(WidgetImpl& poster);
     void freeOwned(bool withObjects);
 
     Widget* mRequester;
-    WidgetImpl* mImpl; // counted; null without a requester
+    WidgetImpl* mImpl; // null without a requester
     Wait* mWait;
     Owned* mOwned = nullptr;
     int mRequestType;
+    Hold mHold;
     bool mIsAnswered = false;
 };
 

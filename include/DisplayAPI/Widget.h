@@ -70,6 +70,8 @@ protected:
 private:
     friend class GuiRequestEvent;
 
+    static void send(GuiRequestEvent* event, WidgetImpl& impl);
+
     WidgetImpl* mImpl; // counted: shared with the events that name this handle
 };
 

@@ -93,16 +93,16 @@ TEST_F(ScriptRunnerTest, EachFailedStepGivesALineAndTheOthersArePlayed)
 
 TEST_F(ScriptRunnerTest, TheClockMovesOnlyWithTheScript)
 {
-    const Phonelet withMessage = [](DisplayAPI::Display& display) {
-        display.setStatusMessage("Maintenance tonight", 5);
+    const Phonelet withVolume = [](DisplayAPI::Display& display) {
+        display.setPreviewVolume(2, 5, 0, 10, 0);
         shortList(display);
     };
-    EXPECT_EQ(play("expect *Maintenance tonight\n"
-                   "advance 4999ms\n"
-                   "expect *Maintenance tonight\n"
+    EXPECT_EQ(play("expect name:VolumeIndicator\n"
+                   "advance 2999ms\n"
+                   "expect name:VolumeIndicator\n"
                    "advance 1ms\n"
-                   "expect-not *Maintenance tonight\n",
-                  withMessage),
+                   "expect-not name:VolumeIndicator\n",
+                  withVolume),
         0)
         << mErrors.str();
 }

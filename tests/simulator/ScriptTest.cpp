@@ -88,7 +88,7 @@ TEST(ScriptTest, AnExpectedTextIsAWholeLineOrAWholeValue)
 {
     const std::string screen
         = "object:\nname:VantoListBox\ncaption:Delete entry? Anna \nsubitem:\nstring0: Speaker -> \n"
-          "string1:a:b\nstring2:\nend:\n";
+          "string1:a:b\nstring2:\nendsubitem:\nend:\n";
     const struct {
         const char* wanted;
         bool isFound;
@@ -97,6 +97,8 @@ TEST(ScriptTest, AnExpectedTextIsAWholeLineOrAWholeValue)
         {"Delete entry? Anna", true},
         {"Delete entry", false},
         {"string0: Speaker ->", true},
+        {"string0:Speaker ->", true},
+        {"caption:  Delete entry? Anna", true},
         {"Speaker ->", true},
         {"Speaker", false},
         {"Speaker*", true},
@@ -115,6 +117,9 @@ TEST(ScriptTest, AnExpectedTextIsAWholeLineOrAWholeValue)
     for (const auto& row : rows)
         EXPECT_EQ(containsField(screen, row.wanted), row.isFound) << row.wanted;
     EXPECT_FALSE(containsField("", "*"));
+    EXPECT_EQ(fieldLines(screen),
+        std::vector<std::string>({"name:VantoListBox", "caption:Delete entry? Anna ", "  string0: Speaker -> ",
+            "  string1:a:b", "  string2:"}));
     EXPECT_EQ(inOneLine("object:\n\nend:\n"), "object: | end:");
     EXPECT_EQ(inOneLine(""), "no text");
 }

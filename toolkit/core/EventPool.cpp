@@ -1,6 +1,7 @@
 #include "EventPool.h"
 
 #include <atomic>
+#include <mutex>
 #include <new>
 #include <sched.h>
 
@@ -29,44 +30,66 @@ void EventPool::release(void* block, std::size_t)
 
 namespace {
 
+/// A free block. Blocks change hands in chains, so that a thread meets the shared list once for many events.
 struct Block {
     Block* next;
+    Block* nextChain; // in the first block of a chain that stands in the shared list
 };
 
-constexpr int MaximumBlocks = 1024;
-constexpr int ReturnedAtOnce = 32;
+constexpr int MaximumBlocks = 512;
+constexpr int ChainLength = 16;
+constexpr int PatienceBlocks = 64; // from the heap after a yield that brought none, before the next yield
 
-std::atomic<Block*> gFree = nullptr; // given back, for whoever takes all of it
-std::atomic<int> gBlocks = 0;        // in use or free
+std::atomic<int> gBlocks = 0; // in use or free
 
-void giveBack(Block* first, Block* last)
+/// The free chains, for every thread. Never destroyed: threads may still post at exit.
+struct SharedChains {
+    std::mutex mutex;
+    Block* first = nullptr;
+};
+
+SharedChains& sharedChains()
 {
-    last->next = gFree.load(std::memory_order_relaxed);
-    while (!gFree.compare_exchange_weak(last->next, first, std::memory_order_release, std::memory_order_relaxed)) { }
+    static SharedChains& chains = *new SharedChains;
+    return chains;
 }
 
-/// What a thread has taken and not used yet, and what it has freed and not given back yet. Whole chains
-/// change hands, so the shared list needs no lock and knows no ABA problem.
+void giveChain(Block* chain)
+{
+    SharedChains& shared = sharedChains();
+    std::lock_guard lock(shared.mutex);
+    chain->nextChain = shared.first;
+    shared.first = chain;
+}
+
+Block* takeChain()
+{
+    SharedChains& shared = sharedChains();
+    std::lock_guard lock(shared.mutex);
+    Block* chain = shared.first;
+    if (chain)
+        shared.first = chain->nextChain;
+    return chain;
+}
+
+/// What a thread has taken and not used yet, and what it has freed and not given on yet: a chain each at most.
 struct Cache {
     Block* free = nullptr;
     Block* freed = nullptr;
-    Block* oldestFreed = nullptr;
     int freedCount = 0;
+    int patience = 0;
 
     ~Cache()
     {
-        while (free) {
-            Block* block = free;
-            free = block->next;
-            giveBack(block, block);
-        }
-        returnFreed();
+        if (free)
+            giveChain(free);
+        giveFreed();
     }
 
-    void returnFreed()
+    void giveFreed()
     {
         if (freed)
-            giveBack(freed, oldestFreed);
+            giveChain(freed);
         freed = nullptr;
         freedCount = 0;
     }
@@ -74,16 +97,25 @@ struct Cache {
 
 thread_local Cache tCache;
 
-bool refill(Cache& cache)
-{
-    cache.free = gFree.exchange(nullptr, std::memory_order_acquire);
-    return cache.free != nullptr;
-}
-
 Block* newBlock()
 {
     gBlocks.fetch_add(1, std::memory_order_relaxed);
     return static_cast<Block*>(::operator new(EventPool::BlockSize));
+}
+
+/// The pool is used up: the loop is behind. Once in a while it gets the processor, so that it catches up.
+Block* blockWhenEmpty(Cache& cache)
+{
+    if (gBlocks.load(std::memory_order_relaxed) >= MaximumBlocks && --cache.patience < 0) {
+        sched_yield();
+        if (Block* chain = takeChain()) {
+            cache.patience = 0;
+            cache.free = chain->next;
+            return chain;
+        }
+        cache.patience = PatienceBlocks;
+    }
+    return newBlock();
 }
 
 }
@@ -93,34 +125,32 @@ void* EventPool::allocate(std::size_t size)
     if (size > BlockSize)
         return ::operator new(size);
     Cache& cache = tCache;
-    if (!cache.free && !refill(cache)) {
-        if (gBlocks.load(std::memory_order_relaxed) < MaximumBlocks)
-            return newBlock();
-        sched_yield();
-        if (!refill(cache))
-            return newBlock();
-    }
+    if (!cache.free)
+        cache.free = takeChain();
     Block* block = cache.free;
+    if (!block)
+        return blockWhenEmpty(cache);
     cache.free = block->next;
     return block;
 }
 
 void EventPool::release(void* memory, std::size_t size)
 {
-    if (size > BlockSize || gBlocks.load(std::memory_order_relaxed) > MaximumBlocks) {
-        if (size <= BlockSize)
-            gBlocks.fetch_sub(1, std::memory_order_relaxed);
+    if (size > BlockSize) {
+        ::operator delete(memory);
+        return;
+    }
+    if (gBlocks.load(std::memory_order_relaxed) > MaximumBlocks) {
+        gBlocks.fetch_sub(1, std::memory_order_relaxed);
         ::operator delete(memory);
         return;
     }
     Cache& cache = tCache;
     Block* block = static_cast<Block*>(memory);
     block->next = cache.freed;
-    if (!cache.freed)
-        cache.oldestFreed = block;
     cache.freed = block;
-    if (++cache.freedCount == ReturnedAtOnce)
-        cache.returnFreed();
+    if (++cache.freedCount == ChainLength)
+        cache.giveFreed();
 }
 
 #endif

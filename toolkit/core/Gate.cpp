@@ -1,7 +1,5 @@
 #include "Gate.h"
 
-#include "Disturb.h"
-
 #include <algorithm>
 #include <chrono>
 
@@ -40,6 +38,12 @@ void Gate::open()
     mChanged.notify_one();
 }
 
+bool Gate::isIdle()
+{
+    std::lock_guard lock(mMutex);
+    return mCount == mMaximum && !mAbandoned;
+}
+
 void Gate::abandon()
 {
     std::lock_guard lock(mMutex);
@@ -56,16 +60,6 @@ void Gate::abandon()
 #include <unistd.h>
 
 namespace {
-
-constexpr std::uint32_t CountMask = 0x7FFF;
-constexpr std::uint32_t Abandoned = 0x8000;
-constexpr std::uint32_t OneSleeper = 0x10000;
-
-// The address alone: the object behind it may be gone when the kernel looks for sleepers.
-void wakeOne(std::atomic<std::uint32_t>* word)
-{
-    syscall(SYS_futex, word, FUTEX_WAKE_PRIVATE, 1, nullptr, nullptr, 0);
-}
 
 /// Sleeps while the word has this value, until the deadline. Returns false when the time is up.
 bool sleepOn(std::atomic<std::uint32_t>* word, std::uint32_t value, const timespec* deadline)
@@ -91,20 +85,9 @@ timespec deadlineIn(int milliseconds)
 }
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mWord(std::min({count, maximum, CountMask}))
-    , mMaximum(std::min(maximum, CountMask))
+    : mWord(std::min({count, maximum, +CountMask}))
+    , mMaximum(std::min(maximum, +CountMask))
 {
-}
-
-bool Gate::pass(int milliseconds)
-{
-    disturb();
-    std::uint32_t word = mWord.load(std::memory_order_relaxed);
-    while (word & CountMask) {
-        if (mWord.compare_exchange_weak(word, word - 1, std::memory_order_acquire, std::memory_order_relaxed))
-            return true;
-    }
-    return passSlowly(milliseconds);
 }
 
 bool Gate::passSlowly(int milliseconds)
@@ -134,16 +117,10 @@ bool Gate::passSlowly(int milliseconds)
     }
 }
 
-void Gate::open()
+// The address alone: the object behind it may be gone when the kernel looks for sleepers.
+void Gate::wakeOne(std::atomic<std::uint32_t>* word)
 {
-    disturb();
-    std::uint32_t word = mWord.load(std::memory_order_relaxed);
-    std::uint32_t next;
-    do {
-        next = (word & CountMask) < mMaximum ? word + 1 : word;
-    } while (!mWord.compare_exchange_weak(word, next, std::memory_order_release, std::memory_order_relaxed));
-    if (next >= OneSleeper)
-        wakeOne(&mWord);
+    syscall(SYS_futex, word, FUTEX_WAKE_PRIVATE, 1, nullptr, nullptr, 0);
 }
 
 void Gate::abandon()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Disturb.h"
 #include "Export.h"
 
 #include <atomic>
@@ -33,6 +34,9 @@ public:
     /// Adds a count, unless the maximum is reached, and wakes one sleeper if there is any.
     void open();
 
+    /// True while the gate is full and nobody sleeps at it or is about to open it: then it may be destroyed.
+    bool isIdle();
+
     /// Lets one waiter go with the result false; kept if nobody waits yet.
     void abandon();
 
@@ -43,10 +47,47 @@ private:
     bool mAbandoned = false;
     std::uint32_t mCount;
 #else
+    static constexpr std::uint32_t CountMask = 0x7FFF;
+    static constexpr std::uint32_t Abandoned = 0x8000;
+    static constexpr std::uint32_t OneSleeper = 0x10000;
+
     bool passSlowly(int milliseconds);
+    static void wakeOne(std::atomic<std::uint32_t>* word);
 
     // Bits 0 to 14 count, bit 15 is the abandonment, the bits above count the sleepers.
     std::atomic<std::uint32_t> mWord;
 #endif
     const std::uint32_t mMaximum;
 };
+
+#if !TOOLKIT_PORTABLE_GATE
+
+inline bool Gate::pass(int milliseconds)
+{
+    disturb();
+    std::uint32_t word = mWord.load(std::memory_order_relaxed);
+    while (word & CountMask) {
+        if (mWord.compare_exchange_weak(word, word - 1, std::memory_order_acquire, std::memory_order_relaxed))
+            return true;
+    }
+    return passSlowly(milliseconds);
+}
+
+inline void Gate::open()
+{
+    disturb();
+    std::uint32_t word = mWord.load(std::memory_order_relaxed);
+    std::uint32_t next;
+    do {
+        next = (word & CountMask) < mMaximum ? word + 1 : word;
+    } while (!mWord.compare_exchange_weak(word, next, std::memory_order_release, std::memory_order_relaxed));
+    if (next >= OneSleeper)
+        wakeOne(&mWord);
+}
+
+inline bool Gate::isIdle()
+{
+    return mWord.load(std::memory_order_acquire) == mMaximum;
+}
+
+#endif

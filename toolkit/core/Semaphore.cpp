@@ -8,11 +8,8 @@ Semaphore::Semaphore(int state, int maximum, bool reentrant)
 {
 }
 
-bool Semaphore::take(int milliseconds)
+bool Semaphore::takeAsOwner(int milliseconds)
 {
-    if (!mReentrant)
-        return mGate.pass(milliseconds);
-
     const unsigned int self = Threadable::currentThreadId();
     if (mOwner == self) {
         ++mDepth;
@@ -25,15 +22,13 @@ bool Semaphore::take(int milliseconds)
     return true;
 }
 
-void Semaphore::give()
+bool Semaphore::leaveAsOwner()
 {
-    if (mReentrant) {
-        if (mDepth > 1) {
-            --mDepth;
-            return;
-        }
-        mDepth = 0;
-        mOwner = 0;
+    if (mDepth > 1) {
+        --mDepth;
+        return false;
     }
-    mGate.open();
+    mDepth = 0;
+    mOwner = 0;
+    return true;
 }

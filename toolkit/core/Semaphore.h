@@ -23,15 +23,25 @@ public:
 
     /// Takes it, waiting `milliseconds` at most; -1 means without limit. False if the time ran out, or if the
     /// wait was abandoned.
-    bool take(int milliseconds = -1);
+    bool take(int milliseconds = -1) { return mReentrant ? takeAsOwner(milliseconds) : mGate.pass(milliseconds); }
 
     /// Gives it back; never above the maximum.
-    void give();
+    void give()
+    {
+        if (!mReentrant || leaveAsOwner())
+            mGate.open();
+    }
 
     /// Lets a waiter go whose request will never be answered: its take() returns false.
     void abandon() { mGate.abandon(); }
 
+    /// True while it is available to the full and nobody is at it: then it may be destroyed.
+    bool isIdle() { return mGate.isIdle(); }
+
 private:
+    bool takeAsOwner(int milliseconds);
+    bool leaveAsOwner();
+
     Gate mGate;
     const bool mReentrant;
     std::atomic<unsigned int> mOwner = 0;
