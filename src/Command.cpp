@@ -1,6 +1,7 @@
 #include <DisplayAPI/Command.h>
 
 #include "CommandExecutor.h"
+#include "CommandText.h"
 #include "CurrentApplication.h"
 
 #include <Semaphore.h>
@@ -19,6 +20,12 @@ std::unordered_set<const Command*>& allCommands()
 
 }
 
+LivingSet<Command>& livingCommands()
+{
+    static LivingSet<Command>& instance = *new LivingSet<Command>;
+    return instance;
+}
+
 std::unordered_set<const Command*>& Command::gAllCommands = allCommands();
 Semaphore* Command::gCommandListMutex = nullptr;
 
@@ -27,6 +34,7 @@ Command::Command(const std::string& label, Type type)
     , mType(type)
 {
     addCommand(this);
+    livingCommands().add(this);
 }
 
 Command::Command(TranslationInfo* translation, Type type)
@@ -34,10 +42,13 @@ Command::Command(TranslationInfo* translation, Type type)
     , mTranslation(translation)
 {
     addCommand(this);
+    livingCommands().add(this);
 }
 
 Command::~Command()
 {
+    // First out of the living, so that nothing new comes behind the recall.
+    livingCommands().remove(this);
     CommandExecutor::retrieveCommand(nullptr, this, nullptr);
     CriticalSection section(commandListMutex());
     removeCommand(this);

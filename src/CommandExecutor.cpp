@@ -1,5 +1,6 @@
 #include "CommandExecutor.h"
 
+#include "CommandText.h"
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
 
@@ -162,8 +163,8 @@ void CommandExecutor::postCommand(CommandListener* listener, Command* command, D
     bool mustCallWorker = false;
     {
         CriticalSection section(waiting.semaphore);
-        // Asked under the lock: a listener that dies leaves the living first and recalls then.
-        if (!CommandListener::exists(listener))
+        // Asked under the lock: who dies leaves the living first and recalls then.
+        if (!CommandListener::exists(listener) || (command && !livingCommands().contains(command)))
             return;
         waiting.commands.push_back({listener, command, displayable});
         waiting.queue.emplace_back(ItemType::Command, &waiting.commands.back());

@@ -4,11 +4,13 @@
 #include <DisplayAPI/Widget.h>
 
 #include "DisplayPrivate.h"
+#include "LivingSet.h"
 #include "PostToApplication.h"
 
 #include <Semaphore.h>
 
 #include <cstdlib>
+#include <functional>
 
 namespace DisplayAPI {
 
@@ -22,6 +24,13 @@ constexpr std::size_t TimeLength = 8; // hh:mm:ss
 int twoDigits(const std::string& time, std::size_t position)
 {
     return position < time.size() ? std::atoi(time.substr(position, 2).c_str()) : 0;
+}
+
+// Never destroyed: threads may post to a display while the process ends.
+LivingSet<Display>& livingHandles()
+{
+    static LivingSet<Display>& instance = *new LivingSet<Display>;
+    return instance;
 }
 
 }
@@ -58,6 +67,7 @@ Display::Display(std::string applicationName, std::string name, PhysDefs::hardwa
 
 Display::~Display()
 {
+    livingHandles().remove(this);
     // First let everybody go who still waits for this display.
     if (mApplication && mApplication == VantoUApplication::getCurrentApplication())
         mApplication->closeEventQueue();
@@ -65,6 +75,7 @@ Display::~Display()
 
 void Display::init(DisplayPrivateIfc* displayPrivate)
 {
+    livingHandles().add(this);
     mApplication = VantoUApplication::getCurrentApplication();
     mPrivate.reset(displayPrivate);
     mHandover = std::make_shared<TextHandover>();
@@ -442,8 +453,15 @@ void Display::callShowFPKBarMethodFromAdminPhonelet()
 
 // The road of the requests
 
+bool Display::exists(const Display* display)
+{
+    return display && livingHandles().contains(display);
+}
+
 void Display::processDisplayRequest(DisplayRequestEvent* event)
 {
+    if (!event)
+        return;
     runRequest(*event);
     event->requestCompleted();
 }
@@ -467,18 +485,15 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::LocaleChanged: localeChanged(text); break;
     case Event::DateFormatChanged: dateFormatChanged(text); break;
     case Event::TimeFormatChanged: timeFormatChanged(text); break;
-    case Event::Serialise:
-        // Given back by the caller, once it has its copy.
-        mHandover->lock.take(-1);
-        mHandover->text = serialise();
-        break;
+    case Event::Serialise: storeText([this] { return serialise(); }); break;
     case Event::CreateServerDisplay: createServerDisplay(event.getDisplayable()); break;
     case Event::SetMaximised: setMaximised(flag); break;
     case Event::GetDisplayedRects: event.setDisplayedRects(getDisplayedRects()); break;
     case Event::SerialiseByRect:
-        mHandover->lock.take(-1);
-        mHandover->text
-            = serialiseByRect(event.getSerialisableRects() ? *event.getSerialisableRects() : std::vector<Rect>(), text);
+        storeText([&] {
+            const std::vector<Rect>* rects = event.getSerialisableRects();
+            return serialiseByRect(rects ? *rects : std::vector<Rect>(), text);
+        });
         break;
     case Event::Unassigned: break;
     case Event::SetSystemWindowSize: setSystemWindowSize(number); break;
@@ -514,6 +529,18 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::ShiftChangeEventForCertainFPKey: mPrivate->shiftChangeEventForCertainFPKey(flag, number); break;
     case Event::CallShowFPKBarMethodFromAdminPhonelet: mPrivate->callShowFPKBarMethodFromAdminPhonelet(); break;
     case Event::SetRingerVolumeBarLimit: mPrivate->setRingerVolumeBarLimit(number); break;
+    }
+}
+
+/// The caller gives the lock back, once it has its copy; unless there is no text to copy.
+void Display::storeText(const std::function<std::string()>& read)
+{
+    mHandover->lock.take(-1);
+    try {
+        mHandover->text = read();
+    } catch (...) {
+        mHandover->lock.give();
+        throw;
     }
 }
 

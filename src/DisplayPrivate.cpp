@@ -1,12 +1,11 @@
 #include "DisplayPrivate.h"
 
 #include <DisplayAPI/DisplayEventIfc.h>
-#include <DisplayAPI/DisplayablePrivate.h>
 
 #include "ContentWidgetFactory.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
-#include "ExistingDisplayables.h"
+#include "LivingDisplays.h"
 #include "StackScreen.h"
 #include "VantoUApplicationFactory.h"
 
@@ -14,17 +13,6 @@
 #include <StatusVolumeMEG.h>
 
 namespace DisplayAPI {
-
-namespace {
-
-/// The displays that live: one, but for tests. Screens may die behind the last of them.
-std::vector<DisplayPrivate*>& livingDisplays()
-{
-    static std::vector<DisplayPrivate*>& displays = *new std::vector<DisplayPrivate*>;
-    return displays;
-}
-
-}
 
 DisplayPrivate::DisplayPrivate(std::string applicationName, bool server, std::string, std::string softwareType,
     std::string locale, std::string dateFormat, std::string timeFormat, Rect*, ContentWidgetFactoryIfc* factory)
@@ -54,24 +42,19 @@ DisplayPrivate::DisplayPrivate(std::string applicationName, bool server, std::st
     if (HardwareVersion::getHWSubPlatformVariant() == 1)
         mDisplayArea = std::make_unique<Rect>(0, 0, 192, 48);
     createContentWidget();
-    livingDisplays().push_back(this);
+    LivingDisplays::add(this);
 }
 
 DisplayPrivate::~DisplayPrivate()
 {
-    std::erase(livingDisplays(), this);
+    // From here on no screen finds this display any more, whatever it has stored.
+    LivingDisplays::remove(this);
     dropDeadEntries();
     for (Displayable* displayable : mItemList) {
         if (const StackScreen screen{displayable}) {
             screen.widget().setParent(nullptr);
             screen->gainOwnership();
         }
-    }
-    // A dismissed screen and the content of a tab keep the display without standing on the stack.
-    for (Displayable* displayable : livingDisplayables()) {
-        auto* screen = dynamic_cast<DisplayablePrivate*>(displayable->getPrivateImpl());
-        if (screen && screen->display() == this)
-            screen->connectDisplayChangedSignal(nullptr);
     }
     cleanup();
 }
@@ -94,19 +77,16 @@ void DisplayPrivate::cleanup()
     mFactory.reset();
 }
 
-void DisplayPrivate::forgetEverywhere(Displayable* displayable)
-{
-    for (DisplayPrivate* display : livingDisplays())
-        display->forget(displayable);
-}
-
 // Loop
 
 void DisplayPrivate::exec()
 {
+    const unsigned long number = LivingDisplays::numberOf(this);
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->exec();
-    mExecFinished = true;
+    // An event may have deleted the display, which ends the loop.
+    if (LivingDisplays::numberOf(this) == number)
+        mExecFinished = true;
 }
 
 void DisplayPrivate::shutdown()

@@ -42,9 +42,9 @@ public:
     DisplayPrivate(const DisplayPrivate&) = delete;
     DisplayPrivate& operator=(const DisplayPrivate&) = delete;
 
-    /// Takes a screen that is being deleted off every display, without a notice and without showing another one.
-    /// It has left the registry by then, and its private still lives.
-    static void forgetEverywhere(Displayable* displayable);
+    /// Takes a screen off that is being deleted, without a notice and without showing another one. It has left the
+    /// registry by then, and its private still lives.
+    void forget(Displayable* displayable);
 
     // Screens
 
@@ -152,7 +152,6 @@ private:
     void showWidget(DisplayablePrivateIfc& screen);
     void showContentWidget();
     void hideContentWidget();
-    void forget(Displayable* displayable);
 
     /// Forgets the screens that are gone; the first step of every walk over the stack.
     void dropDeadEntries();

@@ -1,5 +1,6 @@
 #include "DisplayPrivate.h"
 
+#include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 
 #include "BuiltInTexts.h"

@@ -1,5 +1,8 @@
 #include "DisplayPrivate.h"
 
+#include <DisplayAPI/Displayable.h>
+
+#include "AssertGuiThread.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
@@ -13,12 +16,14 @@ namespace DisplayAPI {
 
 Displayable* DisplayPrivate::getCurrent()
 {
+    assertGuiThread();
     dropDeadEntries();
     return mCurrent;
 }
 
 void DisplayPrivate::setCurrent(Displayable* displayable)
 {
+    assertGuiThread();
     if (!displayable) {
         darken();
         return;
@@ -116,11 +121,12 @@ void DisplayPrivate::showWidget(DisplayablePrivateIfc& screen)
 
 void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
 {
+    assertGuiThread();
     if (!displayable)
         return;
     dropDeadEntries();
     const auto found = std::find_if(mItemList.begin(), mItemList.end(),
-        [displayable](Displayable* entry) { return entry->getPrivateImpl() == displayable; });
+        [displayable](Displayable* entry) { return privateOfLiving(entry) == displayable; });
     if (found != mItemList.end()) {
         mItemList.erase(found);
         displayable->gainOwnership();
@@ -130,7 +136,7 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
             widget->setParent(nullptr);
         }
     }
-    if (!mCurrent || mCurrent->getPrivateImpl() != displayable)
+    if (!mCurrent || privateOfLiving(mCurrent) != displayable)
         return;
     if (mItemList.empty()) {
         setCurrent(nullptr);
@@ -148,6 +154,7 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
 
 void DisplayPrivate::createServerDisplay(Displayable* displayable)
 {
+    assertGuiThread();
     if (!displayableExists(displayable))
         return;
     const StackScreen screen(displayable);
@@ -167,6 +174,7 @@ void DisplayPrivate::createServerDisplay(Displayable* displayable)
 
 void DisplayPrivate::show()
 {
+    assertGuiThread();
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->enableScreen();
     const int hardwareVariant = currentHardwareVariant();
@@ -196,6 +204,7 @@ void DisplayPrivate::showContentWidget()
 
 void DisplayPrivate::hide()
 {
+    assertGuiThread();
     mIsVisible = false;
     if (auto* application = VantoUApplication::getCurrentApplication()) {
         application->disableScreen();
@@ -218,7 +227,7 @@ void DisplayPrivate::hideContentWidget()
 void DisplayPrivate::removeOldCurrent()
 {
     dropDeadEntries();
-    if (DisplayablePrivateIfc* screen = mCurrent ? mCurrent->getPrivateImpl() : nullptr) {
+    if (DisplayablePrivateIfc* screen = privateOfLiving(mCurrent)) {
         screen->lostFocus();
         screen->gainOwnership();
     }
@@ -237,12 +246,13 @@ std::vector<Rect>* DisplayPrivate::getDisplayedRects()
 
 void DisplayPrivate::forget(Displayable* displayable)
 {
+    assertGuiThread();
     const bool wasOnStack = std::erase(mItemList, displayable) > 0;
     if (mCurrent == displayable)
         mCurrent = top();
     if (mPreviousCurrent == displayable)
         mPreviousCurrent = nullptr;
-    const StackScreen screen(displayable);
+    const StackScreen screen(displayable->getPrivateImpl());
     if (!screen)
         return;
     if (wasOnStack || isInContent(screen.widget()))

@@ -84,7 +84,8 @@ DisplayRequestEvent::~DisplayRequestEvent()
 
 void DisplayRequestEvent::process()
 {
-    if (mRequester)
+    // A display that was followed by another one may die with requests in the queue.
+    if (Display::exists(mRequester))
         mRequester->processDisplayRequest(this);
 }
 

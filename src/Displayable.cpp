@@ -3,8 +3,8 @@
 #include <DisplayAPI/ListenerList.h>
 
 #include "CommandExecutor.h"
-#include "DisplayPrivate.h"
 #include "ExistingDisplayables.h"
+#include "LivingDisplays.h"
 
 namespace DisplayAPI {
 
@@ -45,7 +45,7 @@ void Displayable::retireScreen()
 {
     retire();
     unregisterDisplayable(this);
-    DisplayPrivate::forgetEverywhere(this);
+    LivingDisplays::forget(this);
 }
 
 }

@@ -2,9 +2,22 @@
 #include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 
+#include "LivingDisplays.h"
+
 namespace DisplayAPI {
 
 std::atomic<TranslatorIfc*> DisplayablePrivate::commonTranslator = nullptr;
+
+void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
+{
+    mDisplay = display;
+    mDisplayNumber = LivingDisplays::numberOf(display);
+}
+
+DisplayPrivateIfc* DisplayablePrivate::display() const
+{
+    return LivingDisplays::numberOf(mDisplay) == mDisplayNumber ? mDisplay : nullptr;
+}
 
 std::string DisplayablePrivate::serialise()
 {
@@ -18,20 +31,20 @@ std::string DisplayablePrivate::serialise(const std::vector<Rect>&)
 
 void DisplayablePrivate::widgetDismissed(DisplayablePrivate* displayable)
 {
-    if (mDisplay)
-        mDisplay->widgetDismissed(displayable);
+    if (DisplayPrivateIfc* living = display())
+        living->widgetDismissed(displayable);
 }
 
 void DisplayablePrivate::join(DisplayablePrivate* other)
 {
     if (other)
-        mDisplay = other->mDisplay;
+        connectDisplayChangedSignal(other->display());
 }
 
 void DisplayablePrivate::generateDisplayChangedEvent()
 {
-    if (mDisplay)
-        mDisplay->displayChanged();
+    if (DisplayPrivateIfc* living = display())
+        living->displayChanged();
 }
 
 void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)

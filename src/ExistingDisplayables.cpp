@@ -1,5 +1,7 @@
 #include "ExistingDisplayables.h"
 
+#include <DisplayAPI/Displayable.h>
+
 #include <Semaphore.h>
 
 #include <algorithm>
@@ -53,11 +55,11 @@ bool displayableExists(const Displayable* displayable)
     return screens.all.contains(displayable);
 }
 
-std::vector<Displayable*> livingDisplayables()
+DisplayablePrivateIfc* privateOfLiving(Displayable* displayable)
 {
     Registry& screens = registry();
     CriticalSection section(screens.semaphore);
-    return screens.inOrder;
+    return screens.all.contains(displayable) ? displayable->getPrivateImpl() : nullptr;
 }
 
 }

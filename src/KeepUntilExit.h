@@ -3,6 +3,9 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/Widget.h>
 
+#include "ExistingDisplayables.h"
+
+#include <memory>
 #include <mutex>
 #include <vector>
 
@@ -24,6 +27,17 @@ inline void keepUntilExit(void* object)
         return;
     std::lock_guard lock(kept.mutex);
     kept.objects.push_back(object);
+}
+
+/// The end of a screen's destructor off the GUI thread: keeps its half if the deletion was refused. The screen leaves
+/// the registry first, so that the display never asks a handle that is half gone.
+template <typename Half>
+void keepIfRefused(Displayable* screen, std::unique_ptr<Half>& half)
+{
+    if (!half)
+        return;
+    unregisterDisplayable(screen);
+    keepUntilExit(half.release());
 }
 
 /// The request, which hands `object` over to the GUI thread. If it never runs, the object is kept until the

@@ -96,7 +96,7 @@ List::~List()
     }
     postEvent(makeRequest(this, Request::Delete));
     // Both still there if the loop has ended.
-    keepUntilExit(mPrivate.release());
+    keepIfRefused(this, mPrivate);
     deleteItems();
 }
 

@@ -4,6 +4,7 @@
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
 #include "ApplicationListener.h"
+#include "AssertGuiThread.h"
 #include "BuiltInTexts.h"
 #include "ExistingDisplayables.h"
 #include "Serialiser.h"
@@ -34,6 +35,7 @@ ListBoxPrivate::ListBoxPrivate(Displayable* owner, VantoListBoxWithTitleMEG* wid
 
 ListBoxPrivate::~ListBoxPrivate()
 {
+    assertGuiThread();
     if (mOwnsWidget)
         delete mWidget.get();
     leaveApplication(this);
@@ -41,6 +43,7 @@ ListBoxPrivate::~ListBoxPrivate()
 
 void ListBoxPrivate::initialise()
 {
+    assertGuiThread();
     joinApplication(this);
 }
 
@@ -90,6 +93,7 @@ int ListBoxPrivate::size()
 
 void ListBoxPrivate::append(ListItemPrivateIfc* row)
 {
+    assertGuiThread();
     if (!row || !list())
         return;
     if (VantoListBoxItemMEG* widget = row->getVantoListItem()) {
@@ -113,6 +117,7 @@ void ListBoxPrivate::listenTo(VantoListBoxItemMEG* row)
 
 void ListBoxPrivate::clear()
 {
+    assertGuiThread();
     if (list())
         list()->clear();
     generateDisplayChangedEvent();
@@ -191,6 +196,7 @@ void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow
 /// Gives a row of this list back to its private; a row that stands elsewhere stays there.
 void ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
 {
+    assertGuiThread();
     VantoListBoxItemMEG* widget = row->getVantoListItem();
     if (widget && widget->parentWidget() != list())
         return;

@@ -1,5 +1,7 @@
 #include "ListItemPrivate.h"
 
+#include "AssertGuiThread.h"
+
 #include <CallRowsMEG.h>
 
 #include <array>
@@ -23,6 +25,7 @@ std::uint16_t toolkitIcon(Icons::IconType icon)
 ListItemPrivate::ListItemPrivate(const std::string& text, bool)
     : mWidget(new VantoListBoxItemMEG(UString(text), 0, false))
 {
+    assertGuiThread();
 }
 
 ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool flag)
@@ -34,6 +37,7 @@ ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool flag)
 ListItemPrivate::ListItemPrivate(ListItem::ListItemType type)
     : mIsProgressRow(type == ListItem::InfiniteProgressItem)
 {
+    assertGuiThread();
     if (mIsProgressRow)
         mWidget = new InfiniteBarItemMEG;
     else
@@ -42,6 +46,7 @@ ListItemPrivate::ListItemPrivate(ListItem::ListItemType type)
 
 ListItemPrivate::~ListItemPrivate()
 {
+    assertGuiThread();
     if (mOwnsWidget)
         delete mWidget.get();
 }

@@ -50,7 +50,7 @@ PopupConfirm::~PopupConfirm()
         destroy();
     else
         postEvent(makeRequest(this, Request::Destroy));
-    keepUntilExit(mPrivate.release());
+    keepIfRefused(this, mPrivate);
 }
 
 void PopupConfirm::create(bool)

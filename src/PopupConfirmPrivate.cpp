@@ -4,6 +4,7 @@
 #include <DisplayAPI/MenuCommand.h>
 
 #include "ApplicationListener.h"
+#include "AssertGuiThread.h"
 #include "BuiltInTexts.h"
 #include "CommandText.h"
 #include "ScreenTextWriter.h"
@@ -64,6 +65,7 @@ PopupConfirmPrivate::PopupConfirmPrivate(bool)
 
 PopupConfirmPrivate::~PopupConfirmPrivate()
 {
+    assertGuiThread();
     if (mOwnsWidget)
         delete mWidget.get();
     mBackCommand.reset();
@@ -72,6 +74,7 @@ PopupConfirmPrivate::~PopupConfirmPrivate()
 
 void PopupConfirmPrivate::create()
 {
+    assertGuiThread();
     mWidget = new PopupDialogMEG;
     mBackCommand = std::make_unique<Command>("", Command::Back);
     mWidget->UAgent::setListener(this);

@@ -1,19 +1,24 @@
 #pragma once
 
-#include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/DisplayablePrivateIfc.h>
+
+#include "ExistingDisplayables.h"
 
 #include <UWidget.h>
 
 namespace DisplayAPI {
 
-/// A living screen with its private and its widget; false while one of the two is missing, and the stack ignores
+/// A living screen with its private and its widget; false while one of the three is missing, and the stack ignores
 /// it then.
 class StackScreen {
 public:
     explicit StackScreen(Displayable* displayable)
-        : mPrivate(displayable ? displayable->getPrivateImpl() : nullptr)
-        , mWidget(mPrivate ? mPrivate->getWidget() : nullptr)
+        : StackScreen(privateOfLiving(displayable))
+    {
+    }
+    explicit StackScreen(DisplayablePrivateIfc* screen)
+        : mPrivate(screen)
+        , mWidget(screen ? screen->getWidget() : nullptr)
     {
     }
 

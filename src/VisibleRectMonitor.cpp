@@ -1,9 +1,6 @@
 #include "VisibleRectMonitor.h"
 
-#include <DisplayAPI/Displayable.h>
-#include <DisplayAPI/DisplayablePrivateIfc.h>
-
-#include <UWidget.h>
+#include "StackScreen.h"
 
 #include <algorithm>
 
@@ -17,11 +14,10 @@ void VisibleRectMonitor::clear()
 
 void VisibleRectMonitor::update(Displayable& displayable)
 {
-    DisplayablePrivateIfc* screen = displayable.getPrivateImpl();
-    const UWidget* widget = screen ? screen->getWidget() : nullptr;
-    if (!widget)
+    const StackScreen screen(&displayable);
+    if (!screen)
         return;
-    mRects.push_back(findTopLevelGeometry(*widget));
+    mRects.push_back(findTopLevelGeometry(screen.widget()));
     mDisplayables.push_back(&displayable);
 }
 

@@ -6,6 +6,7 @@
 #include <Rect.h>
 #include <Types.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -49,6 +50,9 @@ public:
     virtual ~Display();
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
+
+    /// True while the display lives. The pointer is not followed. Threads: any.
+    static bool exists(const Display* display);
 
     /// Runs a request on the GUI thread; called by the event.
     virtual void processDisplayRequest(DisplayRequestEvent* event);
@@ -133,7 +137,9 @@ public:
 
     // Status, volume, clipboard
 
-    /// Shows a message over the first line; an empty text takes it away. The duration is in seconds.
+    /// Shows a message over the first line until it is replaced; an empty text takes it away, and the text that is
+    /// shown already changes nothing. `duration` is how long each part of a text that is wider than the line stands,
+    /// in milliseconds, a second at least; with 0 only the beginning is shown.
     void setStatusMessage(const std::string& text, unsigned int duration);
 
     /// Shows the volume bar of a device (0 handset, 1 headset, 2 speaker, 3 ringer) with value, minimum and
@@ -184,14 +190,15 @@ private:
     struct TextHandover;
 
     void runRequest(DisplayRequestEvent& event);
+    void storeText(const std::function<std::string()>& read);
     std::string fetchText(DisplayRequestEvent* event);
 
-    VantoUApplication* mApplication = nullptr; // whose queue this display closes
     std::unique_ptr<DisplayPrivateIfc> mPrivate;
     std::shared_ptr<TextHandover> mHandover;
     std::string mDisplayName;
     std::string mSoftwareType;
     bool mIsSliderVisible = false;
+    VantoUApplication* mApplication = nullptr; // whose queue this display closes
 };
 
 }

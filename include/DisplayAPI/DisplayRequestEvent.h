@@ -81,6 +81,7 @@ public:
         Display* requester, DisplayRequests request, const std::vector<Rect>& rects, const std::string& text);
     DisplayRequestEvent(Display* requester, DisplayRequests request, int value, const std::string& text);
     ~DisplayRequestEvent() override;
+    DisplayRequestEvent(const DisplayRequestEvent&) = delete;
 
     void process() override;
 

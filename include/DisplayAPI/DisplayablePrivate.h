@@ -19,7 +19,7 @@ class DISPLAYAPI_EXPORT DisplayablePrivate : public DisplayablePrivateIfc {
 public:
     bool hideOldWidgetOnFocusGained() override { return true; }
     int widgetPosition() override { return 0; }
-    void connectDisplayChangedSignal(DisplayPrivateIfc* display) override { mDisplay = display; }
+    void connectDisplayChangedSignal(DisplayPrivateIfc* display) override;
 
     /// The text of a screen that has none of its own.
     std::string serialise() override;
@@ -33,7 +33,7 @@ public:
     void removeCommandListener(CommandListener* listener) override { mCommandListeners.remove(listener); }
     void clearCommandListeners() override { mCommandListeners.clear(); }
     void join(DisplayablePrivate* other) override;
-    void disjoin() override { mDisplay = nullptr; }
+    void disjoin() override { connectDisplayChangedSignal(nullptr); }
     bool hasCaption() override { return false; }
     void setSysWindowSize(int) override { }
     void setSysWindowText(std::string, int) override { }
@@ -46,7 +46,7 @@ public:
     void postCommand(Command* command, Displayable* displayable);
 
     /// The display that the screen was last put on; null before, and after that display's end.
-    DisplayPrivateIfc* display() const { return mDisplay; }
+    DisplayPrivateIfc* display() const;
 
     /// The application's translator, set by Display::setTranslator(); null until then. Threads: any.
     static std::atomic<TranslatorIfc*> commonTranslator;
@@ -55,7 +55,8 @@ protected:
     ListenerList<CommandListener> mCommandListeners;
 
 private:
-    DisplayPrivateIfc* mDisplay = nullptr;
+    DisplayPrivateIfc* mDisplay = nullptr; // it may have died: ask display()
+    unsigned long mDisplayNumber = 0;      // tells it from a later one at the same address
 };
 
 }

@@ -26,6 +26,7 @@ public:
     GuiRequestEvent(Widget* requester, int requestType);
     GuiRequestEvent(Widget* requester, Wait* wait, int requestType);
     ~GuiRequestEvent() override;
+    GuiRequestEvent(const GuiRequestEvent&) = delete;
 
     /// A request that its own handle will post. Somebody who posts one to the application himself uses a constructor,
     /// which counts the event from the start.

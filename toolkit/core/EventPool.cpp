@@ -4,6 +4,7 @@
 #include <mutex>
 #include <new>
 #include <sched.h>
+#include <utility>
 
 #if defined(__SANITIZE_ADDRESS__)
 #define POOL_IS_HEAP 1
@@ -73,18 +74,13 @@ Block* takeChain()
 }
 
 /// What a thread has taken and not used yet, and what it has freed and not given on yet: a chain each at most.
+/// It needs no destructor, so it may be asked at any time, also by what dies behind the keeper.
 struct Cache {
-    Block* free = nullptr;
-    Block* freed = nullptr;
-    int freedCount = 0;
-    int patience = 0;
-
-    ~Cache()
-    {
-        if (free)
-            giveChain(free);
-        giveFreed();
-    }
+    Block* free;
+    Block* freed;
+    int freedCount;
+    int patience;
+    bool isClosed; // the thread ends: nothing is kept any more
 
     void giveFreed()
     {
@@ -93,9 +89,24 @@ struct Cache {
         freed = nullptr;
         freedCount = 0;
     }
+    void close()
+    {
+        isClosed = true;
+        if (free)
+            giveChain(std::exchange(free, nullptr));
+        giveFreed();
+    }
 };
 
-thread_local Cache tCache;
+constinit thread_local Cache tCache = {};
+
+/// Closes the cache of a thread that ends.
+struct CacheKeeper {
+    ~CacheKeeper() { tCache.close(); }
+    void watch() { }
+};
+
+thread_local CacheKeeper tCacheKeeper;
 
 Block* newBlock()
 {
@@ -125,11 +136,13 @@ void* EventPool::allocate(std::size_t size)
     if (size > BlockSize)
         return ::operator new(size);
     Cache& cache = tCache;
-    if (!cache.free)
+    if (!cache.free && !cache.isClosed) {
+        tCacheKeeper.watch();
         cache.free = takeChain();
+    }
     Block* block = cache.free;
     if (!block)
-        return blockWhenEmpty(cache);
+        return cache.isClosed ? newBlock() : blockWhenEmpty(cache);
     cache.free = block->next;
     return block;
 }
@@ -140,12 +153,14 @@ void EventPool::release(void* memory, std::size_t size)
         ::operator delete(memory);
         return;
     }
-    if (gBlocks.load(std::memory_order_relaxed) > MaximumBlocks) {
+    Cache& cache = tCache;
+    if (gBlocks.load(std::memory_order_relaxed) > MaximumBlocks || cache.isClosed) {
         gBlocks.fetch_sub(1, std::memory_order_relaxed);
         ::operator delete(memory);
         return;
     }
-    Cache& cache = tCache;
+    if (!cache.freed)
+        tCacheKeeper.watch();
     Block* block = static_cast<Block*>(memory);
     block->next = cache.freed;
     cache.freed = block;

@@ -6,8 +6,8 @@
 #if TOOLKIT_PORTABLE_GATE
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mCount(std::min(count, maximum))
-    , mMaximum(maximum)
+    : mMaximum(std::min(maximum, CountMask))
+    , mCount(std::min(count, mMaximum))
 {
 }
 
@@ -16,9 +16,14 @@ bool Gate::pass(int milliseconds)
     disturb();
     std::unique_lock lock(mMutex);
     auto isOpen = [this] { return mCount > 0 || mAbandoned; };
+    bool isInTime = true;
+    ++mSleepers;
     if (milliseconds < 0)
         mChanged.wait(lock, isOpen);
-    else if (!mChanged.wait_for(lock, std::chrono::milliseconds(milliseconds), isOpen))
+    else
+        isInTime = mChanged.wait_for(lock, std::chrono::milliseconds(milliseconds), isOpen);
+    --mSleepers;
+    if (!isInTime)
         return false;
     if (mCount == 0) {
         mAbandoned = false;
@@ -41,7 +46,7 @@ void Gate::open()
 bool Gate::isIdle()
 {
     std::lock_guard lock(mMutex);
-    return mCount == mMaximum && !mAbandoned;
+    return mCount == mMaximum && !mAbandoned && mSleepers == 0;
 }
 
 void Gate::abandon()
@@ -85,8 +90,8 @@ timespec deadlineIn(int milliseconds)
 }
 
 Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mWord(std::min({count, maximum, CountMask}))
-    , mMaximum(std::min(maximum, CountMask))
+    : mMaximum(std::min(maximum, CountMask))
+    , mWord(std::min(count, mMaximum))
 {
 }
 

@@ -23,6 +23,7 @@
 /// word again. Nothing spins.
 class TOOLKIT_EXPORT Gate {
 public:
+    /// The maximum is at most 32767, and the count at most the maximum.
     explicit Gate(std::uint32_t count = 0, std::uint32_t maximum = 1);
     Gate(const Gate&) = delete;
     Gate& operator=(const Gate&) = delete;
@@ -41,13 +42,16 @@ public:
     void abandon();
 
 private:
+    static constexpr std::uint32_t CountMask = 0x7FFF;
+
+    const std::uint32_t mMaximum;
 #if TOOLKIT_PORTABLE_GATE
     std::mutex mMutex;
     std::condition_variable mChanged;
     bool mAbandoned = false;
+    std::uint32_t mSleepers = 0;
     std::uint32_t mCount;
 #else
-    static constexpr std::uint32_t CountMask = 0x7FFF;
     static constexpr std::uint32_t Abandoned = 0x8000;
     static constexpr std::uint32_t OneSleeper = 0x10000;
 
@@ -57,7 +61,6 @@ private:
     // Bits 0 to 14 count, bit 15 is the abandonment, the bits above count the sleepers.
     std::atomic<std::uint32_t> mWord;
 #endif
-    const std::uint32_t mMaximum;
 };
 
 #if !TOOLKIT_PORTABLE_GATE

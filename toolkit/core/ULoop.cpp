@@ -8,6 +8,7 @@
 #include <cassert>
 #include <chrono>
 #include <limits>
+#include <memory>
 #include <sched.h>
 #include <utility>
 
@@ -57,14 +58,21 @@ int ULoop::exec()
     open();
     mIsExecuting = true;
     mQuit = false;
+    // On every way out, an exception of an event included: nobody may wait for a loop that doesn't run.
+    struct End {
+        ~End()
+        {
+            loop.mIsExecuting = false;
+            loop.mQuit = false;
+            loop.close();
+        }
+        ULoop& loop;
+    } end{*this};
     while (!mQuit) {
         processEvents();
         if (!mQuit)
             sleep();
     }
-    mIsExecuting = false;
-    mQuit = false;
-    close();
     return 0;
 }
 
@@ -132,10 +140,9 @@ void ULoop::runQueue()
 {
     fetchQueue();
     while (mPass && !mQuit) {
-        UEvent* event = mPass;
+        const std::unique_ptr<UEvent> event(mPass);
         mPass = event->mNext;
         event->process();
-        delete event;
     }
 }
 

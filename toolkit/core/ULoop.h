@@ -26,7 +26,7 @@ public:
     void post(UEvent* event);
 
     /// Opens the queue and runs until quit(); then closes the queue and destroys what is left in it. Must not
-    /// be called again from inside itself.
+    /// be called again from inside itself. An exception of an event ends it too, and comes out.
     int exec();
 
     /// Ends exec() after the event in hand; without effect outside of it. Threads: GUI thread.
