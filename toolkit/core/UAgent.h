@@ -52,7 +52,7 @@ private:
     friend class LifeNode;
     friend class ListenerHub;
 
-    void unlinkFromListener();
+    void unlinkFrom(UAgent& listener);
 
     UAgent* mListener = nullptr;
     UAgent* mEmitters = nullptr; // those whose listener this is
