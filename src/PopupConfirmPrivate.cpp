@@ -67,6 +67,8 @@ PopupConfirmPrivate::~PopupConfirmPrivate()
     if (mOwnsWidget)
         delete mWidget.get();
     mBackCommand.reset();
+    for (TranslationHolder* line : {&mLine1PrefixInfo, &mTextInfo, &mLine2PrefixInfo, &mLine2Info})
+        line->forget();
     leaveApplication(this);
 }
 
@@ -74,7 +76,7 @@ void PopupConfirmPrivate::create()
 {
     mWidget = new PopupDialogMEG;
     mBackCommand = std::make_unique<Command>("", Command::Back);
-    mWidget->UAgent::setListener(this);
+    mWidget->setListener(this);
     mWidget->setDownArrowDisplayable(true);
     joinApplication(this);
 }
@@ -213,11 +215,16 @@ void PopupConfirmPrivate::setBackTranslator(Command* command)
 
 void PopupConfirmPrivate::setDefaultCommand(Command* command)
 {
+    mDefaultIndex = -1;
     auto found = std::find(mCommands.begin(), mCommands.end(), command);
     if (found != mCommands.end()) {
         mDefaultIndex = static_cast<int>(found - mCommands.begin());
     } else {
+        // The notice of the new choice may delete this object.
+        LifeNode life(this);
         addCommand(command);
+        if (!life.isAlive())
+            return;
         mDefaultIndex = static_cast<int>(mCommands.size()) - 1;
     }
     mWidget->listBox->setCurrentItem(mDefaultIndex);
@@ -334,10 +341,13 @@ void PopupConfirmPrivate::selectionMoved()
 
 void PopupConfirmPrivate::listItemSelected(VantoListBoxItemMEG* item)
 {
+    // A listener that overrides the posting may delete this object.
+    LifeNode life(this);
     auto* command = reinterpret_cast<Command*>(item->getHandle());
     if (Command::exists(command))
         postCommand(command, mParent);
-    generateDisplayChangedEvent();
+    if (life.isAlive())
+        generateDisplayChangedEvent();
 }
 
 void PopupConfirmPrivate::backSelected()
