@@ -36,6 +36,7 @@ ListBoxPrivate::~ListBoxPrivate()
 {
     if (mOwnsWidget)
         delete mWidget.get();
+    mTitleInfo.forget();
     leaveApplication(this);
 }
 
@@ -192,7 +193,7 @@ void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow
 void ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
 {
     VantoListBoxItemMEG* widget = row->getVantoListItem();
-    if (widget && widget->parentWidget() != list())
+    if (widget && (!list() || widget->parentWidget() != list()))
         return;
     if (widget)
         list()->removeItem(widget);
@@ -251,7 +252,11 @@ void ListBoxPrivate::localeChanged(std::string locale)
 
 void ListBoxPrivate::setDialler(PopupDialer* dialer)
 {
+    // The dialer that loses the focus may tell of it, and a subscriber may delete the list.
+    LifeNode life(this);
     dismissDialler();
+    if (!life.isAlive())
+        return;
     mDialerPrivate = dialer ? dynamic_cast<PopupDialerPrivateIfc*>(dialer->getPrivateImpl()) : nullptr;
     mDialerActive = false;
 }
