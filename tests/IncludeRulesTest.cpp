@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <string>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -99,19 +99,35 @@ private:
 
     void check(const Layer& layer, const fs::path& file)
     {
-        static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"].*)");
         ++mFilesChecked;
         std::ifstream source(mRoot / file);
         std::string line;
         for (int number = 1; std::getline(source, line); ++number) {
-            std::smatch match;
-            if (line.find('#') == std::string::npos || !std::regex_match(line, match, include))
+            const auto [name, isQuoted] = includeOf(line);
+            if (name.empty())
                 continue;
-            const std::string fault = faultOf(layer, file, match[2], match[1] == "\"");
+            const std::string fault = faultOf(layer, file, name, isQuoted);
             if (!fault.empty())
                 mViolations.push_back(
-                    file.generic_string() + ":" + std::to_string(number) + ": <" + match[2].str() + "> " + fault);
+                    file.generic_string() + ":" + std::to_string(number) + ": <" + name + "> " + fault);
         }
+    }
+
+    /// The name that a line includes, and whether it stands in quotes; empty for any other line.
+    static std::pair<std::string, bool> includeOf(const std::string& line)
+    {
+        const std::size_t hash = line.find_first_not_of(" \t");
+        if (hash == std::string::npos || line[hash] != '#')
+            return {};
+        const std::size_t word = line.find_first_not_of(" \t", hash + 1);
+        if (word == std::string::npos || line.compare(word, 7, "include") != 0)
+            return {};
+        const std::size_t open = line.find_first_of("<\"", word + 7);
+        if (open == std::string::npos)
+            return {};
+        const bool isQuoted = line[open] == '"';
+        const std::size_t close = line.find(isQuoted ? '"' : '>', open + 1);
+        return {line.substr(open + 1, close - open - 1), isQuoted};
     }
 
     /// What is wrong with an include; empty if it is allowed.
