@@ -37,14 +37,15 @@ void ULoop::post(UEvent* event)
     if (!event)
         return;
     disturb();
-    UEvent* newest = mNewest.load(std::memory_order_relaxed);
+    // Whoever is refused must see all that the loop has run, since it may delete the receiver now.
+    UEvent* newest = mNewest.load(std::memory_order_acquire);
     do {
         if (newest == Closed) {
             delete event;
             return;
         }
         event->mNext = newest == Sleeping ? nullptr : newest;
-    } while (!mNewest.compare_exchange_weak(newest, event, std::memory_order_acq_rel, std::memory_order_relaxed));
+    } while (!mNewest.compare_exchange_weak(newest, event, std::memory_order_acq_rel, std::memory_order_acquire));
     // Only the post that ends the sleep wakes the loop.
     if (newest == Sleeping)
         mGate.open();
