@@ -111,7 +111,10 @@ void List::processGuiRequest(GuiRequestEvent& event)
     const std::string& text = event.stringParam1;
     const int number = event.intParam1;
     switch (static_cast<Request>(event.getType())) {
-    case Request::Create: mPrivate = std::make_unique<ListBoxPrivate>(this, event.boolParam1); break;
+    case Request::Create:
+        mHasBackItem = event.boolParam1;
+        mPrivate = std::make_unique<ListBoxPrivate>(this, event.boolParam1);
+        break;
     case Request::Delete: cleanup(); break;
     case Request::AppendText: createAndAppendItem(new ListItem(text, true)); break;
     case Request::AppendTranslation: createAndAppendItem(new ListItem(translation, true)); break;
@@ -132,7 +135,11 @@ void List::processGuiRequest(GuiRequestEvent& event)
     case Request::SetTicker: mTicker = static_cast<Ticker*>(event.ptrParam1); break;
     case Request::GetTicker: answer(event.ptrResult, mTicker); break;
     case Request::SetTitleText: tell<const std::string&>(box, &Box::setTitle, text); break;
-    case Request::SetTitleTranslation: tell<TranslationInfo*>(box, &Box::setTitle, translation); break;
+    case Request::SetTitleTranslation:
+        if (!box)
+            delete translation; // handed over all the same
+        tell<TranslationInfo*>(box, &Box::setTitle, translation);
+        break;
     case Request::SetSystemWindowSize: tell(box, &Box::setSystemWindowSize, number); break;
     case Request::SetSystemWindowText: tell(box, &Box::setSystemWindowText, number, text); break;
     case Request::RemoveCommandListener: tell(box, &Box::removeCommandListener, listener); break;

@@ -38,6 +38,7 @@ ListBoxPrivate::~ListBoxPrivate()
     assertGuiThread();
     if (mOwnsWidget)
         delete mWidget.get();
+    mTitleInfo.forget();
     leaveApplication(this);
 }
 
@@ -198,7 +199,7 @@ void ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
 {
     assertGuiThread();
     VantoListBoxItemMEG* widget = row->getVantoListItem();
-    if (widget && widget->parentWidget() != list())
+    if (widget && (!list() || widget->parentWidget() != list()))
         return;
     if (widget)
         list()->removeItem(widget);
@@ -257,7 +258,11 @@ void ListBoxPrivate::localeChanged(std::string locale)
 
 void ListBoxPrivate::setDialler(PopupDialer* dialer)
 {
+    // The dialer that loses the focus may tell of it, and a subscriber may delete the list.
+    LifeNode life(this);
     dismissDialler();
+    if (!life.isAlive())
+        return;
     mDialerPrivate = dialer ? dynamic_cast<PopupDialerPrivateIfc*>(dialer->getPrivateImpl()) : nullptr;
     mDialerActive = false;
 }

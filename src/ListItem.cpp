@@ -212,16 +212,16 @@ void ListItem::setPrivate(ListItemPrivateIfc* rowPrivate)
     delete mPrivate.exchange(rowPrivate);
 }
 
-void ListItem::retireRow()
+void ListItem::retireRow(ListItemPrivateIfc* rowPrivate)
 {
     retire();
     if (Displayable* screen = std::exchange(mScreen, nullptr))
-        mRowDies(*screen, *this, getPrivateImplemetation());
+        mRowDies(*screen, *this, rowPrivate);
 }
 
 void ListItem::destroyPrivate()
 {
-    retireRow();
+    retireRow(mPrivate);
     setPrivate(nullptr);
 }
 

@@ -83,9 +83,11 @@ ListItem* List::privateRemoveAt(int index)
     ListItem* item = mItems[static_cast<std::size_t>(place)];
     if (mPrivate)
         mPrivate->removeAt(place, privateOf(item));
-    if (!displayableExists(this))
+    // Inside the notice somebody else may have taken the row, or deleted the list with it.
+    const int left = displayableExists(this) ? indexOf(item) : -1;
+    if (left < 0)
         return nullptr;
-    takeOffVector(indexOf(item));
+    takeOffVector(left);
     return item;
 }
 
@@ -203,7 +205,7 @@ void List::privateSetSelected(ListItem* item)
 
 void List::privateClearSelectedBackground()
 {
-    if (ListItem* item = findSelectedItem())
+    if (ListItem* item = getSelected())
         item->clearBackground();
 }
 
@@ -289,10 +291,10 @@ void List::itemDies(Displayable& screen, ListItem& item, ListItemPrivateIfc* ite
     const int index = list.indexOf(&item);
     if (index < 0)
         return;
+    // Off the vector first: the notice may delete the list, which deletes the rows that it still has.
+    list.takeOffVector(index);
     if (list.mPrivate)
         list.mPrivate->removeAt(index, itemPrivate);
-    if (displayableExists(&list))
-        list.takeOffVector(list.indexOf(&item));
 }
 
 // Without effect on this telephone: the interface of a richer list

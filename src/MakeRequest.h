@@ -36,6 +36,9 @@ public:
         *slots[mTexts++] = std::move(text);
     }
 
+    /// A literal would travel as a pointer: hand over a std::string.
+    void fill(const char* text) = delete;
+
     template <typename T>
     void fill(T* object)
     {

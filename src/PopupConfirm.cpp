@@ -9,6 +9,9 @@
 
 #include <TranslationInfo.h>
 
+// A popup whose creation was refused, since the event loop had ended, has no half on the GUI thread. A later loop may
+// still bring it calls: they change nothing, and what they hand over goes.
+
 namespace DisplayAPI {
 
 enum class PopupConfirm::Request : int {
@@ -76,56 +79,72 @@ void PopupConfirm::setLine1PrefixText(const std::string& text)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetLine1PrefixText, text));
-    mPrivate->setLine1PrefixText(text);
+    if (mPrivate)
+        mPrivate->setLine1PrefixText(text);
 }
 
 void PopupConfirm::setLine1PrefixText(TranslationInfo* text)
 {
     if (!isGuiThread())
         return postEvent(handingOver(makeRequest(this, Request::SetLine1PrefixTranslation, text), text));
-    mPrivate->setLine1PrefixText(text);
+    if (mPrivate)
+        mPrivate->setLine1PrefixText(text);
+    else
+        delete text;
 }
 
 void PopupConfirm::setText(const std::string& text)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetText, text));
-    mPrivate->setText(text);
+    if (mPrivate)
+        mPrivate->setText(text);
 }
 
 void PopupConfirm::setText(TranslationInfo* text)
 {
     if (!isGuiThread())
         return postEvent(handingOver(makeRequest(this, Request::SetTranslation, text), text));
-    mPrivate->setText(text);
+    if (mPrivate)
+        mPrivate->setText(text);
+    else
+        delete text;
 }
 
 void PopupConfirm::setLine2PrefixText(const std::string& text)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetLine2PrefixText, text));
-    mPrivate->setLine2PrefixText(text);
+    if (mPrivate)
+        mPrivate->setLine2PrefixText(text);
 }
 
 void PopupConfirm::setLine2PrefixText(TranslationInfo* text)
 {
     if (!isGuiThread())
         return postEvent(handingOver(makeRequest(this, Request::SetLine2PrefixTranslation, text), text));
-    mPrivate->setLine2PrefixText(text);
+    if (mPrivate)
+        mPrivate->setLine2PrefixText(text);
+    else
+        delete text;
 }
 
 void PopupConfirm::setLine2Text(const std::string& text)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetLine2Text, text));
-    mPrivate->setLine2Text(text);
+    if (mPrivate)
+        mPrivate->setLine2Text(text);
 }
 
 void PopupConfirm::setLine2Text(TranslationInfo* text)
 {
     if (!isGuiThread())
         return postEvent(handingOver(makeRequest(this, Request::SetLine2Translation, text), text));
-    mPrivate->setLine2Text(text);
+    if (mPrivate)
+        mPrivate->setLine2Text(text);
+    else
+        delete text;
 }
 
 void PopupConfirm::setPartyDetails(const CallPartyIdentifier& party, int)
@@ -141,7 +160,8 @@ void PopupConfirm::setState(PopupState state)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetState, state));
-    mPrivate->setState(state);
+    if (mPrivate)
+        mPrivate->setState(state);
 }
 
 // Choices
@@ -150,7 +170,8 @@ void PopupConfirm::addCommand(Command* command)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::AddCommand, command));
-    mPrivate->addCommand(command);
+    if (mPrivate)
+        mPrivate->addCommand(command);
 }
 
 void PopupConfirm::addCommand(Command*, bool) { }
@@ -159,21 +180,24 @@ void PopupConfirm::setDefaultCommand(Command* command)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetDefaultCommand, command));
-    mPrivate->setDefaultCommand(command);
+    if (mPrivate)
+        mPrivate->setDefaultCommand(command);
 }
 
 void PopupConfirm::removeCommand(Command* command)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::RemoveCommand, command));
-    mPrivate->removeCommand(command);
+    if (mPrivate)
+        mPrivate->removeCommand(command);
 }
 
 void PopupConfirm::clearCommands()
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::ClearCommands));
-    mPrivate->clearCommands();
+    if (mPrivate)
+        mPrivate->clearCommands();
 }
 
 int PopupConfirm::getSelectedIndex() const
@@ -202,21 +226,24 @@ void PopupConfirm::show()
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::Show));
-    mPrivate->show();
+    if (mPrivate)
+        mPrivate->show();
 }
 
 void PopupConfirm::dismiss()
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::Dismiss));
-    mPrivate->dismiss();
+    if (mPrivate)
+        mPrivate->dismiss();
 }
 
 void PopupConfirm::setTimeout(int milliseconds)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::SetTimeout, milliseconds));
-    mPrivate->setTimeout(milliseconds);
+    if (mPrivate)
+        mPrivate->setTimeout(milliseconds);
 }
 
 // Listeners
@@ -225,14 +252,16 @@ void PopupConfirm::addCommandListener(CommandListener* listener)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::AddCommandListener, listener));
-    mPrivate->addCommandListener(listener);
+    if (mPrivate)
+        mPrivate->addCommandListener(listener);
 }
 
 void PopupConfirm::removeCommandListener(CommandListener* listener)
 {
     if (!isGuiThread())
         return postEvent(makeRequest(this, Request::RemoveCommandListener, listener));
-    mPrivate->removeCommandListener(listener);
+    if (mPrivate)
+        mPrivate->removeCommandListener(listener);
 }
 
 MenuCommand* PopupConfirm::HIDDEN_COMMAND()

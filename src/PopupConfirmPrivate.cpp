@@ -69,6 +69,8 @@ PopupConfirmPrivate::~PopupConfirmPrivate()
     if (mOwnsWidget)
         delete mWidget.get();
     mBackCommand.reset();
+    for (TranslationHolder* line : {&mLine1PrefixInfo, &mTextInfo, &mLine2PrefixInfo, &mLine2Info})
+        line->forget();
     leaveApplication(this);
 }
 
@@ -77,7 +79,7 @@ void PopupConfirmPrivate::create()
     assertGuiThread();
     mWidget = new PopupDialogMEG;
     mBackCommand = std::make_unique<Command>("", Command::Back);
-    mWidget->UAgent::setListener(this);
+    mWidget->setListener(this);
     mWidget->setDownArrowDisplayable(true);
     joinApplication(this);
 }
@@ -87,48 +89,47 @@ UWidget* PopupConfirmPrivate::getWidget()
     return mWidget.get();
 }
 
+VantoListBoxMEG* PopupConfirmPrivate::list() const
+{
+    return mWidget ? mWidget->listBox : nullptr;
+}
+
 // Texts
 
 void PopupConfirmPrivate::setLine1PrefixText(const std::string& text)
 {
     mLine1PrefixInfo.forget();
-    mWidget->setLine1PrefixText(fromUTF8(text));
-    generateDisplayChangedEvent();
+    write(&PopupNotificationMEG::setLine1PrefixText, text);
 }
 
 void PopupConfirmPrivate::setLine1PrefixText(TranslationInfo* text)
 {
     mLine1PrefixInfo.take(text);
-    mWidget->setLine1PrefixText(fromUTF8(mLine1PrefixInfo.string()));
-    generateDisplayChangedEvent();
+    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.string());
 }
 
 void PopupConfirmPrivate::setText(const std::string& text)
 {
     mTextInfo.forget();
-    mWidget->setText(fromUTF8(text));
-    generateDisplayChangedEvent();
+    write(&PopupNotificationMEG::setText, text);
 }
 
 void PopupConfirmPrivate::setText(TranslationInfo* text)
 {
     mTextInfo.take(text);
-    mWidget->setText(fromUTF8(mTextInfo.completeString()));
-    generateDisplayChangedEvent();
+    write(&PopupNotificationMEG::setText, mTextInfo.completeString());
 }
 
 void PopupConfirmPrivate::setLine2PrefixText(const std::string& text)
 {
     mLine2PrefixInfo.forget();
-    mWidget->setLine2PrefixText(fromUTF8(text));
-    generateDisplayChangedEvent();
+    write(&PopupNotificationMEG::setLine2PrefixText, text);
 }
 
 void PopupConfirmPrivate::setLine2PrefixText(TranslationInfo* text)
 {
     mLine2PrefixInfo.take(text);
-    mWidget->setLine2PrefixText(fromUTF8(mLine2PrefixInfo.completeString()));
-    generateDisplayChangedEvent();
+    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.completeString());
 }
 
 void PopupConfirmPrivate::setLine2Text(const std::string& text)
@@ -146,21 +147,29 @@ void PopupConfirmPrivate::setLine2Text(TranslationInfo* text)
 // The second line belongs to the list, so its text goes behind the question.
 void PopupConfirmPrivate::appendToText(const std::string& text)
 {
-    mWidget->setText(mWidget->getText() + fromUTF8(" " + text));
+    if (mWidget)
+        mWidget->setText(mWidget->getText() + fromUTF8(" " + text));
+    generateDisplayChangedEvent();
+}
+
+void PopupConfirmPrivate::write(Field field, const std::string& text)
+{
+    if (mWidget)
+        (mWidget.get()->*field)(fromUTF8(text));
     generateDisplayChangedEvent();
 }
 
 void PopupConfirmPrivate::setState(PopupConfirm::PopupState state)
 {
     mState = state;
-    if (const StateIcon* icon = iconOf(state))
+    if (const StateIcon* icon = iconOf(state); icon && mWidget)
         mWidget->setStateIcon(icon->icon, 0);
     generateDisplayChangedEvent();
 }
 
 void PopupConfirmPrivate::localeChanged(std::string)
 {
-    if (!mWidget)
+    if (!mWidget || !mWidget->listBox)
         return;
     if (mLine1PrefixInfo)
         mWidget->setLine1PrefixText(fromUTF8(mLine1PrefixInfo.completeString()));
@@ -182,13 +191,15 @@ void PopupConfirmPrivate::updateRows()
             if (!Command::exists(command))
                 continue;
             // By handle: a removed command has left its row behind, so positions may differ.
-            if (auto* row = mWidget->listBox->getItemByHandle(reinterpret_cast<long>(command)))
-                row->setText(fromUTF8(command->getText()));
+            for (int row = 0; row < list()->numItems(); ++row) {
+                if (list()->item(row)->getHandle() == reinterpret_cast<long>(command))
+                    list()->item(row)->setText(fromUTF8(command->getText()));
+            }
             if (command == mCommands.front() && command->getTranslationInfo())
                 translator = command->getTranslationInfo()->translator();
         }
     }
-    mWidget->listBox->translateBack(translator ? backText(translator) : UString());
+    list()->translateBack(translator ? backText(translator) : UString());
 }
 
 // Choices
@@ -196,11 +207,11 @@ void PopupConfirmPrivate::updateRows()
 void PopupConfirmPrivate::addCommand(Command* command)
 {
     const std::optional<std::string> text = livingCommandText(command);
-    if (!text)
+    if (!text || !list())
         return;
     if (command->getType() == Command::Menu) {
         const auto handle = reinterpret_cast<long>(command);
-        mWidget->listBox->addItem(new VantoListBoxItemMEG(fromUTF8(*text), handle, false));
+        list()->addItem(new VantoListBoxItemMEG(fromUTF8(*text), handle, false));
         mCommands.push_back(command);
         if (mCommands.size() == 1)
             setBackTranslator(command);
@@ -211,19 +222,25 @@ void PopupConfirmPrivate::addCommand(Command* command)
 void PopupConfirmPrivate::setBackTranslator(Command* command)
 {
     if (const TranslationInfo* info = command->getTranslationInfo())
-        mWidget->listBox->translateBack(info->translator() ? backText(info->translator()) : UString());
+        list()->translateBack(info->translator() ? backText(info->translator()) : UString());
 }
 
 void PopupConfirmPrivate::setDefaultCommand(Command* command)
 {
+    mDefaultIndex = -1;
     auto found = std::find(mCommands.begin(), mCommands.end(), command);
     if (found != mCommands.end()) {
         mDefaultIndex = static_cast<int>(found - mCommands.begin());
     } else {
+        // The notice of the new choice may delete this object.
+        LifeNode life(this);
         addCommand(command);
+        if (!life.isAlive())
+            return;
         mDefaultIndex = static_cast<int>(mCommands.size()) - 1;
     }
-    mWidget->listBox->setCurrentItem(mDefaultIndex);
+    if (list())
+        list()->setCurrentItem(mDefaultIndex);
 }
 
 void PopupConfirmPrivate::removeCommand(Command* command)
@@ -236,14 +253,15 @@ void PopupConfirmPrivate::removeCommand(Command* command)
 
 void PopupConfirmPrivate::clearCommands()
 {
-    mWidget->listBox->clear();
+    if (list())
+        list()->clear();
     mCommands.clear();
     generateDisplayChangedEvent();
 }
 
 int PopupConfirmPrivate::getSelectedIndex()
 {
-    return mWidget && mWidget->listBox ? mWidget->listBox->currentIndex() : -1;
+    return list() ? list()->currentIndex() : -1;
 }
 
 bool PopupConfirmPrivate::selectionHasChanged()
@@ -255,7 +273,9 @@ bool PopupConfirmPrivate::selectionHasChanged()
 
 void PopupConfirmPrivate::show()
 {
-    mWidget->listBox->setCurrentItem(mDefaultIndex);
+    if (!list())
+        return;
+    list()->setCurrentItem(mDefaultIndex);
     mWidget->popupAsNotification();
 }
 
@@ -263,14 +283,16 @@ void PopupConfirmPrivate::dismiss()
 {
     // What the popup raises on its way down may delete this object.
     LifeNode life(this);
-    mWidget->dismiss();
+    if (mWidget)
+        mWidget->dismiss();
     if (life.isAlive())
         widgetDismissed(this);
 }
 
 void PopupConfirmPrivate::setTimeout(int milliseconds)
 {
-    mWidget->setTimeout(milliseconds);
+    if (mWidget)
+        mWidget->setTimeout(milliseconds);
 }
 
 void PopupConfirmPrivate::event(UEvent* event)
@@ -330,17 +352,21 @@ void PopupConfirmPrivate::windowHiddenAfterTimeout()
 
 void PopupConfirmPrivate::selectionMoved()
 {
-    mWidget->setTimeout(mWidget->getTimeout());
+    if (mWidget)
+        mWidget->setTimeout(mWidget->getTimeout());
     mSelectionChanged = true;
     generateDisplayChangedEvent();
 }
 
 void PopupConfirmPrivate::listItemSelected(VantoListBoxItemMEG* item)
 {
+    // A listener that overrides the posting may delete this object.
+    LifeNode life(this);
     auto* command = reinterpret_cast<Command*>(item->getHandle());
     if (Command::exists(command))
         postCommand(command, mParent);
-    generateDisplayChangedEvent();
+    if (life.isAlive())
+        generateDisplayChangedEvent();
 }
 
 void PopupConfirmPrivate::backSelected()
@@ -352,18 +378,22 @@ void PopupConfirmPrivate::backSelected()
 
 std::string PopupConfirmPrivate::serialise()
 {
+    if (!list())
+        return {};
     ScreenTextWriter writer;
     writer.object("PopupDialog");
     if (const StateIcon* icon = iconOf(mState); icon && icon->word)
         writer.field("icon", icon->word);
     writeText(writer, "caption");
-    writer.blocks(mWidget->listBox->screenText().toUTF8());
+    writer.blocks(list()->screenText().toUTF8());
     writer.endObject();
     return writer.take();
 }
 
 std::string PopupConfirmPrivate::serialise(const std::vector<URect>& rects)
 {
+    if (!list())
+        return {};
     const URect own = mWidget->getRect();
     if (std::none_of(rects.begin(), rects.end(), [&own](const URect& rect) { return rect.contains(own); }))
         return {};
@@ -372,7 +402,7 @@ std::string PopupConfirmPrivate::serialise(const std::vector<URect>& rects)
     if (const StateIcon* icon = iconOf(mState); icon && icon->word && mState != PopupConfirm::MobileUserChanges)
         writer.field("icon", icon->word);
     writeText(writer, "string0");
-    writer.blocks(mWidget->listBox->screenText(rects).toUTF8());
+    writer.blocks(list()->screenText(rects).toUTF8());
     writer.endObject();
     return writer.take();
 }

@@ -5,17 +5,23 @@
 
 #include "TranslationHolder.h"
 
+#include <UString.h>
+
 #include <vector>
 
 class PopupDialogMEG;
+class PopupNotificationMEG;
 class URect;
 class VantoListBoxItemMEG;
+class VantoListBoxMEG;
 
 namespace DisplayAPI {
 
 class ScreenTextWriter;
 
 /// The question popup on the GUI thread: a PopupDialogMEG with its texts and a row for each choice.
+///
+/// A toolkit tree that holds the widget may delete it; then everything here is without effect.
 class PopupConfirmPrivate final : public PopupConfirmPrivateIfc {
 public:
     explicit PopupConfirmPrivate(Displayable* parent);
@@ -81,7 +87,11 @@ public:
     std::string serialise(const std::vector<URect>& rects);
 
 private:
+    using Field = void (PopupNotificationMEG::*)(const UString& text);
+
     void create();
+    VantoListBoxMEG* list() const;
+    void write(Field field, const std::string& text);
     void appendToText(const std::string& text);
     void setBackTranslator(Command* command);
     void popupCameUp();

@@ -258,6 +258,7 @@ TEST_F(ListTest, ListsOfManyRowsEnd)
 
 TEST_F(ListTest, AFailedRemoveAtIsLogged)
 {
+    messages.clear();
     LogControl::setLevel("DisplayAPI::List", 3);
     LogControl::setSink([](const LogControl::Message& message) { messages.push_back(message); });
     List list(0);
@@ -298,6 +299,7 @@ TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
         {"remove", [](List& list) { list.remove(list.getItems()[0]); }},
         {"removeAll", [](List& list) { list.removeAll(); }},
         {"clear", [](List& list) { list.clear(); }},
+        {"delete a row", [](List& list) { delete list.getItems()[0]; }},
         {"setTitle", [](List& list) { list.setTitle("T"); }},
         {"setSelected", [](List& list) { list.setSelected(list.getItems()[1]); }},
         {"Ok", [this](List&) { press(UGlobal::KeyOk); }},

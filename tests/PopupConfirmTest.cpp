@@ -14,6 +14,7 @@
 #include <UApplication.h>
 #include <UWidget.h>
 
+#include <functional>
 #include <map>
 
 using namespace DisplayAPI;
@@ -302,22 +303,78 @@ TEST_F(PopupConfirmTest, NoOrderOfDestructionIsFatal)
     EXPECT_EQ(outlives.getSelectedIndex(), 0);
 }
 
-TEST_F(PopupConfirmTest, ASubscriberMayDeleteThePopupWhileItGoesDown)
+TEST_F(PopupConfirmTest, ASubscriberMayDeleteThePopupInAnyNotice)
 {
     struct Deleter : DisplayEventIfc {
         void displayChanged(std::string) override { popup.reset(); }
         std::unique_ptr<PopupConfirm> popup;
     } deleter;
-    List below(0);
-    show(below);
-    deleter.popup = std::make_unique<PopupConfirm>(true);
-    deleter.popup->addCommand(&yes);
-    show(*deleter.popup);
-    display->subscribe(&deleter);
-    press(UGlobal::KeyOk); // the notice behind the choice deletes the popup
-    EXPECT_EQ(deleter.popup, nullptr);
-    EXPECT_EQ(display->getCurrent(), &below);
-    display->subscribe(&changes);
+    using Change = std::function<void(PopupConfirm&)>;
+    const std::pair<const char*, Change> table[] = {
+        {"setLine1PrefixText", [](PopupConfirm& popup) { popup.setLine1PrefixText("Delete"); }},
+        {"setText", [](PopupConfirm& popup) { popup.setText(new TranslationInfo("entry?", nullptr)); }},
+        {"setLine2Text", [](PopupConfirm& popup) { popup.setLine2Text("Anna"); }},
+        {"setState", [](PopupConfirm& popup) { popup.setState(PopupConfirm::Recall); }},
+        {"addCommand", [this](PopupConfirm& popup) { popup.addCommand(&no); }},
+        {"setDefaultCommand", [this](PopupConfirm& popup) { popup.setDefaultCommand(&no); }},
+        {"removeCommand", [this](PopupConfirm& popup) { popup.removeCommand(&yes); }},
+        {"clearCommands", [](PopupConfirm& popup) { popup.clearCommands(); }},
+        {"dismiss", [](PopupConfirm& popup) { popup.dismiss(); }},
+        {"time-out", [this](PopupConfirm&) { advance(3000); }},
+        {"Ok", [this](PopupConfirm&) { press(UGlobal::KeyOk); }},
+    };
+    for (const auto& [name, change] : table) {
+        SCOPED_TRACE(name);
+        deleter.popup = std::make_unique<PopupConfirm>(true);
+        deleter.popup->setTimeout(3000);
+        deleter.popup->addCommandListener(&listener);
+        deleter.popup->addCommand(&yes);
+        show(*deleter.popup);
+        display->subscribe(&deleter);
+        change(*deleter.popup);
+        display->subscribe(&changes);
+        EXPECT_EQ(deleter.popup, nullptr);
+        EXPECT_EQ(display->getCurrent(), nullptr);
+    }
+}
+
+TEST_F(PopupConfirmTest, APopupWhoseWidgetHasGoneIsQuiet)
+{
+    PopupConfirm popup(true);
+    popup.addCommand(&yes);
+    PopupConfirmPrivate& whole = half(popup);
+    whole.releaseOwnership();
+    delete whole.getWidget();
+    popup.setText(new TranslationInfo("entry?", nullptr));
+    popup.setLine2Text("Anna");
+    popup.setState(PopupConfirm::Question);
+    popup.setDefaultCommand(&no);
+    popup.removeCommand(&yes);
+    popup.clearCommands();
+    popup.setTimeout(1000);
+    popup.show();
+    popup.dismiss();
+    display->localeChanged("fr");
+    show(popup);
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_EQ(popup.getSelectedIndex(), -1);
+    EXPECT_EQ(whole.serialise(), "");
+    EXPECT_EQ(whole.serialise(std::vector<URect>{URect(0, 0, 161, 30)}), "");
+}
+
+TEST_F(PopupConfirmTest, ChoicesWithTheSameCommandFollowTheLocaleTogether)
+{
+    Dictionary dictionary;
+    MenuCommand command(new TranslationInfo("", "ok", "?", &dictionary), 3);
+    PopupConfirm popup(true);
+    popup.addCommand(&command);
+    popup.addCommand(&command);
+    show(popup);
+    dictionary.words = {{"ok", "Oui"}};
+    display->localeChanged("fr");
+    EXPECT_EQ(screenField("string0"), "Oui?");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(screenField("string0"), "Oui?");
 }
 
 TEST_F(PopupConfirmTest, OddTextsAreTakenAsTheyAre)

@@ -22,7 +22,8 @@ class Displayable;
 /// lets its waiter go.
 class DISPLAYAPI_EXPORT DisplayRequestEvent : public UEvent {
 public:
-    /// The requests by number.
+    /// The requests by number. Only Display itself may post Serialise and SerialiseByRect: their caller must give
+    /// back the lock of the text.
     enum DisplayRequests : int {
         Hide = 0,
         Show = 1,

@@ -107,8 +107,8 @@ protected:
     void setPrivate(ListItemPrivateIfc* rowPrivate);
 
     /// The deletion of a row's private on the GUI thread: retires the handle and takes the row out of its
-    /// screen. What is left is to delete the private.
-    void retireRow();
+    /// screen. What is left is to delete the private, which the caller names: a destructor reaches no override.
+    void retireRow(ListItemPrivateIfc* rowPrivate);
 
 private:
     enum class Request : int;

@@ -1,3 +1,4 @@
+#include "Disturbance.h"
 #include "MakeRequest.h"
 #include "TestScreen.h"
 #include "ThreadedPhoneTest.h"
@@ -5,7 +6,6 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/Widget.h>
 
-#include <Disturb.h>
 #include <EventPool.h>
 #include <Semaphore.h>
 #include <UApplication.h>
@@ -18,7 +18,6 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
 #include <functional>
 #include <memory>
 #include <new>
@@ -154,35 +153,6 @@ private:
     bool mIsCreated = false;
 };
 
-void underDisturbance(const std::function<void()>& workload)
-{
-    for (std::uint64_t seed = 1; seed <= 200 && !testing::Test::HasFailure(); ++seed) {
-        SCOPED_TRACE(seed);
-        setDisturbanceSeed(seed);
-        workload();
-    }
-    setDisturbanceSeed(0);
-}
-
-void runThreads(int count, const std::function<void(int)>& work)
-{
-    std::vector<std::thread> threads;
-    for (int i = 0; i < count; ++i)
-        threads.emplace_back(work, i);
-    for (std::thread& thread : threads)
-        thread.join();
-}
-
-bool isAsleep(pid_t task)
-{
-    std::ifstream file("/proc/self/task/" + std::to_string(task) + "/status");
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with("State:"))
-            return line.find('S', 6) != std::string::npos;
-    }
-    return false;
-}
-
 void pass()
 {
     ULoop::instance().processEvents();
@@ -297,7 +267,7 @@ TEST_F(FrameTest, AnAsynchronousCallWaitsBehindASynchronousOneOfAnotherThread)
             task = gettid();
             journal.addLater(1);
         });
-        while (task == 0 || !isAsleep(task))
+        while (task == 0 || !isAtRest(task))
             std::this_thread::yield();
         // Had it been posted, this nested pass would run it.
         pass();
@@ -380,7 +350,7 @@ TEST_F(FrameTest, ADeadHandleRunsNothingAndLetsItsCallersGo)
                 call();
             });
             // All but the first wait for the lock of the handle, the last one for its answer or the lock.
-            while (tasks[i] == 0 || !isAsleep(tasks[i]))
+            while (tasks[i] == 0 || !isAtRest(tasks[i]))
                 std::this_thread::yield();
         }
         EXPECT_EQ(gLivingNotes, 1);

@@ -1,5 +1,5 @@
 #include "Gate.h"
-#include "Disturb.h"
+#include "Disturbance.h"
 #include "Semaphore.h"
 
 #include <gtest/gtest.h>
@@ -7,37 +7,9 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <future>
 #include <memory>
 #include <thread>
-#include <vector>
-
-namespace {
-
-/// Runs a small workload under each of 200 disturbances.
-void underDisturbance(const std::function<void()>& workload)
-{
-    for (std::uint64_t seed = 1; seed <= 200; ++seed) {
-        SCOPED_TRACE(seed);
-        setDisturbanceSeed(seed);
-        workload();
-        if (testing::Test::HasFailure())
-            break;
-    }
-    setDisturbanceSeed(0);
-}
-
-void runThreads(int count, const std::function<void(int)>& work)
-{
-    std::vector<std::thread> threads;
-    for (int i = 0; i < count; ++i)
-        threads.emplace_back(work, i);
-    for (std::thread& thread : threads)
-        thread.join();
-}
-
-}
 
 TEST(GateTest, ACountNeverGoesAboveTheMaximum)
 {

@@ -7,17 +7,17 @@
 UAgent::~UAgent()
 {
     if (UAgent* listener = mListener) {
-        unlinkFromListener();
+        unlinkFrom(*listener);
         listener->removeEmitter(this);
         // It may have found another one for an agent that is going.
         if (mListener)
-            unlinkFromListener();
+            unlinkFrom(*mListener);
     }
     while (UAgent* emitter = mEmitters) {
         emitter->removeListener(this);
         // An override may have kept the link; it must not outlive this agent.
         if (emitter == mEmitters)
-            emitter->unlinkFromListener();
+            emitter->unlinkFrom(*this);
     }
     if (mIsInHub)
         ListenerHub::instance().remove(this);
@@ -35,7 +35,7 @@ void UAgent::setListener(UAgent* listener)
         return;
     UAgent* old = mListener;
     if (old)
-        unlinkFromListener();
+        unlinkFrom(*old);
     if (listener) {
         mListener = listener;
         mNextEmitter = listener->mEmitters;
@@ -51,7 +51,7 @@ void UAgent::setListener(UAgent* listener)
 void UAgent::removeListener(UAgent* listener)
 {
     if (listener && listener == mListener)
-        unlinkFromListener();
+        unlinkFrom(*listener);
 }
 
 void UAgent::removeEmitter(UAgent*) { }
@@ -81,12 +81,12 @@ bool UAgent::relay(const UEvent& event)
     return emit(event.type, event.source(), event.payload());
 }
 
-void UAgent::unlinkFromListener()
+void UAgent::unlinkFrom(UAgent& listener)
 {
     if (mPreviousEmitter)
         mPreviousEmitter->mNextEmitter = mNextEmitter;
     else
-        mListener->mEmitters = mNextEmitter;
+        listener.mEmitters = mNextEmitter;
     if (mNextEmitter)
         mNextEmitter->mPreviousEmitter = mPreviousEmitter;
     mListener = mNextEmitter = mPreviousEmitter = nullptr;

@@ -52,7 +52,7 @@ private:
     friend class LifeNode;
     friend class ListenerHub;
 
-    void unlinkFromListener();
+    void unlinkFrom(UAgent& listener);
 
     UAgent* mListener = nullptr;
     UAgent* mEmitters = nullptr; // those whose listener this is
@@ -94,7 +94,12 @@ public:
     UPointer() = default;
     UPointer(T* object) { *this = object; }
     UPointer(const UPointer& other) { *this = other.get(); }
-    UPointer& operator=(const UPointer& other) { return *this = other.get(); }
+    UPointer& operator=(const UPointer& other)
+    {
+        if (this != &other)
+            *this = other.get();
+        return *this;
+    }
     UPointer& operator=(T* object)
     {
         mObject = object;

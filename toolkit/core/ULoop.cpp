@@ -37,7 +37,7 @@ void ULoop::post(UEvent* event)
     if (!event)
         return;
     disturb();
-    // Whoever is refused must see all that the loop has run, since it may delete the receiver now.
+    // Who is refused may destroy what the loop's last events worked on: he must see their end.
     UEvent* newest = mNewest.load(std::memory_order_acquire);
     do {
         if (newest == Closed) {

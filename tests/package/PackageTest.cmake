@@ -1,0 +1,80 @@
+# Installs a build into a folder of its own, and builds and runs programs with what lies there: once through
+# find_package, once through pkg-config. Run with `cmake -D NAME=VALUE ... -P PackageTest.cmake`:
+#
+#   BUILD, WORK      the build to install, and a folder that is made anew
+#   COMPILER, FLAGS  with which the build was made: who links a sanitized library needs its sanitizer
+#   GENERATOR        for the build of the programs
+#   PKG_CONFIG       the program, or empty
+#   SIMULATOR        whether the simulator is in the build
+
+cmake_minimum_required(VERSION 3.25)
+
+# Runs a command and ends the test if it fails; gives its output.
+function(run output)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE text ERROR_VARIABLE errors)
+    if(NOT result EQUAL 0)
+        list(JOIN ARGN " " command)
+        message(FATAL_ERROR "${command}\nended with ${result}:\n${text}${errors}")
+    endif()
+    set(${output} "${text}" PARENT_SCOPE)
+endfunction()
+
+function(expect_speaker title text)
+    if(NOT text MATCHES "Speaker")
+        message(FATAL_ERROR "${title} does not show its row:\n${text}")
+    endif()
+    message(STATUS "${title}: ok")
+endfunction()
+
+function(build_with_pkg_config package source program)
+    run(flags ${CMAKE_COMMAND} -E env PKG_CONFIG_PATH=${library_folder}/pkgconfig
+        ${PKG_CONFIG} --cflags --libs ${package})
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run(nothing ${COMPILER} -std=c++20 ${compile_flags} ${consumer}/${source} -o ${program}
+        ${flags} -Wl,-rpath,${library_folder})
+endfunction()
+
+# Every header that was installed is found by the others, under the name that they use.
+function(compile_all_headers)
+    file(GLOB headers RELATIVE ${WORK}/prefix/include ${WORK}/prefix/include/DisplayAPI/*.h
+        ${WORK}/prefix/include/displaytoolkit/*.h)
+    list(TRANSFORM headers PREPEND "#include <")
+    list(TRANSFORM headers APPEND ">\n")
+    file(WRITE ${WORK}/headers.cpp ${headers})
+    run(nothing ${COMPILER} -std=c++20 -fsyntax-only -I${WORK}/prefix/include -I${WORK}/prefix/include/displaytoolkit
+        ${WORK}/headers.cpp)
+    message(STATUS "headers: ok")
+endfunction()
+
+set(consumer ${CMAKE_CURRENT_LIST_DIR}/consumer)
+separate_arguments(compile_flags UNIX_COMMAND "${FLAGS}")
+file(REMOVE_RECURSE ${WORK})
+run(nothing ${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
+file(GLOB_RECURSE library ${WORK}/prefix/*/libDisplayAPI.so)
+cmake_path(GET library PARENT_PATH library_folder)
+
+compile_all_headers()
+
+run(nothing ${CMAKE_COMMAND} -G ${GENERATOR} -S ${consumer} -B ${WORK}/build
+    -D CMAKE_PREFIX_PATH=${WORK}/prefix -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_CXX_FLAGS=${FLAGS}
+    -D WITH_SIMULATOR=${SIMULATOR})
+run(nothing ${CMAKE_COMMAND} --build ${WORK}/build)
+run(text ${WORK}/build/screen-text)
+expect_speaker("find_package" "${text}")
+if(SIMULATOR)
+    run(text ${WORK}/build/phonelet --text)
+    expect_speaker("find_package with the simulator" "${text}")
+    run(text ${WORK}/prefix/bin/phone --text)
+    expect_speaker("the installed telephone" "${text}")
+endif()
+
+if(PKG_CONFIG)
+    build_with_pkg_config(DisplayAPI screen-text.cpp ${WORK}/screen-text)
+    run(text ${WORK}/screen-text)
+    expect_speaker("pkg-config" "${text}")
+    if(SIMULATOR)
+        build_with_pkg_config(PhoneSimulator phonelet.cpp ${WORK}/phonelet)
+        run(text ${WORK}/phonelet --text)
+        expect_speaker("pkg-config with the simulator" "${text}")
+    endif()
+endif()
