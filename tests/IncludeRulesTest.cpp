@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 #include <vector>
 
@@ -99,19 +99,33 @@ private:
 
     void check(const Layer& layer, const fs::path& file)
     {
-        static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"].*)");
         ++mFilesChecked;
         std::ifstream source(mRoot / file);
         std::string line;
         for (int number = 1; std::getline(source, line); ++number) {
-            std::smatch match;
-            if (line.find('#') == std::string::npos || !std::regex_match(line, match, include))
+            const std::string name = includedName(line);
+            if (name.empty())
                 continue;
-            const std::string fault = faultOf(layer, file, match[2], match[1] == "\"");
+            const std::string fault = faultOf(layer, file, name, line.find('"') < line.find(name));
             if (!fault.empty())
                 mViolations.push_back(
-                    file.generic_string() + ":" + std::to_string(number) + ": <" + match[2].str() + "> " + fault);
+                    file.generic_string() + ":" + std::to_string(number) + ": <" + name + "> " + fault);
         }
+    }
+
+    /// What stands between the brackets or quotes of an include; empty for any other line.
+    static std::string includedName(std::string_view line)
+    {
+        const auto skip = [&line](std::string_view word) {
+            line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+            const bool isThere = line.starts_with(word);
+            line.remove_prefix(isThere ? word.size() : 0);
+            return isThere;
+        };
+        if (!skip("#") || !skip("include") || (!skip("<") && !skip("\"")))
+            return {};
+        const std::size_t end = line.find_first_of(">\"");
+        return end == std::string_view::npos ? std::string() : std::string(line.substr(0, end));
     }
 
     /// What is wrong with an include; empty if it is allowed.
