@@ -93,6 +93,8 @@ void DisplayPrivate::addDisplayableToStack(Displayable* displayable)
 void DisplayPrivate::addNewCurrent(Displayable* displayable)
 {
     const StackScreen screen(displayable);
+    if (!screen)
+        return;
     screen.widget().setParent(nullptr);
     showWidget(*screen);
     // A screen that is shown gives a notice, in which the subscriber may have changed the stack again.

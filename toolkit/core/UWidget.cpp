@@ -2,6 +2,8 @@
 
 #include "UWindowManager.h"
 
+#include <cassert>
+
 UWidget::UWidget(UWidget* parent)
 {
     if (!parent)
@@ -13,11 +15,12 @@ UWidget::UWidget(UWidget* parent)
 UWidget::~UWidget()
 {
     if (UWidget* parent = mParent) {
-        unlink();
+        unlinkFrom(*parent);
         parent->childLeft(this);
     }
     while (UWidget* child = mLastChild) {
-        child->unlink();
+        child->unlinkFrom(*this);
+        assert(child != mLastChild);
         delete child;
     }
     UWindowManager::instance().widgetDies(this);
@@ -32,7 +35,7 @@ void UWidget::setParent(UWidget* parent)
             return;
     }
     if (UWidget* old = mParent) {
-        unlink();
+        unlinkFrom(*old);
         old->childLeft(this);
     }
     if (parent)
@@ -88,10 +91,10 @@ void UWidget::refresh()
 
 void UWidget::paint(UPainter&) { }
 
-void UWidget::unlink()
+void UWidget::unlinkFrom(UWidget& parent)
 {
-    (mPreviousSibling ? mPreviousSibling->mNextSibling : mParent->mFirstChild) = mNextSibling;
-    (mNextSibling ? mNextSibling->mPreviousSibling : mParent->mLastChild) = mPreviousSibling;
+    (mPreviousSibling ? mPreviousSibling->mNextSibling : parent.mFirstChild) = mNextSibling;
+    (mNextSibling ? mNextSibling->mPreviousSibling : parent.mLastChild) = mPreviousSibling;
     mParent = mNextSibling = mPreviousSibling = nullptr;
 }
 

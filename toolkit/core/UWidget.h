@@ -101,7 +101,7 @@ public:
     virtual Layer layer() const { return Layer::Screen; }
 
 private:
-    void unlink();
+    void unlinkFrom(UWidget& parent);
     void link(UWidget* parent);
 
     UWidget* mParent = nullptr;

@@ -22,7 +22,7 @@ UString withColon(const UString& prefix)
 PopupNotificationMEG::PopupNotificationMEG()
     : mTurnTimer(this, TurnTime)
 {
-    updatePopupNotificationCoordinates();
+    place(PopupNotificationMEG::coversGlass());
 }
 
 PopupNotificationMEG::~PopupNotificationMEG() = default;
@@ -118,7 +118,12 @@ void PopupNotificationMEG::setIsSplit(bool split)
 
 void PopupNotificationMEG::updatePopupNotificationCoordinates()
 {
-    setCoordinates(0, coversGlass() ? 0 : 15, 161, 30);
+    place(coversGlass());
+}
+
+void PopupNotificationMEG::place(bool coversGlass)
+{
+    setCoordinates(0, coversGlass ? 0 : 15, 161, 30);
 }
 
 // Keys and time

@@ -104,6 +104,7 @@ private:
     void setParty(Line& line, const UString& name, const UString& number);
     void restartTurns();
     void contentChanged();
+    void place(bool coversGlass);
 
     Line mLine1;
     Line mLine2;

@@ -13,8 +13,8 @@ namespace {
 constexpr int GlassLines = 2;
 constexpr std::uint64_t Second = 1000;
 constexpr std::uint64_t Minute = 60 * Second;
-constexpr std::uint64_t Day = 24 * 60 * Minute;
-constexpr std::uint64_t LongestTime = 100 * 60 * Minute - Second; // 99:59:59
+constexpr std::uint64_t Day = Minute * 60 * 24;
+constexpr std::uint64_t LongestTime = Minute * 60 * 100 - Second; // 99:59:59
 
 constexpr unsigned short HeadsetIcon = 90;
 constexpr unsigned short SpeakerIcon = 102;
@@ -42,7 +42,8 @@ std::optional<std::uint64_t> parseTime(const std::string& text)
         const char ones = text[3 * index + 1];
         if (!isDigit(tens) || !isDigit(ones))
             return std::nullopt;
-        fields[index] = static_cast<std::uint64_t>((tens - '0') * 10 + (ones - '0'));
+        const int number = (tens - '0') * 10 + (ones - '0');
+        fields[index] = static_cast<std::uint64_t>(number);
     }
     if (fields[1] > 59 || fields[2] > 59)
         return std::nullopt;
@@ -51,7 +52,7 @@ std::optional<std::uint64_t> parseTime(const std::string& text)
 
 UString clockText(std::uint64_t milliseconds)
 {
-    const unsigned minutes = static_cast<unsigned>(milliseconds / Minute % (24 * 60));
+    const unsigned minutes = static_cast<unsigned>(milliseconds % Day / Minute);
     char text[8];
     std::snprintf(text, sizeof text, "%02u:%02u", minutes / 60, minutes % 60);
     return UString(std::string(text));
