@@ -2,6 +2,7 @@
 #include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 
+#include "ExistingDisplayables.h"
 #include "LivingDisplays.h"
 
 namespace DisplayAPI {
@@ -49,7 +50,11 @@ void DisplayablePrivate::generateDisplayChangedEvent()
 
 void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 {
-    mCommandListeners.notify(&CommandListener::postCommandAction, command, displayable);
+    mCommandListeners.forEach([command, displayable](CommandListener* listener) {
+        // An overridden post may delete the screen; nobody shall be told of a dead one.
+        if (!displayable || displayableExists(displayable))
+            listener->postCommandAction(command, displayable);
+    });
 }
 
 }
