@@ -236,6 +236,39 @@ TEST_P(DeletedOnTheStack, IsForgottenWithoutShowOrNotice)
     EXPECT_EQ(stackText(), "");
 }
 
+TEST_P(DeletedOnTheStack, IsDroppedByTheNextWalkIfItSaidNothing)
+{
+    std::unique_ptr<TestScreen>* all[] = {&bottom, &middle, &top};
+    const std::vector<std::function<void()>> walks{
+        [&] { display->setCurrent(nullptr); },
+        [&] { display->show(); },
+        [&] { display->serialise(); },
+        [&] { display->serialiseByRect({}, ""); },
+        [&] { display->getDisplayedRects(); },
+        [&] { display->findVisibleRects(); },
+        [&] { display->setStatusMessageAvailable(true); },
+        [&] { display->clearSWfromDisplayable(); },
+        [&] { display->removeOldCurrent(); },
+        [&] { display->widgetDismissed((*all[GetParam().current])->getPrivateImpl()); },
+        [&] { display.reset(); },
+    };
+    for (const auto& walk : walks) {
+        makeDisplay();
+        display->show();
+        bottom = makeScreen("bottom");
+        middle = makeScreen("middle", Kind::Popup);
+        top = makeScreen("top", Kind::Popup);
+        fill();
+        (*all[GetParam().screen])->isRetiring = false;
+        all[GetParam().screen]->reset();
+        walk();
+        if (display) {
+            EXPECT_TRUE(!display->getCurrent() || displayableExists(display->getCurrent()));
+            EXPECT_LT(display->getDisplayedRects()->size(), 3u);
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Positions, DeletedOnTheStack,
     ::testing::Values(Deletion{"Bottom", 0, "middle top", 2}, Deletion{"Middle", 1, "bottom top", 2},
         Deletion{"Top", 2, "bottom middle", 1}),
