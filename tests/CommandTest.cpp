@@ -8,7 +8,6 @@
 #include <DisplayAPI/ListenerList.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include <Log.h>
 #include <Semaphore.h>
 #include <TranslationInfo.h>
 #include <UApplication.h>
@@ -16,14 +15,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <type_traits>
-#include <vector>
 
 using namespace DisplayAPI;
 
@@ -69,7 +66,6 @@ protected:
     {
         CommandExecutor::retrieveCommand(nullptr, nullptr, nullptr);
         CommandExecutor::retrieveCommand(nullptr, nullptr);
-        LogControl::reset();
     }
     static void post(CommandListener& listener, Command& command, Displayable* screen = nullptr)
     {
@@ -195,33 +191,6 @@ TEST(MenuCommandTest, TheFieldsOnOneLine)
     EXPECT_EQ(MenuCommand(nullptr, nullptr, 1).toString(), MenuCommand("", 1).toString());
     static_assert(!std::is_constructible_v<MenuCommand, const char*, const char*, unsigned long>);
     EXPECT_EQ(MenuCommand("", PhonebookItem::Mobile, 1).toString(), "4:0:1::F:0:F:F:F:F:F:0:");
-}
-
-TEST(MenuCommandTest, EachFieldMakesADifference)
-{
-    using Change = void (*)(MenuCommand&);
-    const std::vector<Change> changes = {
-        [](MenuCommand& command) { command.setLabel("other"); },
-        [](MenuCommand& command) { command.setUseAlternativeDisplay(true); },
-        [](MenuCommand& command) { command.setUnifiedIconType(static_cast<Icons::IconType>(1)); },
-        [](MenuCommand& command) { command.setTextEntryBoxVisible(true); },
-        [](MenuCommand& command) { command.setReadOnly(true); },
-        [](MenuCommand& command) { command.setFeatureClearDrop(true); },
-        [](MenuCommand& command) { command.setPhoneBookActivated(true); },
-        [](MenuCommand& command) { command.setIconExpected(true); },
-        [](MenuCommand& command) { command.setAssignedFPK(static_cast<PhysDefs::keyCode>(1)); },
-    };
-    const MenuCommand original("label", 5);
-    EXPECT_TRUE(original == MenuCommand("label", 5));
-    for (std::size_t i = 0; i < changes.size(); ++i) {
-        MenuCommand changed("label", 5);
-        changes[i](changed);
-        EXPECT_TRUE(original != changed) << "change " << i;
-    }
-    std::string path = "path";
-    EXPECT_FALSE(original == MenuCommand("label", 6));
-    EXPECT_FALSE(original == MenuCommand("label", PhonebookItem::Folder, 5));
-    EXPECT_FALSE(original == MenuCommand("label", path, 5));
 }
 
 TEST_F(QueueTest, CommandsComeInTheOrderOfPostingAndChangesOnce)
@@ -352,27 +321,4 @@ TEST_F(QueueTest, AListenerMayPostAndRecallFromItsDelivery)
     post(insistent, no);
     post(otto, yes);
     EXPECT_EQ(deliver(), "otto:yes anna:no");
-}
-
-TEST_F(QueueTest, EachRecallIsLoggedWithoutTheLock)
-{
-    static std::vector<LogControl::Message> messages;
-    messages.clear();
-    LogControl::setLevel("DisplayAPI::AbbreviatedItemPrivate", 5);
-    LogControl::setSink([](const LogControl::Message& message) {
-        messages.push_back(message);
-        CommandExecutor::retrieveCommand(nullptr, nullptr); // would stand still under the lock
-    });
-    post(anna, yes);
-    post(anna, yes, &screen);
-    anna.retrievePendingCommandAction(&yes, nullptr);
-    post(anna, field);
-    anna.retrievePendingItemStateChange(&field);
-
-    ASSERT_EQ(messages.size(), 3U);
-    EXPECT_EQ(messages[0].text, messages[1].text);
-    EXPECT_TRUE(messages[0].text.starts_with("CommandExecutor::retrieveCommand(CommandListener=0x"));
-    EXPECT_TRUE(messages[0].text.ends_with(", Displayable=(nil)) recall of posted command."));
-    EXPECT_TRUE(messages[2].text.starts_with("CommandExecutor::retrieveCommand(ItemStateListener=0x"));
-    EXPECT_EQ(messages[2].level, 5);
 }

@@ -3,7 +3,6 @@
 #include "StackFixture.h"
 
 #include <FPKBarMEG.h>
-#include <SystemWindow.h>
 #include <UApplication.h>
 #include <UWindowManager.h>
 
@@ -44,25 +43,6 @@ TEST_F(ContentWidgetTest, TheRootAndTheScreenHaveTheSizeOfTheProcess)
     }
     display.reset();
     EXPECT_EQ(UWindowManager::instance().root(), nullptr);
-}
-
-TEST_F(ContentWidgetTest, OnlySoftwareTypeOneHasASystemWindow)
-{
-    for (const char* type : {"Zelmark SIP", "Zelmark QVT", "something else"}) {
-        makeDisplay(type);
-        ContentWidget widget;
-        const bool isQvt = type == std::string("Zelmark QVT");
-        widget.setSystemWindowText(0, "Text", "");
-        EXPECT_EQ(widget.getSystemWindowText(0, "key"), isQvt ? "Text" : "") << type;
-        EXPECT_EQ(widget.getSystemWindow() != nullptr, isQvt) << type;
-        widget.setSWCurrentNumLines(2);
-        EXPECT_EQ(widget.getSWCurrentNumLines(), 2) << type;
-        widget.setAndUpdateHeadSetIcon(true);
-        widget.setAndUpdateSpeakerIcon(true);
-        widget.setAndUpdateMuteIcon(true);
-        widget.startTimer("00:00:01");
-        EXPECT_GE(widget.getSystemWindowTimeToNextUpdate(), 0) << type;
-    }
 }
 
 TEST_F(ContentWidgetTest, ASystemWindowGoesWithItsContentAlsoWhenTheSoftwareTypeHasChanged)
@@ -119,29 +99,6 @@ TEST_F(ContentWidgetTest, WithoutAFunctionKeyBarItsOperationsDoNothing)
     display->callShowFPKBarMethodFromAdminPhonelet();
     display->showFPKBar();
     EXPECT_EQ(content()->firstChild(), nullptr);
-}
-
-TEST_F(ContentWidgetTest, WithoutAnApplicationThereIsThePlainContent)
-{
-    VantoUApplication::endCurrent();
-    ContentWidget widget;
-    EXPECT_EQ(widget.height(), 31);
-    EXPECT_EQ(widget.getSystemWindow(), nullptr);
-    EXPECT_EQ(widget.getFPKBar(), nullptr);
-}
-
-TEST_F(ContentWidgetTest, AChangeGoesToTheFirstLineAndToTheSubscriber)
-{
-    makeDisplay("Zelmark QVT");
-    ContentWidget widget;
-    EXPECT_FALSE(widget.onChange(nullptr, "early", ""));
-    widget.setParent(display.get());
-    EXPECT_FALSE(widget.onChange(nullptr, "bad \xFF byte", ""));
-    EXPECT_EQ(widget.getSystemWindowText(0, ""), "bad \xEF\xBF\xBD byte");
-    EXPECT_EQ(subscriber.takeNotices(), 1);
-    EXPECT_FALSE(widget.onChange(nullptr, "inherited, without effect"));
-    EXPECT_FALSE(widget.onOK(nullptr));
-    EXPECT_EQ(widget.setSystemWindowTop(1, true, false), 0);
 }
 
 TEST_F(ContentWidgetTest, AnotherFactoryBringsAnotherContentAndBelongsToTheDisplay)

@@ -51,18 +51,6 @@ protected:
     std::unique_ptr<TestScreen> top;
 };
 
-TEST_F(DisplayStackTest, APopupLiesOnTopOfWhatIsThere)
-{
-    display->setCurrent(bottom.get());
-    display->setCurrent(middle.get());
-    EXPECT_EQ(takeLog(), (Lines{"show bottom", "show middle"}));
-    EXPECT_EQ(stackText(), "bottom middle");
-    EXPECT_EQ(display->getCurrent(), middle.get());
-    EXPECT_FALSE(bottom->screen().isOwner);
-    EXPECT_FALSE(middle->screen().isOwner);
-    EXPECT_TRUE(bottom->widget().isVisible());
-}
-
 TEST_F(DisplayStackTest, APopupMadeCurrentAgainStandsOnceAndOnTop)
 {
     fill();
@@ -170,16 +158,6 @@ TEST_F(DisplayStackTest, AHiddenDisplayOnlyBuildsTheStackAndShowsItsTopLater)
     EXPECT_EQ(subscriber.takeNotices(), 1);
 }
 
-TEST_F(DisplayStackTest, OnlyHardwareVariantZeroGivesANoticeForShowAndHide)
-{
-    auto* application = VantoUApplication::getCurrentApplication();
-    application->setHardwareVariant(static_cast<VantoUApplication::HardwareVariant>(1));
-    subscriber.takeNotices();
-    display->hide();
-    display->show();
-    EXPECT_EQ(subscriber.takeNotices(), 0);
-}
-
 TEST_F(DisplayStackTest, TheCallViewKeepsTheFullScreenWhenItIsHidden)
 {
     for (const bool isCallView : {false, true}) {
@@ -215,19 +193,6 @@ TEST_F(DisplayStackTest, WhatIsNoScreenIsIgnored)
     EXPECT_EQ(subscriber.takeNotices(), 0);
 }
 
-TEST_F(DisplayStackTest, AScreenThatLosesItsWidgetOnTheStackIsPassedOver)
-{
-    fill();
-    middle->screen().hasWidget = false;
-    top->screen().dismiss();
-    EXPECT_EQ(display->getCurrent(), middle.get());
-    display->hide();
-    display->show();
-    EXPECT_EQ(display->getDisplayedRects()->size(), 1u);
-    EXPECT_EQ(display->serialiseByRect({Rect(0, 0, 162, 31)}, ""), bottom->screen().text);
-    middle->screen().hasWidget = true;
-}
-
 TEST_F(DisplayStackTest, AServerDisplayIsCurrentWithoutAStack)
 {
     makeDisplay("Zelmark SIP", "TestPhonelet", true);
@@ -240,39 +205,6 @@ TEST_F(DisplayStackTest, AServerDisplayIsCurrentWithoutAStack)
     EXPECT_TRUE(content()->isVisible());
     bottom.reset();
     EXPECT_EQ(display->getCurrent(), nullptr);
-}
-
-TEST_F(DisplayStackTest, AServerDisplayThatStacksTakesAScreenTwice)
-{
-    display->createServerDisplay(bottom.get());
-    display->createServerDisplay(bottom.get());
-    EXPECT_EQ(display->serialise(), bottom->screen().text + bottom->screen().text);
-    EXPECT_TRUE(isInContent(*bottom));
-    bottom->screen().dismiss();
-    EXPECT_EQ(display->serialise(), bottom->screen().text);
-    EXPECT_EQ(display->getCurrent(), bottom.get());
-    EXPECT_TRUE(isInContent(*bottom));
-    bottom.reset();
-    EXPECT_EQ(display->serialise(), "");
-}
-
-TEST_F(DisplayStackTest, RemovingTheOldCurrentLeavesTheStackAlone)
-{
-    fill();
-    display->removeOldCurrent();
-    EXPECT_EQ(takeLog(), Lines{"lostFocus top"});
-    EXPECT_TRUE(top->screen().isOwner);
-    EXPECT_EQ(display->getCurrent(), top.get());
-}
-
-TEST_F(DisplayStackTest, TheDisplayAreaIsFixedOnOneVariantOnly)
-{
-    EXPECT_EQ(display->getDisplayArea(), nullptr);
-    HardwareVersion::Set hardware;
-    hardware.subPlatformVariant = 1;
-    HardwareVersion::setAll(hardware);
-    makeDisplay();
-    EXPECT_EQ(*display->getDisplayArea(), Rect(0, 0, 192, 48));
 }
 
 // Screens and displays that go
@@ -302,16 +234,6 @@ TEST_P(DeletedOnTheStack, IsForgottenWithoutShowOrNotice)
     EXPECT_EQ(display->findVisibleRects().size(), 2u);
     display->setCurrent(nullptr);
     EXPECT_EQ(stackText(), "");
-}
-
-TEST_P(DeletedOnTheStack, IsForgottenAlsoWhileTheDisplayIsHidden)
-{
-    std::unique_ptr<TestScreen>* all[] = {&bottom, &middle, &top};
-    display->hide();
-    fill();
-    all[GetParam().screen]->reset();
-    display->show();
-    EXPECT_EQ(stackText(), GetParam().stack);
 }
 
 TEST_P(DeletedOnTheStack, IsDroppedByTheNextWalkIfItSaidNothing)
@@ -352,14 +274,6 @@ INSTANTIATE_TEST_SUITE_P(Positions, DeletedOnTheStack,
         Deletion{"Top", 2, "bottom middle", 1}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(DisplayStackTest, TheLastScreenDeletedLeavesNoCurrent)
-{
-    display->setCurrent(bottom.get());
-    bottom.reset();
-    EXPECT_EQ(display->getCurrent(), nullptr);
-    EXPECT_EQ(content()->firstChild(), nullptr);
-}
-
 TEST_F(DisplayStackTest, ADisplayThatGoesFirstGivesEveryWidgetBack)
 {
     for (const bool isVisible : {true, false}) {
@@ -383,18 +297,6 @@ TEST_F(DisplayStackTest, ADisplayThatGoesFirstGivesEveryWidgetBack)
             screen->screen().generateDisplayChangedEvent();
         }
     }
-}
-
-TEST_F(DisplayStackTest, ADisplayForgetsOnlyItsOwnScreens)
-{
-    fill();
-    DisplayPrivate other("Other", false, "other", "", "", "", "", nullptr, nullptr);
-    auto elsewhere = makeScreen("elsewhere");
-    other.setCurrent(elsewhere.get());
-    display.reset();
-    EXPECT_EQ(elsewhere->screen().display(), &other);
-    elsewhere.reset();
-    EXPECT_EQ(other.getCurrent(), nullptr);
 }
 
 TEST_F(DisplayStackTest, AHalfThatWasKeptFindsNoDisplayButItsOwn)
@@ -473,15 +375,6 @@ TEST_F(DisplayStackTest, AScreenMayGoWhileItIsBeingShown)
     display->setCurrent(middle.get());
     EXPECT_EQ(display->getCurrent(), nullptr);
     EXPECT_TRUE(middle->screen().isOwner);
-}
-
-TEST_F(DisplayStackTest, ANoticeInsideShowMayPutAnotherScreenOnTop)
-{
-    middle->screen().onShow = [&] { display->setCurrent(top.get()); };
-    display->setCurrent(bottom.get());
-    display->setCurrent(middle.get());
-    EXPECT_EQ(display->getCurrent(), top.get());
-    EXPECT_EQ(stackText(), "bottom middle top");
 }
 
 TEST_F(DisplayStackTest, AScreenMayDeleteOthersWhenItLosesTheFocus)

@@ -111,23 +111,6 @@ TEST_F(ListItemTest, LeftIconsComeInPairs)
     EXPECT_EQ(item.getRightIcon(), 0);
 }
 
-TEST_F(ListItemTest, OnlyAProgressRowHasABar)
-{
-    ListItem plain(ListItem::PlainItem);
-    ListItem unknown(ListItem::ListItemType(7));
-    ListItem progress(ListItem::InfiniteProgressItem);
-    EXPECT_EQ(dynamic_cast<InfiniteBarItemMEG*>(&rowOf(plain)), nullptr);
-    EXPECT_EQ(dynamic_cast<InfiniteBarItemMEG*>(&rowOf(unknown)), nullptr);
-    plain.startInfiniteProgressBar();
-    auto* bar = dynamic_cast<InfiniteBarItemMEG*>(&rowOf(progress));
-    ASSERT_NE(bar, nullptr);
-    EXPECT_FALSE(bar->isRunning());
-    progress.startInfiniteProgressBar();
-    EXPECT_TRUE(bar->isRunning());
-    progress.clearBackground();
-    EXPECT_FALSE(bar->hasBackground());
-}
-
 TEST_F(ListItemTest, ARowWhoseWidgetHasGoneIsQuiet)
 {
     ListItem item("Anna", true);

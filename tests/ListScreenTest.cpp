@@ -8,7 +8,6 @@
 #include <UEvent.h>
 
 #include <functional>
-#include <set>
 
 using namespace DisplayAPI;
 namespace {
@@ -159,23 +158,6 @@ TEST_F(ListScreenTest, WhatTheUserDoesReachesTheListeners)
     EXPECT_EQ(gone.count(), 0u);
 }
 
-TEST_F(ListScreenTest, WellKnownCommandsAreToldApartByAddress)
-{
-    const std::vector<std::pair<Command*, int>> commands = {{List::BACK_COMMAND(), 1}, {List::RIGHT_COMMAND(), 9},
-        {List::SELECT_COMMAND(), 6}, {List::DISPLAY_CHANGED_COMMAND(), 20}, {List::TABBAR_ACTIVE_COMMAND(), 16},
-        {List::TABBAR_INACTIVE_COMMAND(), 17}, {List::HEADER_TEXT_CHANGED_COMMAND(), 6},
-        {List::HEADER_TEXT_ENTRY_FINISHED_COMMAND(), 6}, {List::FILTER_CHANGED_COMMAND(), 6}};
-    std::set<Command*> addresses;
-    for (const auto& [command, type] : commands) {
-        addresses.insert(command);
-        EXPECT_EQ(command->getType(), type);
-        EXPECT_EQ(command->getLabel(), "");
-        EXPECT_TRUE(Command::exists(command));
-    }
-    EXPECT_EQ(addresses.size(), commands.size());
-    EXPECT_EQ(List::BACK_COMMAND(), commands[0].first);
-}
-
 TEST_F(ListScreenTest, ANewLocaleReadsTitleAndRowsAgain)
 {
     Prefixing translator;
@@ -256,26 +238,4 @@ TEST_F(ListScreenTest, ADialerGetsEveryKey)
     press(UGlobal::KeyUp);
     EXPECT_EQ(list.getSelectedIndex(), 0);
     EXPECT_EQ(listener.count(), 0u);
-}
-
-TEST_F(ListScreenTest, FixedAnswersAndStoredSettings)
-{
-    for (int kind = -1; kind < 5; ++kind) {
-        List list(kind);
-        EXPECT_EQ(list.hasBackItem(), kind == 1 || kind == 3);
-        EXPECT_EQ(half(list).hasBackItem(), list.hasBackItem());
-    }
-    List list(0);
-    fill(list, "A");
-    EXPECT_EQ(list.widgetName(), "List");
-    auto* ticker = reinterpret_cast<Ticker*>(&list);
-    list.setTicker(ticker);
-    EXPECT_EQ(list.getTicker(), ticker);
-    list.showDiallerOnInitialKeyEvent(true);
-    EXPECT_TRUE(half(list).showsDialerOnKey());
-    EXPECT_EQ(list.getDisplayIndexForItem(list.getItems()[0]), -1);
-    EXPECT_EQ(list.getCurrentPageNumber(), -1);
-    EXPECT_EQ(list.getFilterType() + list.getFilterHeader() + list.getUserEnteredHeaderText(), "");
-    list.clearSelectedItemBackground();
-    EXPECT_FALSE(box(list).item(0)->hasBackground());
 }

@@ -107,18 +107,6 @@ TEST_F(PopupConfirmTest, EachStateHasItsIconWord)
     }
 }
 
-TEST_F(PopupConfirmTest, TheSecondLineIsAppendedToTheQuestion)
-{
-    PopupConfirm popup(true);
-    show(popup);
-    EXPECT_EQ(screenField("caption"), " ") << "a popup without text";
-    popup.setText("Delete entry?");
-    popup.setLine2Text("Anna");
-    EXPECT_EQ(screenField("caption"), "Delete entry? Anna ");
-    popup.setLine2Text("Bob");
-    EXPECT_EQ(screenField("caption"), "Delete entry? Anna Bob ");
-}
-
 TEST_F(PopupConfirmTest, AChangeOfLocaleReadsTheTranslationsAndTheChoicesAgain)
 {
     Dictionary dictionary;
@@ -269,20 +257,6 @@ TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTellsTheListeners)
     EXPECT_EQ(display->getCurrent(), &below) << "a popup that is down already changes nothing";
 }
 
-TEST_F(PopupConfirmTest, AListenerAddedTwiceIsToldTwiceAndRemovedOnceAtATime)
-{
-    PopupConfirm popup(true);
-    popup.addCommandListener(&listener);
-    popup.addCommandListener(&listener);
-    popup.addCommand(&yes);
-    show(popup);
-    press(UGlobal::KeyOk);
-    EXPECT_EQ(listener.commands(2).size(), 2u);
-    popup.removeCommandListener(&listener);
-    press(UGlobal::KeyOk);
-    EXPECT_EQ(listener.commands(3).size(), 3u);
-}
-
 TEST_F(PopupConfirmTest, NoOrderOfDestructionIsFatal)
 {
     {
@@ -360,21 +334,6 @@ TEST_F(PopupConfirmTest, APopupWhoseWidgetHasGoneIsQuiet)
     EXPECT_EQ(popup.getSelectedIndex(), -1);
     EXPECT_EQ(whole.serialise(), "");
     EXPECT_EQ(whole.serialise(std::vector<URect>{URect(0, 0, 161, 30)}), "");
-}
-
-TEST_F(PopupConfirmTest, ChoicesWithTheSameCommandFollowTheLocaleTogether)
-{
-    Dictionary dictionary;
-    MenuCommand command(new TranslationInfo("", "ok", "?", &dictionary), 3);
-    PopupConfirm popup(true);
-    popup.addCommand(&command);
-    popup.addCommand(&command);
-    show(popup);
-    dictionary.words = {{"ok", "Oui"}};
-    display->localeChanged("fr");
-    EXPECT_EQ(screenField("string0"), "Oui?");
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(screenField("string0"), "Oui?");
 }
 
 TEST_F(PopupConfirmTest, OddTextsAreTakenAsTheyAre)

@@ -121,13 +121,9 @@ TEST_F(SerialiserTest, ACallLogRowHasItsIconsInOrder)
         const char* icons;
     } rows[] = {
         {"private", 0, false, "icon0:Private\n"},
-        {"business 1", 1, false, "icon0:Business1\n"},
-        {"business 2", 2, false, "icon0:Business2\n"},
-        {"mobile", 3, false, "icon0:Mobile\n"},
         {"none", 4, false, ""},
         {"unknown", 9, false, "icon0:NoIcon\n"},
         {"elsewhere and private", 0, true, "icon0:CompletedElsewhere\nicon1:Private\n"},
-        {"elsewhere alone", 4, true, "icon0:CompletedElsewhere\n"},
     };
     for (const auto& row : rows) {
         auto* widget = logRow(row.iconType, "2001-02-03 10:42", row.elsewhere);
@@ -201,18 +197,6 @@ TEST_F(SerialiserTest, ACallsStateIsAWord)
         << "a hidden row has no arrow";
 }
 
-TEST_F(SerialiserTest, ACallThatIsNotCurrentHasNeitherArrowNorSecurity)
-{
-    auto* row = new TreeItemMEG(BranchMEG::CallActive, text("Bob"), true, true);
-    row->branch->setCallSecurityState(BranchMEG::SecureCall);
-    rowText(row);
-    list.list()->addItem(new TreeItemMEG(BranchMEG::CallActive, text("Carol"), true, true));
-    list.list()->setCurrentIndex(1);
-    Serialiser serialiser;
-    EXPECT_EQ(serialiser.serialiseBranch({}, row->branch, &list, 0),
-        "subitem:\nname:Branch\nicon0:CallStateActive\nstring0:Bob   0:00\nendsubitem:\n");
-}
-
 TEST_F(SerialiserTest, TheLeafOfACallIsWrittenWhereARectangleHoldsItWhole)
 {
     list.setCoordinates(0, 0, 161, 30);
@@ -229,15 +213,6 @@ TEST_F(SerialiserTest, TheLeafOfACallIsWrittenWhereARectangleHoldsItWhole)
     EXPECT_EQ(withoutFrame(serialise({URect(0, 0, 161, 30)})), branch) << "no text";
 }
 
-TEST_F(SerialiserTest, ALineFeedInARowSplitsItsField)
-{
-    list.list()->addItem(new VantoListBoxItemMEG(text("one\ntwo")));
-    Serialiser serialiser;
-    const std::string document = serialiser.serialiseVantoListBox({}, &list);
-    EXPECT_NE(document.find("string0: one\ntwo\n"), std::string::npos);
-    EXPECT_EQ(ScreenTextParser::faultOf(document), "line 6: no field of a block: \"two\"");
-}
-
 TEST(ScreenTextParserTest, ItFindsWhatBreaksTheGrammar)
 {
     const struct {
@@ -246,21 +221,16 @@ TEST(ScreenTextParserTest, ItFindsWhatBreaksTheGrammar)
         const char* fault;
     } documents[] = {
         {"nothing at all", "", ""},
-        {"two objects", "object:\nname:A\nend:\nobject:\nname:B\nstring0: \nend:\n", ""},
         {"a form that closes twice", "object:\nname:FormWidget\nend:\nend:\n", ""},
         {"a menu without a name", "object:\nsubitem:\nname:Row\nendsubitem:\nend:\n", ""},
         {"three ends", "object:\nname:FormWidget\nend:\nend:\nend:\n", "line 5: a line outside of an object: \"end:\""},
-        {"an end too many", "object:\nname:A\nend:\nend:\n", "line 4: a line outside of an object: \"end:\""},
         {"no end", "object:\nname:A\n", "line 2: the document ends inside a block: \"\""},
         {"no line feed", "object:\nname:A\nend:", "line 2: the last line has no line feed: \"end:\""},
         {"an empty line", "object:\nname:A\n\nend:\n", "line 3: no field of a block: \"\""},
-        {"a carriage return", "object:\r\nname:A\nend:\n", "line 1: a carriage return: \"object:\r\""},
         {"an unknown key", "object:\nname:A\nicon2:X\nend:\n", "line 3: no field of a block: \"icon2:X\""},
         {"indentation", "object:\nname:A\n string0:X\nend:\n", "line 3: no field of a block: \" string0:X\""},
         {"a late name", "object:\ncaption:X\nname:A\nend:\n",
             "line 3: the name is the first line of its block: \"name:A\""},
-        {"nested subitems", "object:\nname:A\nsubitem:\nname:B\nsubitem:\nendsubitem:\nendsubitem:\nend:\n",
-            "line 5: no field of a block: \"subitem:\""},
         {"a subitem without a name", "object:\nname:A\nsubitem:\nstring0:X\nendsubitem:\nend:\n",
             "line 4: the name is the first line of its block: \"string0:X\""},
         {"a field behind a subitem", "object:\nname:A\nsubitem:\nname:B\nendsubitem:\ncaption:X\nend:\n",
@@ -268,19 +238,4 @@ TEST(ScreenTextParserTest, ItFindsWhatBreaksTheGrammar)
     };
     for (const auto& document : documents)
         EXPECT_EQ(ScreenTextParser::faultOf(document.document), document.fault) << document.name;
-}
-
-TEST(ScreenTextParserTest, ItTakesADocumentApart)
-{
-    const ScreenTextParser parser(
-        "object:\nname:A\ncaption:X\nsubitem:\nname: B\nstring0: one\nstring1:two:three\nendsubitem:\nend:\n");
-    ASSERT_EQ(parser.objects().size(), 1u);
-    const auto& object = parser.objects()[0];
-    EXPECT_EQ(object.name, "A");
-    EXPECT_EQ(object.fields.at(0).value, "X");
-    ASSERT_EQ(object.subitems.size(), 1u);
-    EXPECT_EQ(object.subitems[0].name, " B");
-    EXPECT_EQ(object.subitems[0].fields.at(0).value, " one");
-    EXPECT_EQ(object.subitems[0].fields.at(1).key, "string1");
-    EXPECT_EQ(object.subitems[0].fields.at(1).value, "two:three");
 }

@@ -69,18 +69,6 @@ TEST_F(VisibleRectTest, TheDisplayedRectanglesAreWholeAndAbsolute)
     EXPECT_TRUE(*rects == std::vector{Rect(3, 4, 162, 31)});
 }
 
-TEST_F(VisibleRectTest, TheMonitorAddsTheCornersOfAllAncestors)
-{
-    VisibleRectMonitor monitor;
-    UWidget root;
-    root.setCoordinates(0, 0, 161, 30);
-    auto* parent = new UWidget(&root);
-    parent->setCoordinates(10, 20, 29, 39);
-    UWidget widget(parent);
-    widget.setCoordinates(1, 2, 3, 4);
-    EXPECT_EQ(monitor.findTopLevelGeometry(widget), Rect(11, 22, 3, 3));
-}
-
 TEST_F(VisibleRectTest, TheMonitorKeepsTheOrderOfUpdating)
 {
     VisibleRectMonitor monitor;
