@@ -5,8 +5,10 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
+#include <Log.h>
 #include <UApplication.h>
 
+#include <cstdio>
 #include <functional>
 
 using namespace DisplayAPI;
@@ -24,6 +26,8 @@ public:
 
     std::function<void()> action;
 };
+
+std::vector<LogControl::Message> messages;
 
 class ListTest : public ListFixture { };
 
@@ -229,7 +233,57 @@ TEST_F(ListTest, ARowDeletedInAListLeavesItFirst)
     EXPECT_EQ(both(list), "[C]");
 }
 
+TEST_F(ListTest, ListsOfManyRowsEnd)
+{
+    constexpr int count = 100000;
+    List list(0);
+    show(list);
+    for (int i = 0; i < count; ++i)
+        list.append("row");
+    EXPECT_EQ(list.size(), count);
+    const std::vector<ListItem*> items = list.getItems();
+    list.append(items[count / 2]);
+    EXPECT_EQ(list.size(), count) << "refused";
+    list.removeAll();
+    EXPECT_EQ(list.size(), 0);
+    for (ListItem* item : items)
+        list.append(item);
+    list.setSelectedIndex(count - 1);
+    EXPECT_EQ(list.getSelected(), items.back());
+    list.clear();
+    EXPECT_EQ(list.size(), 0);
+}
+
 // Odd circumstances
+
+TEST_F(ListTest, AFailedRemoveAtIsLogged)
+{
+    messages.clear();
+    LogControl::setLevel("DisplayAPI::List", 3);
+    LogControl::setSink([](const LogControl::Message& message) { messages.push_back(message); });
+    List list(0);
+    EXPECT_EQ(list.removeAt(0), nullptr);
+    fill(list, "A");
+    EXPECT_EQ(list.removeAt(list.size()), nullptr);
+    list.move(list.getItems()[0], nullptr, 0);
+    LogControl::setLevel("DisplayAPI::List", 5);
+    list.setSelectedIndex(7);
+    LogControl::reset();
+    char removeAt[100];
+    std::snprintf(removeAt, sizeof removeAt, "removeAt() this %p, cannot remove item at index ", (void*)&list);
+    char select[100];
+    std::snprintf(select, sizeof select, "setSelectedIndex() this: %p index 7\n", (void*)&list);
+    ASSERT_EQ(messages.size(), 4u);
+    EXPECT_EQ(messages[0].text, removeAt + std::string("0"));
+    EXPECT_EQ(messages[1].text, removeAt + std::string("1"));
+    EXPECT_EQ(messages[1].file, "src/List");
+    EXPECT_EQ(messages[1].module, "DisplayAPI::List");
+    EXPECT_EQ(messages[1].level, 3);
+    EXPECT_TRUE(messages[2].text.starts_with("oldListItemPrivate[0x")) << messages[2].text;
+    EXPECT_EQ(messages[2].level, 2);
+    EXPECT_EQ(messages[3].text, select);
+    EXPECT_EQ(both(list), "[A]");
+}
 
 TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
 {
@@ -308,6 +362,18 @@ TEST_F(ListTest, AListOutlivesTheDisplay)
     EXPECT_TRUE(half(list).hasOwnership());
     list.append(new CountedItem("C"));
     EXPECT_EQ(both(list), "[A]BC");
+}
+
+TEST_F(ListTest, OddTextsComeThrough)
+{
+    List list(0);
+    const std::string longText(1 << 20, 'x');
+    for (const std::string& text : {std::string("a\0b", 3), std::string("\xC3\x28"), longText, std::string()}) {
+        list.append(text);
+        list.setTitle(text);
+        list.setSelectedIndex(list.size() - 1);
+        EXPECT_EQ(list.getSelected()->getText(), UString(text).toUTF8());
+    }
 }
 
 TEST_F(ListTest, RequestsPostedByHandAndUnknownNumbersAreServed)

@@ -1,3 +1,5 @@
+#include "ContentWidget.h"
+#include "ContentWidgetFactoryIfc.h"
 #include "StackFixture.h"
 
 #include <DisplayAPI/DisplayablePrivate.h>
@@ -99,6 +101,19 @@ TEST_F(SystemWindowTextTest, TheFirstLineIsTheCaptionUnlessItHasExactly24Blanks)
     EXPECT_EQ(text(), "object:\nname:PopupTextField\ncaption: \nend:\n");
 }
 
+TEST_F(SystemWindowTextTest, TheSecondLineNeedsASizeOfTwoAndTurnsItsFirstArrow)
+{
+    makeQuietDisplay();
+    display->setSystemWindowSize(1);
+    display->setSystemWindowText(0, "first \xEE\x80\x80");
+    display->setSystemWindowText(1, "a \xEE\x80\x80 b \xEE\x80\x80");
+    const std::string caption = "object:\nname:PopupTextField\ncaption:first \xEE\x80\x80\n";
+    EXPECT_EQ(text(), caption + "end:\n");
+    display->setSystemWindowSize(2);
+    EXPECT_EQ(text(),
+        caption + "subitem:\nname:VantoListBoxItem\nstring0:a \xE2\x86\x95 b \xEE\x80\x80\nendsubitem:\nend:\n");
+}
+
 TEST_F(SystemWindowTextTest, ACollapsedWindowTakesItsSecondLineFromTheContextMenu)
 {
     makeQuietDisplay();
@@ -187,13 +202,111 @@ TEST_F(SystemWindowTextTest, AnIncomingCallTakesTheConnectedCallsBlockOff)
     };
     for (const Row& row : {
              Row{connected, incoming, "\n" + incoming},
+             Row{connectedHD, incoming, "\n" + incoming},
              Row{connected, connectedHD, connected + connectedHD},
              Row{"object:\nname:Idle\nend:\n", incoming, "object:\nname:Idle\nend:\n" + incoming},
+             Row{"icon0:CallStateActive", "icon0:Incoming", "icon0:CallStateActiveicon0:Incoming"},
          }) {
         call->screen().text = row.below;
         popup->screen().text = row.above;
         EXPECT_EQ(text(), row.text);
     }
+}
+
+// Keys and changed lines
+
+/// A content that notes what passes between the display and the lines of the system window.
+struct NotingContent : ContentWidget {
+    explicit NotingContent(Lines& noted)
+        : notes(noted)
+    {
+    }
+    void setSystemWindowText(int line, std::string text, std::string key) override
+    {
+        notes.push_back("write " + std::to_string(line) + " '" + text + "' for '" + key + "'");
+        ContentWidget::setSystemWindowText(line, text, key);
+    }
+    std::string getSystemWindowText(int line, std::string key) override
+    {
+        notes.push_back("read " + std::to_string(line) + " for '" + key + "'");
+        return ContentWidget::getSystemWindowText(line, key);
+    }
+    Lines& notes;
+};
+
+struct NotingFactory : ContentWidgetFactoryIfc {
+    explicit NotingFactory(Lines& noted)
+        : notes(noted)
+    {
+    }
+    ContentWidgetIfc* createContentWidget() override { return new NotingContent(notes); }
+    Lines& notes;
+};
+
+TEST_F(SystemWindowTextTest, TheStatusKeyGoesAlongWithEachLineDuringTheCallOnly)
+{
+    struct Row {
+        const char* softwareType;
+        std::string status;
+        std::string key;
+    };
+    for (const Row& row : {
+             Row{"Zelmark QVT", "", ""},
+             Row{"Zelmark QVT", "ab", "ab"},
+             Row{"Zelmark QVT", "abcdefg", "abcde"},
+             Row{"Zelmark QVT", "abcdefg\nicon0:X\nicon0:Y", "abcdefg"},
+             Row{"Zelmark QVT", "\nicon0:X", ""},
+             Row{"Zelmark SIP", "abcdefg", ""},
+         }) {
+        Lines notes;
+        makeDisplay(row.softwareType, "TestPhonelet", false, new NotingFactory(notes));
+        display->show();
+        display->setSystemWindowText(0, "first");
+        notes.clear();
+        display->serialiseByRect(wholeGlass, row.status);
+        Lines expected{"read 0 for '" + row.key + "'"};
+        if (row.softwareType == std::string("Zelmark QVT"))
+            expected.push_back("read 1 for '" + row.key + "'");
+        EXPECT_EQ(notes, expected) << row.status;
+        notes.clear();
+        display->setSystemWindowText(0, "after");
+        EXPECT_EQ(notes, Lines{"write 0 'after' for ''"});
+        display.reset();
+    }
+}
+
+TEST_F(SystemWindowTextTest, AChangeOfSizeWritesAChangedSecondLineOnceMore)
+{
+    Lines notes;
+    makeDisplay("Zelmark QVT", "TestPhonelet", false, new NotingFactory(notes));
+    display->show();
+    auto idle = makeScreen("IdleDisplay");
+    auto dialer = makeScreen("PopupDialer", Kind::Popup);
+    auto other = makeScreen("PopupCall", Kind::Popup);
+    display->setCurrent(idle.get());
+    const Lines again{"read 1 for ''", "write 1 'second' for ''"};
+    const auto notesOfSize = [&](int lines) {
+        notes.clear();
+        display->setSystemWindowSize(lines);
+        return notes;
+    };
+    display->setSystemWindowText(1, "second");
+    EXPECT_EQ(notesOfSize(2), again);
+    EXPECT_EQ(notesOfSize(2), Lines{}) << "it has been written";
+    display->setSystemWindowText(1, "second");
+    EXPECT_EQ(notesOfSize(1), Lines{}) << "the line is not shown any more";
+
+    display->setSystemWindowSize(2);
+    display->clearSWfromDisplayable(); // the idle screen is the first
+    display->setCurrent(dialer.get());
+    display->clearSWfromDisplayable();
+    EXPECT_EQ(notesOfSize(2), Lines{}) << "the dialer keeps the lines of the idle screen";
+    display->setCurrent(other.get());
+    display->clearSWfromDisplayable();
+    EXPECT_EQ(notesOfSize(2), again);
+    display->clearSWfromDisplayable();
+    EXPECT_EQ(notesOfSize(2), Lines{}) << "the same screen as before";
+    display.reset();
 }
 
 // Status message, volume, clipboard, locale
@@ -240,6 +353,15 @@ TEST_F(SystemWindowTextTest, TheVolumeShowsTheDevice)
     display->show();
     display->setPreviewVolume(0, 4, 0, 9, 0);
     EXPECT_NE(content()->firstChild(), nullptr);
+}
+
+TEST_F(SystemWindowTextTest, TheClipboardKeepsItsText)
+{
+    makeDisplay();
+    EXPECT_EQ(display->paste(), "");
+    display->copy(std::string("a\0b", 3));
+    EXPECT_EQ(display->paste(), std::string("a\0b", 3));
+    EXPECT_EQ(display->paste(), std::string("a\0b", 3));
 }
 
 TEST_F(SystemWindowTextTest, ALocaleChangeReadsTheListTextsAgain)
