@@ -1,6 +1,5 @@
 #include "ListFixture.h"
 
-#include <algorithm>
 #include <memory>
 
 namespace {
@@ -52,20 +51,6 @@ TEST_F(ListBoxTest, TheCurrentRowSurvivesWhatComesAndGoesAroundIt)
     delete rows[1];
     EXPECT_EQ(list.currentIndex(), -1);
     EXPECT_TRUE(agent.entries.empty()) << "operations raise nothing";
-}
-
-TEST_F(ListBoxTest, OnlyIndicesOfTheListAndMinusOneBecomeCurrent)
-{
-    addRows(list, {"a", "b"});
-    list.setCurrentItem(2);
-    list.setCurrentItem(-2);
-    EXPECT_EQ(list.currentIndex(), 0);
-    list.setCurrentItem(-1);
-    EXPECT_EQ(list.currentItem(), nullptr);
-    EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_TRUE(agent.entries.empty());
-    press(UGlobal::KeyUp);
-    EXPECT_EQ(list.currentIndex(), 1);
 }
 
 TEST_F(ListBoxTest, ARowMovesToTheListThatTakesIt)
@@ -124,24 +109,6 @@ TEST_F(ListBoxTest, ClearDeletesTheRowsFromTheLastToTheFirst)
     EXPECT_EQ(list.numItems(), 0);
 }
 
-TEST_F(ListBoxTest, TheDeleteRowComesOnceAndFollowsTheLocale)
-{
-    addRows(list, {"Call?"});
-    list.addDeleteItem();
-    list.addDeleteItem();
-    ASSERT_EQ(list.count(), 2);
-    EXPECT_EQ(list.item(1)->getItemType(), VantoListBoxItemMEG::DeleteRow);
-    EXPECT_EQ(list.getItemByHandle(0), list.item(1));
-    VantoListBoxMEG::setDeleteText(text("Entfernen?"));
-    EXPECT_EQ(texts(list), (Texts{"Call?", "Entfernen?"}));
-    VantoListBoxMEG::setDeleteText(text("Delete?"));
-
-    list.translateBack(text("Zurueck?"));
-    EXPECT_EQ(list.backText(), text("Zurueck?"));
-    list.translateBack(UString());
-    EXPECT_EQ(list.backText(), text("Back?"));
-}
-
 // Keys
 
 TEST_F(ListBoxTest, KeysRaiseOneEventEach)
@@ -184,32 +151,6 @@ TEST_F(ListBoxTest, WhatCannotHappenRaisesNothing)
     list.setReadOnly(7, true);
     EXPECT_TRUE(press(UGlobal::KeyOk));
     EXPECT_TRUE(agent.entries.empty());
-
-    list.disable();
-    press(UGlobal::KeyLeft);
-    list.enable();
-    widget->hide();
-    press(UGlobal::KeyLeft);
-    EXPECT_GT(below->keys, 0) << "the screen below has the keys";
-    EXPECT_TRUE(agent.entries.empty());
-}
-
-TEST_F(ListBoxTest, AHoldOrAReleaseDoesNotMove)
-{
-    addRows(list, {"a", "b"});
-    UKeyEvent hold(UGlobal::KeyDown, UGlobal::KeyHeld);
-    UKeyEvent release(UGlobal::KeyDown, UGlobal::KeyReleased);
-    list.keyEvent(&hold);
-    list.keyEvent(&release);
-    EXPECT_EQ(list.currentIndex(), 0);
-}
-
-TEST_F(ListBoxTest, RightChoosesWhenItEqualsOK)
-{
-    addRows(list, {"a"});
-    list.setRightArrowEqualsOK(true);
-    press(UGlobal::KeyRight);
-    EXPECT_EQ(agent.takeTypes(), Types{EventType::RowChosen});
 }
 
 TEST_F(ListBoxTest, AListenerThatUsesAKeyKeepsItFromTheList)
@@ -236,18 +177,6 @@ TEST_F(ListBoxTest, TheWidgetRelaysOnlyWhatNobodyElseHears)
     press(UGlobal::KeyOk);
     EXPECT_EQ(outer.entries, (std::vector<Recorder::Entry>{{EventType::RowChosen, rows[1], rows[1]}}));
     EXPECT_TRUE(outer.keys.empty()) << "a relay passes events, no keys";
-}
-
-TEST_F(ListBoxTest, AWidgetMayHandItsKeysOnToItsList)
-{
-    struct KeyList : VantoListBoxWithTitleMEG {
-        bool keyEvent(UKeyEvent* key) override { return list()->keyEvent(key); }
-    };
-    KeyList outer;
-    addRows(*outer.list(), {"a", "b"});
-    UKeyEvent down(UGlobal::KeyDown, UGlobal::KeyPressed);
-    EXPECT_TRUE(outer.keyEvent(&down)) << "and is not asked for them again";
-    EXPECT_EQ(outer.list()->currentIndex(), 1);
 }
 
 // Ownership
@@ -291,17 +220,6 @@ TEST_F(ListBoxTest, AnythingMayDieInsideAnEvent)
     }
 }
 
-TEST_F(ListBoxTest, AListMayDieInWhatItsWidgetHandsOn)
-{
-    Recorder outer;
-    widget->setListener(&outer);
-    list.setListener(widget);
-    addRows(list, {"a"});
-    outer.onEvent = [this](UEvent&) { delete widget; };
-    EXPECT_TRUE(press(UGlobal::KeyLeft));
-    EXPECT_EQ(outer.takeTypes(), Types{EventType::LeftPressed});
-}
-
 TEST_F(ListBoxTest, AListMayDieWhileItsListenerLooksAtAKey)
 {
     addRows(list, {"a", "b"});
@@ -323,15 +241,6 @@ TEST_F(ListBoxTest, RowsMayDieBeforeAndAfterTheirList)
 }
 
 // Screen text
-
-TEST_F(ListBoxTest, TheScreenTextIsTheCurrentRowAlone)
-{
-    EXPECT_EQ(list.screenText().toUTF8(), "");
-    auto rows = addRows(list, {"a", "two\nlines"});
-    list.setCurrentIndex(1);
-    rows[1]->setArrow(true);
-    EXPECT_EQ(list.screenText().toUTF8(), "subitem:\nname:VantoListBoxItem\nstring0:two lines ->\nendsubitem:\n");
-}
 
 TEST_F(ListBoxTest, SetTextsAreUsedUpByTheNextScreenText)
 {
@@ -358,42 +267,6 @@ TEST_F(ListBoxTest, SetTextsAreUsedUpByTheNextScreenText)
 }
 
 // Geometry and painting
-
-TEST_F(ListBoxTest, RowsOutOfViewAreParkedOffTheGlass)
-{
-    auto rows = addRows(list, {"a", "b", "c", "d", "e"});
-    widget->setTitle(text("Title"));
-    list.setCurrentIndex(2);
-    EXPECT_EQ(rows[0]->getRect(), URect(0, -30, 161, -16));
-    EXPECT_EQ(rows[1]->getRect(), URect(0, -15, 161, -1));
-    EXPECT_EQ(rows[2]->getRect(), URect(0, 15, 161, 30));
-    EXPECT_EQ(rows[3]->getRect(), URect(0, 31, 161, 45));
-    EXPECT_EQ(rows[4]->getRect(), URect(0, 46, 161, 60));
-
-    widget->setTitle(UString());
-    EXPECT_EQ(rows[1]->getRect(), URect(0, -15, 161, -1));
-    EXPECT_EQ(rows[2]->getRect(), URect(0, 0, 161, 14));
-    EXPECT_EQ(rows[3]->getRect(), URect(0, 15, 161, 30));
-    EXPECT_EQ(rows[4]->getRect(), URect(0, 31, 161, 45));
-}
-
-TEST_F(ListBoxTest, TheFarthestRowsStayOffTheGlass)
-{
-    for (int number = 0; number < 10000; ++number)
-        list.addItem(new VantoListBoxItemMEG);
-    EXPECT_GT(list.item(9999)->getRect().top(), 30);
-    list.setCurrentIndex(9999);
-    EXPECT_LT(list.item(0)->getRect().bottom(), 0);
-}
-
-TEST_F(ListBoxTest, ARectangleFromOutsideSurvivesTheTitle)
-{
-    list.setCoordinates(3, 0, 157, 13);
-    widget->setTitle(text("Title"));
-    EXPECT_EQ(list.getRect(), URect(3, 0, 157, 13));
-    addRows(list, {"a", "b"});
-    EXPECT_EQ(line(0), "a                          ") << "both lines belong to the rows";
-}
 
 TEST_F(ListBoxTest, ATitleLeavesOneRowInView)
 {
@@ -436,19 +309,6 @@ TEST_F(ListBoxTest, WithoutATitleTheCurrentOfTwoRowsIsInverse)
     EXPECT_FALSE(isInverse(1));
     list.setCurrentIndex(2);
     EXPECT_TRUE(isInverse(1)) << "a row that becomes current has its bar again";
-}
-
-TEST_F(ListBoxTest, TheViewStaysWhenRowsComeAndGoAboveIt)
-{
-    auto rows = addRows(list, {"a", "b", "c", "d", "e"});
-    list.setCurrentIndex(3);
-    list.setCurrentIndex(2);
-    list.insertItem(new VantoListBoxItemMEG, 0);
-    EXPECT_EQ(line(0), whole("c"));
-    list.setCurrentIndex(4);
-    delete rows[0];
-    EXPECT_EQ(line(0), whole("c"));
-    EXPECT_TRUE(isInverse(1));
 }
 
 TEST_F(ListBoxTest, ARowDividesItsLine)

@@ -56,29 +56,6 @@ TEST_F(PopupTest, EveryPopupTellsThatItIsUpAndOneDismissalThatItIsDown)
     EXPECT_EQ(recorder.entries, expected);
 }
 
-TEST_F(PopupTest, AStateIsReachedBeforeItIsTold)
-{
-    auto* popup = notification("Saved");
-    std::vector<bool> states;
-    recorder.onEvent = [&](UEvent&) { states.push_back(popup->isUp()); };
-    popup->popupAsNotification();
-    popup->dismiss();
-    EXPECT_EQ(states, (std::vector<bool>{true, false}));
-}
-
-TEST_F(PopupTest, AHiddenPopupStaysUpAndComesBackWithTheNextCall)
-{
-    auto* popup = notification("Saved");
-    popup->popupAsNotification();
-    popup->hide();
-    EXPECT_TRUE(popup->isUp());
-    EXPECT_EQ(line(1), whole("lower"));
-
-    popup->popupAsNotification();
-    EXPECT_EQ(line(1), whole("Saved"));
-    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupUp, EventType::PopupUp}));
-}
-
 TEST_F(PopupTest, LeavingTheTreeTakesAPopupDownInSilenceAndStopsItsTime)
 {
     auto popup = std::unique_ptr<PopupNotificationMEG>(notification("Saved"));
@@ -97,18 +74,6 @@ TEST_F(PopupTest, LeavingTheTreeTakesAPopupDownInSilenceAndStopsItsTime)
     popup->setParent(below);
     EXPECT_TRUE(popup->isUp());
     popup->setParent(nullptr);
-}
-
-TEST_F(PopupTest, APopupThatIsNotUpPaintsNothingAndTakesNoKeys)
-{
-    auto* dialog = withRows<PopupDialogMEG>({"Yes"});
-    EXPECT_EQ(manager.focusWidget(), below);
-    EXPECT_EQ(line(1), whole("lower"));
-    dialog->popupAsNotification();
-    EXPECT_EQ(manager.focusWidget(), dialog);
-    dialog->dismiss();
-    EXPECT_EQ(manager.focusWidget(), below);
-    EXPECT_EQ(line(1), whole("lower"));
 }
 
 // Time-outs
@@ -134,21 +99,6 @@ TEST_F(PopupTest, TheTimeRunsFromComingUpAndStartsAnewWhenItIsSet)
     EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupDown}));
     advance(5000);
     EXPECT_TRUE(recorder.entries.empty());
-}
-
-TEST_F(PopupTest, WithoutATimeAPopupStaysUp)
-{
-    for (int none : {0, -1}) {
-        auto* popup = notification("Saved");
-        popup->setTimeout(500);
-        popup->popupAsNotification();
-        popup->setTimeout(none);
-        advance(100000);
-        EXPECT_TRUE(popup->isUp()) << none;
-        popup->setTimeout(500);
-        advance(500);
-        EXPECT_FALSE(popup->isUp()) << none;
-    }
 }
 
 // Ownership
@@ -183,18 +133,6 @@ TEST_F(PopupTest, AListenerMayDeleteThePopupInsideAnyOfItsEvents)
         EXPECT_EQ(manager.focusWidget(), below);
         EXPECT_EQ(line(0), whole("upper"));
     }
-}
-
-TEST_F(PopupTest, ADismissibleNotificationMayDieByItsKey)
-{
-    UPointer<PopupNotificationMEG> popup = notification("Saved");
-    popup->setDismissible(true);
-    popup->popupAsNotification();
-    manager.requestFocus(popup.get());
-    recorder.onEvent = [&](UEvent&) { delete popup.get(); };
-    EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_FALSE(popup);
-    EXPECT_EQ(below->keys, 0);
 }
 
 TEST_F(PopupTest, APopupOutlivesItsListenerAndDiesSilentlyWhileItIsUp)
@@ -260,16 +198,6 @@ TEST_F(PopupTest, ANotificationTakesNoKeysUnlessItHasAskedForThem)
     EXPECT_EQ(below->keys, 2);
 }
 
-TEST_F(PopupTest, ANotificationThatIsNotDismissibleLetsKeysThrough)
-{
-    auto* popup = notification("Saved");
-    popup->popupAsNotification();
-    manager.requestFocus(popup);
-    EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_TRUE(popup->isUp());
-    EXPECT_GT(below->keys, 0);
-}
-
 TEST_F(PopupTest, OneLineLeavesTheUpperLineToTheScreenBelow)
 {
     auto* popup = notification("Settings saved");
@@ -295,17 +223,6 @@ TEST_F(PopupTest, TwoLinesTakeTheGlassAndTheSecondStandsUnderTheFirst)
     popup->setLine2Text(text(""));
     EXPECT_EQ(popup->getRect(), URect(0, 15, 161, 30));
     EXPECT_EQ(line(0), whole("upper"));
-}
-
-TEST_F(PopupTest, ASplitNotificationHasTwoLinesUntilItsSecondTextGoes)
-{
-    auto* popup = notification("Bob");
-    popup->setIsSplit(true);
-    EXPECT_TRUE(popup->isTwoLine());
-    EXPECT_EQ(popup->countLines(), 1);
-    EXPECT_EQ(popup->getRect(), URect(0, 0, 161, 30));
-    popup->setLine2Text(text(""));
-    EXPECT_FALSE(popup->isTwoLine());
 }
 
 TEST_F(PopupTest, TheNameGivesWayToTheNumber)
@@ -360,22 +277,6 @@ TEST_F(PopupTest, TheSecondAndTheThirdLineTakeTurns)
     popup->setLine2Text(text(""));
     EXPECT_EQ(line(1), whole("third"));
     EXPECT_EQ(popup->getLine3Text().toUTF8(), "third");
-}
-
-TEST_F(PopupTest, TheSwitchOfTheSecondLinesIconsTakesBothAway)
-{
-    auto* popup = notification("Bob", "Sales");
-    popup->setLine2Icon1(78);
-    popup->setLine2Icon2(55);
-    popup->setLine2Icon(false);
-    EXPECT_EQ(popup->getLine2Icon1(), 0);
-    popup->popupAsNotification();
-    EXPECT_EQ(line(1), whole("Sales"));
-    popup->setLine2Icon(true);
-    EXPECT_EQ(popup->getLine2Icon1(), 55);
-    popup->setLine2Icon1(8);
-    popup->setLine2Icon(true);
-    EXPECT_EQ(popup->getLine2Icon1(), 8);
 }
 
 TEST_F(PopupTest, AnAnimationRunsWhileThePopupIsUp)
@@ -440,28 +341,6 @@ TEST_F(PopupTest, ADialogTellsOfItsRows)
     EXPECT_EQ(below->keys, 0);
 }
 
-TEST_F(PopupTest, WhoListensToTheListBoxHearsItInThePopupsPlace)
-{
-    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
-    Recorder own;
-    dialog->listBox->setListener(&own);
-    dialog->popupAsNotification();
-    recorder.takeTypes();
-    press(UGlobal::KeyOk);
-    EXPECT_EQ(own.takeTypes(), (Types{EventType::RowChosen}));
-    EXPECT_TRUE(recorder.entries.empty());
-}
-
-TEST_F(PopupTest, OnlyTheRowInViewStandsOnTheGlass)
-{
-    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
-    const std::vector<URect> lowerLine = {URect(0, 15, 161, 30)};
-    EXPECT_EQ(dialog->listBox->item(0)->getRect(), lowerLine[0]);
-    EXPECT_EQ(
-        dialog->listBox->screenText(lowerLine).toUTF8(), "subitem:\nname:VantoListBoxItem\nstring0:No?\nendsubitem:\n");
-    EXPECT_TRUE(dialog->listBox->screenText({URect(0, 0, 161, 14)}).isEmpty());
-}
-
 // Call popup
 
 TEST_F(PopupTest, TheFirstMoveGivesTheSecondLineToTheRows)
@@ -490,36 +369,6 @@ TEST_F(PopupTest, TheFirstMoveGivesTheSecondLineToTheRows)
     EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupRowMoved, EventType::RowMoved}));
 }
 
-TEST_F(PopupTest, TheRowsAreReachedAlsoWhereTheApplicationKeepsLine2)
-{
-    auto* call = withRows<PopupCallMEG>({"Cancel?"});
-    call->setLine2Text(text("Sales"));
-    call->popupAsCall();
-    EXPECT_EQ(line(1), "Sales                     v");
-    press(UGlobal::KeyUp);
-    EXPECT_EQ(line(1), whole("Cancel?"));
-    call->dismiss();
-    call->popupAsCall();
-    EXPECT_EQ(line(1), "Sales                     v");
-}
-
-TEST_F(PopupTest, ARowThatRepeatsLine2StandsForIt)
-{
-    auto* call = withRows<PopupCallMEG>({});
-    call->setText(text("Bob 4712"));
-    call->setLine2Text(text("Carol 4713"));
-    call->setLine2Icon1(8);
-    call->setLine2Icon2(55);
-    call->listBox->addItem(new VantoListBoxItemMEG(text("Carol 4713"), 0, false));
-    call->listBox->addItem(new VantoListBoxItemMEG(text("Accept?"), 1, false));
-    call->popupAsNotification();
-    EXPECT_EQ(line(1), Icon + Icon + "Carol 4713            v");
-    recorder.takeTypes();
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(line(1), "Accept?                   ^");
-    EXPECT_EQ(recorder.takeTypes(), (Types{EventType::PopupRowMoved}));
-}
-
 TEST_F(PopupTest, ACallPopupKeepsTheKeysFromTheScreenBelow)
 {
     auto* call = withRows<PopupCallMEG>({"Accept?"});
@@ -530,14 +379,6 @@ TEST_F(PopupTest, ACallPopupKeepsTheKeysFromTheScreenBelow)
         EXPECT_TRUE(press(key));
     EXPECT_EQ(recorder.takeTypes(), (Types{EventType::RowChosen, EventType::LeftPressed}));
     EXPECT_EQ(below->keys, 0);
-}
-
-TEST_F(PopupTest, WithoutScrollingThereAreNoMarks)
-{
-    auto* call = withRows<PopupCallMEG>({"Accept?", "Reject?"});
-    call->popupAsCall();
-    call->setListScrollable(false);
-    EXPECT_EQ(line(1), whole("Accept?"));
 }
 
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <ostream>
 #include <random>
 #include <vector>
@@ -20,9 +19,6 @@ namespace {
 
 using DisplayAPI::Rect;
 
-constexpr int Most = std::numeric_limits<int>::max();
-constexpr int Least = std::numeric_limits<int>::min();
-
 bool holds(const Rect& rect, int x, int y)
 {
     return x >= rect.left() && x < rect.left() + rect.width() && y >= rect.top() && y < rect.top() + rect.height();
@@ -37,32 +33,6 @@ int layers(const std::vector<Rect>& rects, int x, int y)
     return count;
 }
 
-}
-
-TEST(RectTest, ARowLiesInTheGlassOnlyAsAWhole)
-{
-    const URect glass(0, 0, 161, 30);
-    EXPECT_TRUE(glass.contains(glass));
-    EXPECT_TRUE(glass.contains(URect(161, 30, 161, 30)));
-    EXPECT_FALSE(glass.contains(URect(0, 15, 161, 31)));
-    EXPECT_FALSE(glass.contains(URect(-1, 0, 10, 10)));
-    EXPECT_FALSE(glass.contains(URect()));
-    EXPECT_FALSE(URect().contains(URect()));
-}
-
-TEST(RectTest, OnlyASharedPixelCounts)
-{
-    const Rect line(0, 0, 162, 15);
-    EXPECT_FALSE(line.Overlap(Rect(0, 15, 162, 16)));
-    EXPECT_FALSE(line.Overlap(Rect(162, 0, 1, 1)));
-    EXPECT_FALSE(line.Overlap(Rect(5, 5, 0, 5)));
-    EXPECT_FALSE(Rect(5, 5, 3, -1).Overlap(line));
-    EXPECT_TRUE(line.Overlap(Rect(161, 14, 50, 50)));
-    EXPECT_EQ(line.getIntersection(Rect(161, 14, 50, 50)), Rect(161, 14, 1, 1));
-    EXPECT_TRUE(line.getIntersection(Rect(0, 15, 162, 16)).isEmpty());
-    EXPECT_TRUE(line.contain(line));
-    EXPECT_FALSE(line.contain(Rect(0, 0, 162, 16)));
-    EXPECT_FALSE(line.contain(Rect(3, 3, 0, 0)));
 }
 
 TEST(RectTest, WhatStaysComesAboveBelowLeftRight)
@@ -108,16 +78,4 @@ TEST(RectTest, APixelStaysOnceOrIsGone)
             }
         }
     }
-}
-
-TEST(RectTest, TheGreatestRectanglesDoNotOverflow)
-{
-    const Rect huge(Least, Least, Most, Most);
-    const Rect beyond(Most - 5, Most - 5, Most, Most);
-    EXPECT_FALSE(huge.Overlap(beyond));
-    EXPECT_TRUE(beyond.contain(Rect(Most, Most, 1, 1)));
-    EXPECT_EQ(beyond.getIntersection(Rect(0, 0, Most, Most)), Rect(Most - 5, Most - 5, 5, 5));
-    EXPECT_EQ(beyond.subtract({Rect(Most - 5, Most - 5, 1, 9)}), std::vector<Rect>{Rect(Most - 4, Most - 5, 5, 6)});
-    EXPECT_EQ(huge.subtract({Rect(-1, -1, 9, 9)}), std::vector<Rect>{huge});
-    EXPECT_TRUE(Rect(0, 0, Least, Least).subtract({huge}).empty());
 }

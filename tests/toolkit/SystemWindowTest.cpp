@@ -39,51 +39,6 @@ TEST_F(SystemWindowTest, ItsLinesStandOverTheScreens)
     EXPECT_EQ(line(0), whole("4711"));
 }
 
-TEST_F(SystemWindowTest, ItCoversThePopupsToo)
-{
-    class Popup : public PlainScreen {
-    public:
-        void paint(UPainter& painter) override { painter.text(0, 0, UString(std::string("popup"))); }
-        Layer layer() const override { return Layer::Popup; }
-    };
-    auto* popup = new Popup;
-    root.addWidget(popup);
-    manager.raisePopup(popup);
-    EXPECT_EQ(line(0), whole("popup"));
-    window->setSystemWindowSize(1);
-    setLine(0, "4711");
-    EXPECT_EQ(line(0), whole("4711"));
-}
-
-TEST_F(SystemWindowTest, EachLineHasOneTextForAllKeys)
-{
-    window->setSystemWindowText(5, "last", "10:42");
-    EXPECT_EQ(window->getSystemWindowText(5, ""), "last");
-    EXPECT_EQ(window->getSystemWindowText(5, "10:42"), "last");
-    setLine(6, "none");
-    setLine(-1, "none");
-    EXPECT_EQ(window->getSystemWindowText(6, ""), "");
-    EXPECT_EQ(window->getSystemWindowText(-1, ""), "");
-
-    // Sizes leave the texts alone.
-    window->setSystemWindowSize(0);
-    EXPECT_EQ(window->getSystemWindowText(5, ""), "last");
-}
-
-TEST_F(SystemWindowTest, ItsRectangleFollowsTheNumberOfLines)
-{
-    struct Case {
-        int lines;
-        int bottom;
-    };
-    for (const Case& test : {Case{0, -1}, Case{1, 14}, Case{2, 29}, Case{3, 30}, Case{6, 30}, Case{99, 30}}) {
-        window->setSystemWindowSize(test.lines);
-        EXPECT_EQ(window->getRect(), URect(0, 0, 161, test.bottom)) << test.lines;
-    }
-    window->setSystemWindowSize(-1);
-    EXPECT_TRUE(window->getRect().isEmpty());
-}
-
 TEST_F(SystemWindowTest, TheClockGoesOnByItself)
 {
     window->setSystemWindowSize(1);
@@ -132,34 +87,6 @@ TEST_F(SystemWindowTest, TheTimerCountsWhileItRuns)
     EXPECT_EQ(line(0), start + "99:59:59");
     window->stopTimer();
     EXPECT_EQ(line(0), start + "00:00:00");
-}
-
-TEST_F(SystemWindowTest, AHiddenTimerRunsOnUnlessItIsStopped)
-{
-    window->setSystemWindowSize(1);
-    window->startTimer("00:00:10");
-    window->showTimer();
-    window->hideTimer(false);
-    EXPECT_EQ(line(0), whole("upper"));
-    EXPECT_EQ(window->getTimeToNextUpdate(), 0);
-    advance(5000);
-    window->showTimer();
-    EXPECT_EQ(line(0), "                   00:00:15");
-    window->hideTimer(true);
-    window->showTimer();
-    advance(5000);
-    EXPECT_EQ(line(0), "                   00:00:00");
-}
-
-TEST_F(SystemWindowTest, ATimeThatIsNoneChangesNothing)
-{
-    window->setSystemWindowSize(1);
-    window->showTimer();
-    window->setTimer("01:02:03");
-    for (const char* time : {"", "1:02:03", "01:60:00", "01:00:60", "01-02-03", "-1:02:03", "01:02:03x", "ab:cd:ef"}) {
-        window->setTimer(time);
-        EXPECT_EQ(line(0), "                   01:02:03") << time;
-    }
 }
 
 TEST_F(SystemWindowTest, IconsTimerAndClockShareTheRightSideAndTheTextGivesWay)

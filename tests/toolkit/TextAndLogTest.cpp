@@ -1,4 +1,3 @@
-#include "HardwareVersion.h"
 #include "Log.h"
 #include "TranslationInfo.h"
 #include "Types.h"
@@ -56,20 +55,6 @@ TEST(TranslationTest, TheTextFollowsTheLocale)
     EXPECT_EQ(line.getCompleteString(), "<de:Back?");
 }
 
-TEST(TranslationTest, WithoutATranslatorTheKeyIsTheText)
-{
-    EXPECT_EQ(TranslationInfo("", "Back", "?", nullptr).getCompleteString(), "Back?");
-    EXPECT_EQ(TranslationInfo("Back", nullptr).getString(), "Back");
-}
-
-TEST_F(LogTest, EverythingIsOffAtFirst)
-{
-    EXPECT_FALSE(loggingOnAppUni("DisplayAPI::List", 0));
-    EXPECT_FALSE(loggingOnAppUni(nullptr, -1));
-    logAppUni("DisplayAPI::List", "src/List", 1, 7, "unwanted");
-    EXPECT_TRUE(gMessages.empty());
-}
-
 TEST_F(LogTest, AModuleIsWrittenUpToItsLevel)
 {
     LogControl::setLevel("DisplayAPI::List", 3);
@@ -97,15 +82,6 @@ TEST_F(LogTest, AMessageCarriesItsPlaceAndItsWholeText)
     EXPECT_EQ(gMessages[0].text, "row 7 is " + name);
 }
 
-TEST_F(LogTest, WithoutASinkEachMessageIsOneLineOfStandardError)
-{
-    LogControl::setLevel("*", 5);
-    LogControl::setSink(nullptr);
-    testing::internal::CaptureStderr();
-    logAppUni("DisplayAPI::Form", "src/Form", 5, 42, "Has changed:\n%d", 1);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "DisplayAPI::Form(5) src/Form:42: Has changed: 1\n");
-}
-
 TEST(TypesTest, ADyingHandlerLeavesItsDisplayUnlessAnotherTookItsPlace)
 {
     Handler successor;
@@ -122,17 +98,4 @@ TEST(TypesTest, ADyingHandlerLeavesItsDisplayUnlessAnotherTookItsPlace)
         display = &successor;
     }
     EXPECT_EQ(display, &successor);
-}
-
-TEST(HardwareVersionTest, TheTelephoneHasTwoLinesUntilToldOtherwise)
-{
-    EXPECT_EQ(HardwareVersion::getDisplayLines(), 2);
-    HardwareVersion::setAll(
-        {.displayLines = 3, .subVariant = 4, .subPlatformVariant = 5, .isRX40 = true, .isRX70 = false});
-    EXPECT_EQ(HardwareVersion::getDisplayLines(), 3);
-    EXPECT_EQ(HardwareVersion::getHWSubVariant(), 4);
-    EXPECT_EQ(HardwareVersion::getHWSubPlatformVariant(), 5);
-    EXPECT_TRUE(HardwareVersion::is_RX40_any());
-    EXPECT_FALSE(HardwareVersion::is_RX70());
-    HardwareVersion::setAll({});
 }

@@ -108,70 +108,6 @@ TEST_F(TreeItemTest, ASecondCallStandsBelowTheFirst)
     EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00") << "the second line shows on the current row only";
 }
 
-TEST_F(TreeItemTest, MarksTakeTheirRoomFromTheText)
-{
-    auto* row = new TreeItemMEG(BranchMEG::CallNoIcon, text("A caller with a very long name"), false, true);
-    list.addItem(row);
-    EXPECT_EQ(line(0), "A caller with a very long n");
-    row->branch->setCallSecurityState(BranchMEG::SecureCall);
-    row->branch->setRemoteMaintenanceIcon(true);
-    EXPECT_EQ(line(0), "A caller with a very l \u25A1\u25A1\u25A1\u25A1");
-}
-
-TEST_F(TreeItemTest, TheVoicePathTakesThePlaceOfAConnectedStateOnly)
-{
-    auto* row = call("Bob");
-    list.addItem(row);
-    const UScreenWE1 plain = picture();
-    row->branch->setHeadsetIcon(true);
-    const UScreenWE1 headset = picture();
-    EXPECT_FALSE(headset == plain);
-    row->branch->setMuteIcon(true);
-    EXPECT_FALSE(picture() == headset);
-    row->branch->setMuteIcon(false);
-    EXPECT_TRUE(picture() == headset);
-    row->setFirstIconType(BranchMEG::CallHeldByFarEnd);
-    const UScreenWE1 held = picture();
-    row->branch->setHeadsetIcon(false);
-    EXPECT_TRUE(picture() == held);
-}
-
-TEST_F(TreeItemTest, ALeafIsShownWithTheCurrentRow)
-{
-    auto* bob = call("Bob");
-    EXPECT_EQ(bob->branch->childElement(0), nullptr);
-    bob->setSecondLineText(text("second line"));
-    EXPECT_FALSE(bob->branch->childShown()) << "a row in no list is not on the glass";
-    list.addItem(bob);
-    list.addItem(call("Carol"));
-    TreeElement* element = bob->branch->childElement(0);
-    ASSERT_NE(element, nullptr);
-    ASSERT_EQ(element->elementKind(), TreeElement::LeafElement);
-    const auto* leaf = dynamic_cast<Leaf*>(element);
-    ASSERT_NE(leaf, nullptr);
-    EXPECT_EQ(leaf->text(), text("second line"));
-    EXPECT_TRUE(bob->branch->childShown());
-    EXPECT_EQ(leaf->getRect(), list.getRect());
-
-    list.setCurrentIndex(1);
-    EXPECT_FALSE(bob->branch->childShown());
-    EXPECT_EQ(leaf->getRect(), bob->getRect());
-    bob->clearSecondLineText();
-    EXPECT_EQ(bob->branch->childElement(0), nullptr);
-}
-
-TEST_F(TreeItemTest, ADisabledRowCannotBeChosen)
-{
-    auto* row = call("Bob");
-    list.addItem(row);
-    row->enabled(false);
-    EXPECT_TRUE(press(UGlobal::KeyOk));
-    EXPECT_TRUE(agent.entries.empty());
-    row->enabled(true);
-    press(UGlobal::KeyOk);
-    EXPECT_EQ(agent.takeTypes(), Types{EventType::RowChosen});
-}
-
 // Conferences
 
 TEST_F(TreeItemTest, TheHighlightGoesThroughTheMembers)
@@ -195,28 +131,6 @@ TEST_F(TreeItemTest, TheHighlightGoesThroughTheMembers)
     EXPECT_EQ(line(1), "  Carol 4713              |");
     EXPECT_TRUE(isInverse(1));
     EXPECT_FALSE(isInverse(0));
-}
-
-TEST_F(TreeItemTest, AConferenceAloneWrapsInItself)
-{
-    TreeItemMEG* conference = addConference();
-    press(UGlobal::KeyUp);
-    EXPECT_EQ(conference->getCurrentChild(), 2);
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(conference->getCurrentChild(), 0);
-    EXPECT_EQ(agent.takeTypes(), Types(2, EventType::RowMoved));
-}
-
-TEST_F(TreeItemTest, SettingAMemberCurrentMakesItsRowCurrent)
-{
-    list.addItem(call("Dave"));
-    TreeItemMEG* conference = addConference();
-    conference->setCurrentChild(2);
-    conference->setCurrentChild(3);
-    conference->setCurrentChild(-1);
-    EXPECT_EQ(list.currentIndex(), 1);
-    EXPECT_EQ(conference->getCurrentChild(), 2);
-    EXPECT_TRUE(agent.entries.empty());
 }
 
 TEST_F(TreeItemTest, MembersComeAndGoWithTheirOwners)

@@ -1,5 +1,4 @@
 #include "UWidget.h"
-#include "UWindowManager.h"
 
 #include <gtest/gtest.h>
 
@@ -152,24 +151,4 @@ TEST_F(WidgetTreeTest, ListenersInTheTreeSurviveEveryOrderOfDestruction)
             delete list;
         root.reset();
     }
-}
-
-TEST_F(WidgetTreeTest, ShownIsWhoIsVisibleWithAllItsParentsBelowTheRoot)
-{
-    TestWidget root(protocol, 'r');
-    auto* screen = new TestWidget(protocol, 's', &root);
-    auto* row = new TestWidget(protocol, 'w', screen);
-    EXPECT_FALSE(row->isShown()) << "the tree is not on the glass";
-    UWindowManager::instance().setRoot(&root);
-    EXPECT_TRUE(row->isShown());
-    for (TestWidget* hidden : {&root, screen, row}) {
-        hidden->hide();
-        EXPECT_FALSE(row->isShown());
-        EXPECT_EQ(row->isVisible(), hidden != row) << "the flag is the widget's own";
-        hidden->show();
-    }
-    screen->setParent(nullptr);
-    EXPECT_FALSE(row->isShown());
-    delete screen;
-    UWindowManager::instance().setRoot(nullptr);
 }
