@@ -1,4 +1,5 @@
 #include "Semaphore.h"
+#include "UApplication.h"
 #include "UEvent.h"
 #include "ULoop.h"
 #include "UWindowManager.h"
@@ -7,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <thread>
@@ -167,6 +169,27 @@ TEST_F(LoopTest, AnEventThatGoesUnrunCannotPostAnother)
     EXPECT_EQ(protocol, "a~x~b");
 }
 
+TEST_F(LoopTest, TheQueueOpensAgainForANewLoopOrANewApplication)
+{
+    for (const bool byApplication : {false, true}) {
+        loop().close();
+        protocol.clear();
+        post('a');
+        EXPECT_EQ(protocol, "~a");
+        if (byApplication) {
+            new VantoUApplication(UString(std::string("again")), new UScreenWE1, UApplication::UIMode{},
+                VantoUApplication::HardwareVariant{}, VantoUApplication::SoftwareType{},
+                PhysDefs::hardwareSubVariant{});
+            post('b');
+        }
+        // A manual clock makes no timer due: the painting is what a loop has to do here.
+        UWindowManager::instance().repaint();
+        UWindowManager::instance().setPaintObserver([&] { post('c', [] { loop().quit(); }); });
+        loop().exec();
+        EXPECT_EQ(protocol, byApplication ? "~abc" : "~ac");
+    }
+}
+
 TEST_F(LoopTest, ALoopWhoseQueueIsClosedUnderItEnds)
 {
     post('a', [] { loop().close(); });
@@ -282,8 +305,51 @@ TEST_F(LoopTest, ATimerOfADeadAgentNeverFires)
     EXPECT_EQ(protocol, "x");
 }
 
-TEST_F(LoopTest, ATimerOnTheRunningClockWakesTheSleepingLoop)
+TEST_F(LoopTest, OddIntervalsNeitherHangNorFireAtOnce)
 {
+    TimerAgent agent;
+    UTimer zero(&agent, 0), endless(&agent, std::numeric_limits<unsigned long long>::max());
+    int fired = 0;
+    agent.onTimer = [&](std::uint64_t id) {
+        EXPECT_EQ(id, zero.id());
+        ++fired;
+    };
+    zero.start();
+    endless.start();
+    loop().advance(5);
+    EXPECT_EQ(fired, 5);
+    zero.stop();
+    loop().setManualClock(false);
+    EXPECT_GT(loop().timeToNextTimer(), 1'000'000'000'000);
+    loop().setManualClock(true);
+}
+
+TEST_F(LoopTest, AdvancingInsideTheLoopEndsWithIt)
+{
+    TimerAgent agent;
+    UTimer quits(&agent, 10), later(&agent, 20);
+    agent.onTimer = [&](std::uint64_t id) {
+        note(id == quits.id() ? 'q' : 'l');
+        loop().quit();
+    };
+    quits.start();
+    later.start();
+    post('a', [] { loop().advance(50); });
+    loop().exec();
+    EXPECT_EQ(protocol, "aq");
+}
+
+TEST_F(LoopTest, TheClockGoesOnWhereItWasStopped)
+{
+    const std::uint64_t stopped = loop().now();
+    loop().advance(1'000'000);
+    EXPECT_EQ(loop().now(), stopped + 1'000'000);
+    loop().setManualClock(false);
+    EXPECT_GE(loop().now(), stopped + 1'000'000);
+    loop().setManualClock(true);
+    EXPECT_GE(loop().now(), stopped + 1'000'000);
+
+    // On the running clock a timer wakes the sleeping loop.
     loop().setManualClock(false);
     TimerAgent agent;
     UTimer timer(&agent, 2);

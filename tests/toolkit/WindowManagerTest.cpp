@@ -47,6 +47,7 @@ public:
     }
     bool isPassive() const override { return passive; }
     Layer layer() const override { return mLayer; }
+    Role role() const override { return theRole; }
     bool keyEvent(UKeyEvent* key) override
     {
         gKeys += {mName,
@@ -65,6 +66,7 @@ public:
     bool takesKeys = true;
     bool blanks = false;
     int cell = 0;
+    Role theRole = Role::None;
     std::function<void()> onKey;
 
 private:
@@ -154,6 +156,32 @@ TEST_F(WindowManagerTest, AnUpPopupTakesTheFocusFromWhereverItStands)
     EXPECT_EQ(manager().focusWidget(), b);
 }
 
+TEST_F(WindowManagerTest, APopupOutsideTheTreeBelongsToTheScreenOnTop)
+{
+    NamedWidget dialer('d', nullptr, UWidget::Layer::Popup);
+    manager().raisePopup(&dialer);
+    auto* status = new NamedWidget('s', &root, UWidget::Layer::StatusMessage);
+    status->target = nullptr;
+    EXPECT_EQ(manager().focusWidget(), &dialer) << "a status message is no screen";
+    auto* next = new NamedWidget('n', &root);
+    EXPECT_EQ(manager().focusWidget(), next);
+    delete next;
+    EXPECT_EQ(manager().focusWidget(), &dialer) << "screen and popup come back together";
+    b->hide();
+    EXPECT_EQ(manager().focusWidget(), a);
+    b->show();
+    delete b;
+    EXPECT_EQ(manager().focusWidget(), a) << "its screen has gone for good";
+    auto sameAddress = std::make_unique<NamedWidget>('x', &root);
+    EXPECT_EQ(manager().focusWidget(), sameAddress.get());
+    manager().raisePopup(&dialer);
+    EXPECT_EQ(manager().focusWidget(), &dialer) << "raising binds it anew";
+    root.addWidget(&dialer);
+    sameAddress.reset();
+    EXPECT_EQ(manager().focusWidget(), &dialer) << "in the tree it is bound to nothing";
+    dialer.setParent(nullptr);
+}
+
 TEST_F(WindowManagerTest, APassivePopupJoinsInByRequestAlone)
 {
     auto* note = new NamedWidget('n', &root, UWidget::Layer::Popup);
@@ -179,7 +207,28 @@ TEST_F(WindowManagerTest, APassivePopupJoinsInByRequestAlone)
     EXPECT_EQ(manager().focusWidget(), b);
 }
 
+TEST_F(WindowManagerTest, AKeyThatAnOrdinaryPopupRefusesGoesNowhere)
+{
+    auto* popup = new NamedWidget('p', &root, UWidget::Layer::Popup);
+    popup->takesKeys = false;
+    manager().raisePopup(popup);
+    EXPECT_FALSE(press(5));
+    EXPECT_FALSE(release(5));
+    EXPECT_EQ(keys(), "p+5 ");
+}
+
 // Keys
+
+TEST_F(WindowManagerTest, HoldAndReleaseGoToWhoTookThePress)
+{
+    EXPECT_TRUE(press(5));
+    EXPECT_TRUE(hold(5));
+    EXPECT_TRUE(hold(5));
+    EXPECT_TRUE(release(5));
+    EXPECT_FALSE(release(5));
+    EXPECT_FALSE(hold(5));
+    EXPECT_EQ(keys(), "b+5 b=5 b=5 b-5 ");
+}
 
 TEST_F(WindowManagerTest, AKeyThatOpensAScreenDoesNotMoveInIt)
 {
@@ -237,6 +286,21 @@ TEST_F(WindowManagerTest, AWidgetMayDieInsideItsKey)
     EXPECT_EQ(keys(), "n+4 ");
 }
 
+TEST_F(WindowManagerTest, AShownRoleIsFoundWhereverItStands)
+{
+    constexpr int idle = static_cast<int>(UWidget::Role::IdleDisplay);
+    auto* inner = new NamedWidget('i', a);
+    EXPECT_EQ(manager().shownWidget(idle), nullptr);
+    inner->theRole = UWidget::Role::IdleDisplay;
+    EXPECT_EQ(manager().shownWidget(idle), inner);
+    EXPECT_EQ(manager().shownWidget(static_cast<int>(UWidget::Role::SearchableList)), nullptr);
+    a->hide();
+    EXPECT_EQ(manager().shownWidget(idle), nullptr);
+    a->show();
+    root.hide();
+    EXPECT_EQ(manager().shownWidget(idle), nullptr);
+}
+
 // Painting
 
 TEST_F(WindowManagerTest, ScreensArePaintedInTheirOrderAndBlankWhatTheyCover)
@@ -282,6 +346,18 @@ TEST_F(WindowManagerTest, LayersLieOverTheScreensInTheirOrder)
     EXPECT_EQ(painted(), "q");
     manager().lowerPopup(second);
     EXPECT_EQ(painted(), "l") << "popups that are down are not painted";
+}
+
+TEST_F(WindowManagerTest, APopupBelowAScreenIsPaintedOnlyWhileItIsUp)
+{
+    auto* menu = new NamedWidget('m', b, UWidget::Layer::Popup);
+    menu->cell = 2;
+    a->hide();
+    EXPECT_EQ(painted(), "b");
+    manager().raisePopup(menu);
+    EXPECT_EQ(painted(), "b m");
+    b->hide();
+    EXPECT_EQ(painted(), "") << "its screen is hidden";
 }
 
 TEST_F(WindowManagerTest, ADisabledScreenIsBlankAndIsPaintedOnlyWhenAsked)
