@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 #include <vector>
 
@@ -56,6 +57,28 @@ bool liesIn(const fs::path& file, const std::string& folder)
     return file.generic_string().rfind(folder + "/", 0) == 0;
 }
 
+struct Include {
+    std::string name;
+    bool isQuoted;
+};
+
+/// Reads a line of a source file: #include <name> or #include "name", with blanks between the words.
+std::optional<Include> parseInclude(std::string_view line)
+{
+    auto skip = [&line](std::string_view word) {
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+        const bool isThere = line.substr(0, word.size()) == word;
+        line.remove_prefix(isThere ? word.size() : 0);
+        return isThere;
+    };
+    if (!skip("#") || !skip("include"))
+        return std::nullopt;
+    const bool isQuoted = skip("\"");
+    if (!isQuoted && !skip("<"))
+        return std::nullopt;
+    return Include{std::string(line.substr(0, line.find(isQuoted ? '"' : '>'))), isQuoted};
+}
+
 /// The include rules over the files below a root.
 class IncludeRules {
 public:
@@ -99,25 +122,25 @@ private:
 
     void check(const Layer& layer, const fs::path& file)
     {
-        static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"].*)");
         ++mFilesChecked;
         std::ifstream source(mRoot / file);
         std::string line;
         for (int number = 1; std::getline(source, line); ++number) {
-            std::smatch match;
-            if (line.find('#') == std::string::npos || !std::regex_match(line, match, include))
+            const std::optional<Include> include = parseInclude(line);
+            if (!include)
                 continue;
-            const std::string fault = faultOf(layer, file, match[2], match[1] == "\"");
+            const std::string fault = faultOf(layer, file, *include);
             if (!fault.empty())
                 mViolations.push_back(
-                    file.generic_string() + ":" + std::to_string(number) + ": <" + match[2].str() + "> " + fault);
+                    file.generic_string() + ":" + std::to_string(number) + ": <" + include->name + "> " + fault);
         }
     }
 
     /// What is wrong with an include; empty if it is allowed.
-    std::string faultOf(const Layer& layer, const fs::path& file, const std::string& name, bool quoted) const
+    std::string faultOf(const Layer& layer, const fs::path& file, const Include& include) const
     {
-        const fs::path found = find(file, name, quoted);
+        const std::string& name = include.name;
+        const fs::path found = find(file, include);
         if (found.empty()) {
             const bool isStandard = name.find('.') == std::string::npos;
             if (isStandard || contains(layer.systemHeaders, "*") || contains(layer.systemHeaders, name))
@@ -134,13 +157,13 @@ private:
     }
 
     /// The file of the project that an include names, as the compiler finds it; empty for the system's.
-    fs::path find(const fs::path& file, const std::string& name, bool quoted) const
+    fs::path find(const fs::path& file, const Include& include) const
     {
-        if (quoted && fs::exists(mRoot / file.parent_path() / name))
-            return (file.parent_path() / name).lexically_normal();
+        if (include.isQuoted && fs::exists(mRoot / file.parent_path() / include.name))
+            return (file.parent_path() / include.name).lexically_normal();
         for (const std::string& folder : IncludePath) {
-            if (fs::exists(mRoot / folder / name))
-                return (fs::path(folder) / name).lexically_normal();
+            if (fs::exists(mRoot / folder / include.name))
+                return (fs::path(folder) / include.name).lexically_normal();
         }
         return {};
     }
