@@ -12,7 +12,8 @@ namespace {
 struct Entry {
     std::string mode;
     std::string name;
-    std::string unit; // empty: a time, to be compared with the yardstick
+    std::string unit;
+    bool isRatio; // a time, to be compared with the yardstick
     double limit = 0;
     std::vector<double> values;
 };
@@ -28,12 +29,12 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-void add(const std::string& mode, const std::string& name, const std::string& unit, double limit, double value)
+void add(const Entry& description, double value)
 {
-    auto found = std::find_if(
-        gEntries.begin(), gEntries.end(), [&](const Entry& entry) { return entry.mode == mode && entry.name == name; });
+    auto found = std::find_if(gEntries.begin(), gEntries.end(),
+        [&](const Entry& entry) { return entry.mode == description.mode && entry.name == description.name; });
     if (found == gEntries.end())
-        found = gEntries.insert(gEntries.end(), Entry{mode, name, unit, limit, {}});
+        found = gEntries.insert(gEntries.end(), description);
     found->values.push_back(value);
 }
 
@@ -53,12 +54,12 @@ void setYardstick(const std::string& mode, double nanoseconds)
 
 void addRatio(const std::string& mode, const std::string& name, double nanoseconds, double limit)
 {
-    add(mode, name, "", limit, nanoseconds);
+    add({mode, name, "ns", true, limit, {}}, nanoseconds);
 }
 
 void addFigure(const std::string& mode, const std::string& name, double value, const std::string& unit, double limit)
 {
-    add(mode, name, unit, limit, value);
+    add({mode, name, unit, false, limit, {}}, value);
 }
 
 void print()
@@ -70,7 +71,7 @@ void print()
             if (entry.mode != mode)
                 continue;
             const double value = median(entry.values);
-            if (entry.unit.empty()) {
+            if (entry.isRatio) {
                 std::printf("  %-56s %10.1f ns   ratio %7.4f", entry.name.c_str(), value, value / yardstick);
                 printLimit(value / yardstick, entry.limit);
             } else {

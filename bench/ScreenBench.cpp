@@ -71,7 +71,7 @@ double serialiseStackOfThree(const std::string& mode, long rounds)
             benchmark::DoNotOptimize(phone.display().serialiseByRect(rects, ""));
         time = (nowInNanoseconds() - begin) / static_cast<double>(rounds);
         Report::addFigure(mode, "allocations of serialiseByRect, stack of three",
-            static_cast<double>(tAllocations - allocationsBefore) / static_cast<double>(rounds), "", 20);
+            static_cast<double>(tAllocations - allocationsBefore) / static_cast<double>(rounds), "allocations", 20);
         phone.display().setCurrent(nullptr);
     });
     Report::addFigure(mode, "serialiseByRect, stack of three", time / 1000, "us", 10);

@@ -53,10 +53,13 @@ void List::privateAppend(ListItem* item)
     TRACE_LIST("privateAppend() this: %p\n", static_cast<void*>(this));
     if (!isAcceptable(item))
         return;
+    Arrival arrival{item, mArrivals};
     item->joinScreen(*this, &List::itemDies);
-    if (mPrivate)
+    if (mPrivate) {
+        mArrivals = &arrival;
         mPrivate->append(item->getPrivateImplemetation());
-    if (!isDeletedWith(this, item))
+    }
+    if (hasArrived(this, arrival))
         mItems.push_back(item);
 }
 
@@ -65,10 +68,13 @@ void List::privateInsertAt(ListItem* item, int index)
     TRACE_LIST("privateInsertAt() this: %p\n", static_cast<void*>(this));
     if (!isAcceptable(item))
         return;
+    Arrival arrival{item, mArrivals};
     item->joinScreen(*this, &List::itemDies);
-    if (mPrivate)
+    if (mPrivate) {
+        mArrivals = &arrival;
         mPrivate->insertAt(item->getPrivateImplemetation(), index);
-    if (!isDeletedWith(this, item))
+    }
+    if (hasArrived(this, arrival))
         mItems.insert(position(index), item);
 }
 
@@ -96,8 +102,12 @@ void List::privateRemove(ListItem* item)
     TRACE_LIST("privateRemove() this: %p\n", static_cast<void*>(this));
     if (mPrivate && privateOf(item))
         mPrivate->remove(privateOf(item));
-    if (displayableExists(this))
-        takeOffVector(indexOf(item));
+    if (!displayableExists(this))
+        return;
+    // Also a row that is still on its way in, which a subscriber takes back inside its notice.
+    if (forgetArrival(item))
+        item->leaveScreen();
+    takeOffVector(indexOf(item));
 }
 
 void List::privateRemoveAll()
@@ -264,12 +274,35 @@ void List::takeOffVector(int index)
 
 void List::deleteItems()
 {
+    for (Arrival* arrival = mArrivals; arrival; arrival = arrival->outer)
+        delete arrival->item; // which leaves the list, and so the arrival
     while (!mItems.empty()) {
         ListItem* item = mItems.back();
         mItems.pop_back();
         item->leaveScreen();
         delete item;
     }
+}
+
+/// After the notice of a row on its way in: false if the row has been taken back or has died there, or if the list
+/// has, which takes the row with it.
+bool List::hasArrived(List* list, const Arrival& arrival)
+{
+    if (isDeletedWith(list, arrival.item))
+        return false;
+    list->mArrivals = arrival.outer;
+    return arrival.item != nullptr;
+}
+
+bool List::forgetArrival(const ListItem* item)
+{
+    for (Arrival* arrival = mArrivals; arrival; arrival = arrival->outer) {
+        if (item && arrival->item == item) {
+            arrival->item = nullptr;
+            return true;
+        }
+    }
+    return false;
 }
 
 /// After a notice: true if the list has gone meanwhile. Then the row on its way in, which was the list's already,
@@ -288,8 +321,9 @@ bool List::isDeletedWith(const List* list, ListItem* item)
 void List::itemDies(Displayable& screen, ListItem& item, ListItemPrivateIfc* itemPrivate)
 {
     auto& list = static_cast<List&>(screen);
+    const bool wasArriving = list.forgetArrival(&item);
     const int index = list.indexOf(&item);
-    if (index < 0)
+    if (index < 0 && !wasArriving)
         return;
     // Off the vector first: the notice may delete the list, which deletes the rows that it still has.
     list.takeOffVector(index);

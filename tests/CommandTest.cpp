@@ -22,6 +22,7 @@
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <vector>
 
 using namespace DisplayAPI;
@@ -189,6 +190,10 @@ TEST(MenuCommandTest, TheFieldsOnOneLine)
     EXPECT_EQ(MenuCommand("", image, 1).getIconType(), PhonebookItem::ImageIcon);
     EXPECT_EQ(MenuCommand(static_cast<TranslationInfo*>(nullptr), image, 1).getIconType(), PhonebookItem::ImageIcon);
     EXPECT_EQ(MenuCommand("", static_cast<Image*>(nullptr), 1).getIconType(), PhonebookItem::NoIcon);
+    // A literal null is no path: it is the image that there isn't.
+    EXPECT_EQ(MenuCommand("label", nullptr, 1).toString(), MenuCommand("label", 1).toString());
+    EXPECT_EQ(MenuCommand(nullptr, nullptr, 1).toString(), MenuCommand("", 1).toString());
+    static_assert(!std::is_constructible_v<MenuCommand, const char*, const char*, unsigned long>);
     EXPECT_EQ(MenuCommand("", PhonebookItem::Mobile, 1).toString(), "4:0:1::F:0:F:F:F:F:F:0:");
 }
 
@@ -317,6 +322,10 @@ TEST_F(QueueTest, NobodyPostsToNullOrToTheDead)
     CommandExecutor::postCommand(static_cast<CommandListener*>(nullptr), &yes, nullptr, true);
     CommandExecutor::postCommand(static_cast<ItemStateListener*>(nullptr), &field, true);
     listeners.forEach([this](CommandListener* listener) { post(*listener, yes); });
+    auto shortCommand = std::make_unique<Command>("short", Command::Select);
+    Command* gone = shortCommand.get();
+    shortCommand.reset();
+    post(anna, *gone); // it died behind the question whether it lives
     EXPECT_EQ(deliver(), "anna:yes");
 }
 

@@ -6,6 +6,10 @@
 
 #include <UApplication.h>
 
+#include <cstddef>
+#include <memory>
+#include <new>
+
 using namespace DisplayAPI;
 
 namespace {
@@ -392,6 +396,48 @@ TEST_F(DisplayStackTest, ADisplayForgetsOnlyItsOwnScreens)
     elsewhere.reset();
     EXPECT_EQ(other.getCurrent(), nullptr);
 }
+
+TEST_F(DisplayStackTest, AHalfThatWasKeptFindsNoDisplayButItsOwn)
+{
+    // Its handle has gone and stands in no registry, as after a refused deletion.
+    TestScreen::Private kept("kept", Kind::Popup, log);
+    TestScreen::Private joined("joined", Kind::Popup, log);
+    alignas(DisplayPrivate) std::byte memory[sizeof(DisplayPrivate)];
+    const auto makeThere
+        = [&memory] { return new (memory) DisplayPrivate("Other", false, "other", "", "", "", "", nullptr, nullptr); };
+    DisplayPrivate* other = makeThere();
+    kept.connectDisplayChangedSignal(other);
+    joined.join(&kept);
+    EXPECT_EQ(joined.display(), other);
+    std::destroy_at(other);
+    for (const bool isAnotherThere : {false, true}) {
+        if (isAnotherThere) {
+            other = makeThere();
+            other->subscribe(&subscriber);
+        }
+        subscriber.takeNotices();
+        for (TestScreen::Private* half : {&kept, &joined}) {
+            EXPECT_EQ(half->display(), nullptr);
+            half->generateDisplayChangedEvent();
+            half->dismiss();
+        }
+        EXPECT_EQ(subscriber.takeNotices(), 0);
+    }
+    std::destroy_at(other);
+}
+
+#ifndef NDEBUG
+TEST_F(DisplayStackTest, AnotherThreadIsStoppedAtTheDoor)
+{
+    constexpr unsigned int otherThread = 4'000'000'000U;
+    EXPECT_DEATH(
+        {
+            Widget::setGuiThreadId(otherThread);
+            display->setCurrent(nullptr);
+        },
+        "post a request");
+}
+#endif
 
 // Calls from inside a notice
 

@@ -14,7 +14,9 @@
 #include <climits>
 #include <functional>
 #include <future>
+#include <memory>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -255,6 +257,42 @@ TEST_F(DisplayTest, ANumberWithoutAnOperationLetsItsCallerGo)
     nobodys.process();
     nobodys.requestCompleted();
     EXPECT_EQ(display.recording->takeNotes(), "");
+}
+
+TEST_F(DisplayTest, TheRequestsOfADisplayThatHasDiedRunNothing)
+{
+    auto older = std::make_unique<Display>("older", "en", "", "", false, nullptr);
+    const Display newer("newer", "en", "", "", false, nullptr);
+    Semaphore answered(Semaphore::NOT_AVAILABLE);
+    auto* show = new DisplayRequestEvent(older.get(), request(1));
+    show->setSemaphore(&answered);
+    UApplication::instance()->postEvent(show);
+    older.reset();
+    ULoop::instance().processEvents();
+    EXPECT_FALSE(answered.take(-1));
+    display.Display::processDisplayRequest(nullptr);
+}
+
+TEST_F(DisplayTest, AnExceptionEndsTheLoopAndLetsEveryCallerGo)
+{
+    struct Throwing : DisplayRequestEvent {
+        using DisplayRequestEvent::DisplayRequestEvent;
+        void process() override { throw std::runtime_error("from a subscriber"); }
+    };
+    for (int round = 0; round < 2; ++round) {
+        ULoop::instance().open();
+        Semaphore inHand(Semaphore::NOT_AVAILABLE);
+        Semaphore behind(Semaphore::NOT_AVAILABLE);
+        auto* first = new Throwing(&display, request(1));
+        first->setSemaphore(&inHand);
+        UApplication::instance()->postEvent(first);
+        auto* second = event(1);
+        second->setSemaphore(&behind);
+        UApplication::instance()->postEvent(second);
+        EXPECT_THROW(ULoop::instance().exec(), std::runtime_error);
+        EXPECT_FALSE(inHand.take(-1));
+        EXPECT_FALSE(behind.take(-1));
+    }
 }
 
 TEST_F(DisplayTest, ResultsAreTheSameOnBothRoads)

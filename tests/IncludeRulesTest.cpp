@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -57,28 +56,6 @@ bool liesIn(const fs::path& file, const std::string& folder)
     return file.generic_string().rfind(folder + "/", 0) == 0;
 }
 
-struct Include {
-    std::string name;
-    bool isQuoted;
-};
-
-/// Reads a line of a source file: #include <name> or #include "name", with blanks between the words.
-std::optional<Include> parseInclude(std::string_view line)
-{
-    auto skip = [&line](std::string_view word) {
-        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-        const bool isThere = line.substr(0, word.size()) == word;
-        line.remove_prefix(isThere ? word.size() : 0);
-        return isThere;
-    };
-    if (!skip("#") || !skip("include"))
-        return std::nullopt;
-    const bool isQuoted = skip("\"");
-    if (!isQuoted && !skip("<"))
-        return std::nullopt;
-    return Include{std::string(line.substr(0, line.find(isQuoted ? '"' : '>'))), isQuoted};
-}
-
 /// The include rules over the files below a root.
 class IncludeRules {
 public:
@@ -126,21 +103,37 @@ private:
         std::ifstream source(mRoot / file);
         std::string line;
         for (int number = 1; std::getline(source, line); ++number) {
-            const std::optional<Include> include = parseInclude(line);
-            if (!include)
+            const auto [name, isQuoted] = includeOf(line);
+            if (name.empty())
                 continue;
-            const std::string fault = faultOf(layer, file, *include);
+            const std::string fault = faultOf(layer, file, name, isQuoted);
             if (!fault.empty())
                 mViolations.push_back(
-                    file.generic_string() + ":" + std::to_string(number) + ": <" + include->name + "> " + fault);
+                    file.generic_string() + ":" + std::to_string(number) + ": <" + name + "> " + fault);
         }
     }
 
-    /// What is wrong with an include; empty if it is allowed.
-    std::string faultOf(const Layer& layer, const fs::path& file, const Include& include) const
+    /// The name that a line includes, and whether it stands in quotes; empty for any other line.
+    static std::pair<std::string, bool> includeOf(const std::string& line)
     {
-        const std::string& name = include.name;
-        const fs::path found = find(file, include);
+        const std::size_t hash = line.find_first_not_of(" \t");
+        if (hash == std::string::npos || line[hash] != '#')
+            return {};
+        const std::size_t word = line.find_first_not_of(" \t", hash + 1);
+        if (word == std::string::npos || line.compare(word, 7, "include") != 0)
+            return {};
+        const std::size_t open = line.find_first_of("<\"", word + 7);
+        if (open == std::string::npos)
+            return {};
+        const bool isQuoted = line[open] == '"';
+        const std::size_t close = line.find(isQuoted ? '"' : '>', open + 1);
+        return {line.substr(open + 1, close - open - 1), isQuoted};
+    }
+
+    /// What is wrong with an include; empty if it is allowed.
+    std::string faultOf(const Layer& layer, const fs::path& file, const std::string& name, bool quoted) const
+    {
+        const fs::path found = find(file, name, quoted);
         if (found.empty()) {
             const bool isStandard = name.find('.') == std::string::npos;
             if (isStandard || contains(layer.systemHeaders, "*") || contains(layer.systemHeaders, name))
@@ -157,13 +150,13 @@ private:
     }
 
     /// The file of the project that an include names, as the compiler finds it; empty for the system's.
-    fs::path find(const fs::path& file, const Include& include) const
+    fs::path find(const fs::path& file, const std::string& name, bool quoted) const
     {
-        if (include.isQuoted && fs::exists(mRoot / file.parent_path() / include.name))
-            return (file.parent_path() / include.name).lexically_normal();
+        if (quoted && fs::exists(mRoot / file.parent_path() / name))
+            return (file.parent_path() / name).lexically_normal();
         for (const std::string& folder : IncludePath) {
-            if (fs::exists(mRoot / folder / include.name))
-                return (fs::path(folder) / include.name).lexically_normal();
+            if (fs::exists(mRoot / folder / name))
+                return (fs::path(folder) / name).lexically_normal();
         }
         return {};
     }

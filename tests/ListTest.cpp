@@ -320,6 +320,39 @@ TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
     display->subscribe(&changes);
 }
 
+TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
+{
+    List list(0);
+    show(list);
+    CountedItem* row = nullptr;
+    std::unique_ptr<ListItem> taken;
+    const std::pair<const char*, std::function<void()>> table[] = {
+        {"deleted", [&] { delete row; }},
+        {"taken back",
+            [&] {
+                list.remove(row);
+                taken.reset(row);
+            }},
+        {"cleared away", [&] { list.clear(); }},
+    };
+    ActingSubscriber subscriber;
+    display->subscribe(&subscriber);
+    for (const auto& [name, action] : table) {
+        SCOPED_TRACE(name);
+        subscriber.action = action;
+        row = new CountedItem("X");
+        list.append(row);
+        taken.reset();
+        EXPECT_TRUE(list.getItems().empty());
+        EXPECT_EQ(CountedItem::living, 0);
+        show(list);
+        list.append(new CountedItem("next"));
+        EXPECT_EQ(both(list), "[next]");
+        list.clear();
+    }
+    display->subscribe(&changes);
+}
+
 TEST_F(ListTest, AListOutlivesTheDisplay)
 {
     List list(0);

@@ -253,10 +253,19 @@ private:
     std::vector<ListItem*>::iterator position(int index);
     void takeOffVector(int index);
     void deleteItems();
+
+    /// A row on its way into the list, while the display tells of it.
+    struct Arrival {
+        ListItem* item; // null once it has been taken back or has died
+        Arrival* outer; // the one inside whose notice this one came
+    };
+    static bool hasArrived(List* list, const Arrival& arrival);
+    bool forgetArrival(const ListItem* item);
     static bool isDeletedWith(const List* list, ListItem* item);
     static void itemDies(Displayable& list, ListItem& item, ListItemPrivateIfc* itemPrivate);
 
     std::vector<ListItem*> mItems;
+    Arrival* mArrivals = nullptr;
     PopupDialer* mDialer = nullptr;
     Ticker* mTicker = nullptr;
     std::atomic<bool> mHasBackItem;

@@ -6,6 +6,7 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/Widget.h>
 
+#include <EventPool.h>
 #include <Semaphore.h>
 #include <UApplication.h>
 #include <ULoop.h>
@@ -20,6 +21,7 @@
 #include <functional>
 #include <memory>
 #include <new>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -464,4 +466,38 @@ TEST_F(FrameTest, TheRectanglesBelongToTheThreadThatAsked)
     EXPECT_EQ(mine->size(), 1U);
     EXPECT_EQ(display->getDisplayedRects(), mine);
     EXPECT_EQ(mine->size(), 2U);
+}
+
+TEST(EventPoolTest, WhatAThreadTakesAtItsVeryEndIsNobodyElses)
+{
+    // Under the address sanitizer every block comes from the heap.
+    static std::set<void*> taken;
+    struct Late {
+        ~Late()
+        {
+            for (int i = 0; i < 4; ++i)
+                taken.insert(EventPool::allocate(EventPool::BlockSize));
+        }
+    };
+    std::vector<void*> blocks;
+    for (int i = 0; i < 64; ++i)
+        blocks.push_back(EventPool::allocate(EventPool::BlockSize));
+    for (void* block : blocks)
+        EventPool::release(block, EventPool::BlockSize);
+    std::thread([] {
+        thread_local Late dyingLast;
+        static_cast<void>(&dyingLast);
+        EventPool::release(EventPool::allocate(EventPool::BlockSize), EventPool::BlockSize);
+    }).join();
+    std::set<void*> mine;
+    for (int i = 0; i < 64; ++i)
+        mine.insert(EventPool::allocate(EventPool::BlockSize));
+    EXPECT_EQ(mine.size(), 64U);
+    EXPECT_EQ(taken.size(), 4U);
+    for (void* block : taken) {
+        EXPECT_FALSE(mine.contains(block));
+        EventPool::release(block, EventPool::BlockSize);
+    }
+    for (void* block : mine)
+        EventPool::release(block, EventPool::BlockSize);
 }
