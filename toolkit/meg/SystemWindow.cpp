@@ -11,9 +11,8 @@
 namespace {
 
 constexpr int GlassLines = 2;
-constexpr std::uint64_t Second = 1000;
-constexpr std::uint64_t Minute = 60 * Second;
-constexpr std::uint64_t Day = Minute * 60 * 24;
+constexpr std::uint64_t Second = TimeOfDay::Second;
+constexpr std::uint64_t Minute = TimeOfDay::Minute;
 constexpr std::uint64_t LongestTime = Minute * 60 * 100 - Second; // 99:59:59
 
 constexpr unsigned short HeadsetIcon = 90;
@@ -52,7 +51,7 @@ std::optional<std::uint64_t> parseTime(const std::string& text)
 
 UString clockText(std::uint64_t milliseconds)
 {
-    const unsigned minutes = static_cast<unsigned>(milliseconds % Day / Minute);
+    const unsigned minutes = static_cast<unsigned>(milliseconds % TimeOfDay::Day / Minute);
     char text[8];
     std::snprintf(text, sizeof text, "%02u:%02u", minutes / 60, minutes % 60);
     return UString(std::string(text));
@@ -122,18 +121,8 @@ void SystemWindow::showTime(bool shown)
 
 void SystemWindow::setTime(int hours, int minutes, int seconds)
 {
-    if (hours < 0 || hours > 23 || minutes < 0 || minutes > 59 || seconds < 0 || seconds > 59)
-        return;
-    mClockValue
-        = static_cast<std::uint64_t>(hours * 60 + minutes) * Minute + static_cast<std::uint64_t>(seconds) * Second;
-    mClockStart = ULoop::instance().now();
-    mIsTimeSet = true;
-    contentChanged();
-}
-
-std::uint64_t SystemWindow::clockTime() const
-{
-    return (mClockValue + ULoop::instance().now() - mClockStart) % Day;
+    if (mClock.set(hours, minutes, seconds))
+        contentChanged();
 }
 
 // Timer
@@ -196,7 +185,7 @@ int SystemWindow::getTimeToNextUpdate() const
 {
     std::uint64_t time = 0;
     if (isClockShown())
-        time = Minute - clockTime() % Minute;
+        time = mClock.toNextMinute();
     if (mIsTimerShown && mIsTimerRunning && timerTime() < LongestTime) {
         const std::uint64_t timer = Second - timerTime() % Second;
         time = time == 0 ? timer : std::min(time, timer);
@@ -262,7 +251,7 @@ void SystemWindow::paintRightSide(UPainter& painter, int column) const
         column += TimerColumns;
     }
     if (isClockShown())
-        painter.text(0, column + 1, clockText(clockTime()));
+        painter.text(0, column + 1, clockText(mClock.sinceMidnight()));
 }
 
 void SystemWindow::paint(UPainter& painter)

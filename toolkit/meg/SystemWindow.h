@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TimeOfDay.h"
 #include "ULoop.h"
 #include "UWidget.h"
 
@@ -92,9 +93,8 @@ private:
     static constexpr int TimerColumns = 9; // hh:mm:ss behind a blank
     static constexpr int ClockColumns = 6; // hh:mm behind a blank
 
-    std::uint64_t clockTime() const;
     std::uint64_t timerTime() const;
-    bool isClockShown() const { return mIsTimeShown && mIsTimeSet; }
+    bool isClockShown() const { return mIsTimeShown && mClock.isSet(); }
     void setIcon(std::size_t index, bool shown);
     void setTimerValue(std::uint64_t value);
     void contentChanged();
@@ -109,9 +109,7 @@ private:
     bool mIsLineShown = true;
 
     bool mIsTimeShown = false;
-    bool mIsTimeSet = false;
-    std::uint64_t mClockValue = 0; // milliseconds since midnight at mClockStart
-    std::uint64_t mClockStart = 0;
+    TimeOfDay mClock;
 
     bool mIsTimerShown = false;
     bool mIsTimerRunning = false;
