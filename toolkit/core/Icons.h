@@ -29,6 +29,11 @@ enum Number : std::uint16_t {
     SecureCall,
     InsecureCall,
     Recording,
+    NoSignal,
+    Signal25,
+    Signal50,
+    Signal75,
+    Signal100,
 };
 
 /// The picture of an icon number, or null for 0 and for numbers without a picture.
