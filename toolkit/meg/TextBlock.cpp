@@ -24,6 +24,11 @@ void TextBlock::endSubitem()
     mText += "endsubitem:\n";
 }
 
+void TextBlock::blocks(const UString& text)
+{
+    mText += text.toUTF8();
+}
+
 UString TextBlock::finish()
 {
     mText += "end:\n";

@@ -18,6 +18,9 @@ public:
     void beginSubitem(std::string_view name);
     void endSubitem();
 
+    /// Takes in whole blocks that another widget has written.
+    void blocks(const UString& text);
+
     /// Ends the object and gives the whole block.
     UString finish();
 
