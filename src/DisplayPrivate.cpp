@@ -2,11 +2,11 @@
 
 #include <DisplayAPI/DisplayEventIfc.h>
 
+#include "AssertGuiThread.h"
 #include "ContentWidgetFactory.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "LivingDisplays.h"
-#include "StackScreen.h"
 #include "VantoUApplicationFactory.h"
 
 #include <HardwareVersion.h>
@@ -49,13 +49,7 @@ DisplayPrivate::~DisplayPrivate()
 {
     // From here on no screen finds this display any more, whatever it has stored.
     LivingDisplays::remove(this);
-    dropDeadEntries();
-    for (Displayable* displayable : mItemList) {
-        if (const StackScreen screen{displayable}) {
-            screen.widget().setParent(nullptr);
-            screen->gainOwnership();
-        }
-    }
+    mStack.giveBack();
     cleanup();
 }
 
@@ -63,6 +57,7 @@ void DisplayPrivate::createContentWidget()
 {
     mContent.reset(mFactory->createContentWidget());
     mContent->setParent(this);
+    mStack.setContent(mContent->getUWidget());
     if (currentApplicationName() == "CallViewPhonelet" && HardwareVersion::getDisplayLines() == 3)
         showFPKBar();
 }
@@ -75,6 +70,115 @@ void DisplayPrivate::cleanup()
     mContent.reset();
     mDisplayArea.reset();
     mFactory.reset();
+}
+
+// Screens
+
+Displayable* DisplayPrivate::getCurrent()
+{
+    assertGuiThread();
+    return mStack.current();
+}
+
+void DisplayPrivate::setCurrent(Displayable* displayable)
+{
+    assertGuiThread();
+    if (!displayable) {
+        darken();
+        return;
+    }
+    const StackScreen screen(displayable);
+    if (!screen)
+        return;
+    mStack.put(screen);
+    displayChanged();
+}
+
+void DisplayPrivate::darken()
+{
+    if (!mStack.current())
+        return;
+    hideContentWidget();
+    mStack.darken();
+    displayChanged();
+}
+
+void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
+{
+    assertGuiThread();
+    if (!displayable)
+        return;
+    mStack.takeOff(*displayable);
+    Displayable* current = mStack.current();
+    if (!current || privateOfLiving(current) != displayable)
+        return;
+    if (mStack.isEmpty())
+        setCurrent(nullptr);
+    else
+        mStack.returnToTop();
+}
+
+void DisplayPrivate::createServerDisplay(Displayable* displayable)
+{
+    assertGuiThread();
+    const StackScreen screen(displayable);
+    if (!screen)
+        return;
+    mStack.putServer(screen, mIsStacking);
+    show();
+}
+
+void DisplayPrivate::show()
+{
+    assertGuiThread();
+    if (auto* application = VantoUApplication::getCurrentApplication())
+        application->enableScreen();
+    const int hardwareVariant = currentHardwareVariant();
+    mStack.setVisible(true);
+    mContent->getUWidget()->setVisible(true);
+    mStack.showAll();
+    if (hardwareVariant == 0)
+        displayChanged();
+}
+
+void DisplayPrivate::hide()
+{
+    assertGuiThread();
+    mStack.setVisible(false);
+    if (auto* application = VantoUApplication::getCurrentApplication()) {
+        application->disableScreen();
+        if (application->getAppName() != "CallViewPhonelet" && mContent->getUWidget()->isVisible())
+            application->releaseFullScreen();
+    }
+    hideContentWidget();
+    if (currentHardwareVariant() == 0)
+        displayChanged();
+}
+
+void DisplayPrivate::hideContentWidget()
+{
+    mContent->getUWidget()->setVisible(false);
+    if (mVolumeIndicator)
+        mVolumeIndicator->setVisible(false);
+    setSystemWindowSize(0);
+}
+
+void DisplayPrivate::removeOldCurrent()
+{
+    mStack.removeOldCurrent();
+}
+
+std::vector<Rect>* DisplayPrivate::getDisplayedRects()
+{
+    mRectMonitor.clear();
+    mStack.forEach([this](const StackScreen& screen) { mRectMonitor.update(*screen.displayable()); });
+    return mRectMonitor.getVisibleRects();
+}
+
+void DisplayPrivate::forget(Displayable* displayable)
+{
+    assertGuiThread();
+    mStack.forget(displayable);
 }
 
 // Loop

@@ -2,6 +2,7 @@
 
 #include <DisplayAPI/DisplayPrivateIfc.h>
 
+#include "DisplayStack.h"
 #include "VisibleRectMonitor.h"
 
 #include <Semaphore.h>
@@ -12,7 +13,6 @@
 #include <vector>
 
 class StatusMessageMEG;
-class UWidget;
 class VolumeIndicatorMEG;
 
 namespace DisplayAPI {
@@ -20,14 +20,13 @@ namespace DisplayAPI {
 class ContentWidgetFactoryIfc;
 class ContentWidgetIfc;
 
-/// The stack of what is shown, and the services that belong to the display as a whole.
+/// What is shown: the screens on their stack, and the services that belong to the display as a whole.
 ///
 /// An ordinary screen replaces the stack, a popup lies on top of it, and the screen below comes back when the
-/// popup goes. A screen whose private or widget is missing is ignored, and one that has been deleted is forgotten.
+/// popup goes.
 ///
 /// Threads: GUI thread only, but for subscribe(), unSubscribe() and displayChanged().
-/// Ownership: the screens stay the application's. While a screen's widget is in the content widget it belongs to
-/// the toolkit's tree, else to the screen's private.
+/// Ownership: the screens stay the application's; DisplayStack tells whose their widgets are.
 class DisplayPrivate : public DisplayPrivateIfc {
 public:
     static constexpr int SystemWindowLines = 6;
@@ -141,23 +140,10 @@ public:
     void showFPKBar();
 
 private:
-    // Stack
-
     void createContentWidget();
     void cleanup();
     void darken();
-    void clearStack();
-    void addDisplayableToStack(Displayable* displayable);
-    void addNewCurrent(Displayable* displayable);
-    void showWidget(DisplayablePrivateIfc& screen);
-    void showContentWidget();
     void hideContentWidget();
-
-    /// Forgets the screens that are gone; the first step of every walk over the stack.
-    void dropDeadEntries();
-    Displayable* top() const { return mItemList.empty() ? nullptr : mItemList.back(); }
-    bool isOnStack(const Displayable* displayable) const;
-    bool isInContent(const UWidget& widget) const;
 
     // Screen text
 
@@ -178,12 +164,8 @@ private:
     Semaphore mListenerLock{Semaphore::AVAILABLE, 1, true};
     DisplayEventIfc* mDisplayChangeListener GUARDED_BY(mListenerLock) = nullptr;
 
-    // The current screen is the top of the stack, but for a display that does not stack.
-    Displayable* mCurrent = nullptr;
-    Displayable* mPreviousCurrent = nullptr;
-    std::vector<Displayable*> mItemList; // the stack, bottom first
+    DisplayStack mStack{*this};
     bool mIsStacking;
-    bool mIsVisible = false;
     bool mExecFinished = false;
 
     std::string mLocale;

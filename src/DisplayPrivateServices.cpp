@@ -6,7 +6,6 @@
 #include "BuiltInTexts.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
-#include "StackScreen.h"
 
 #include <StatusVolumeMEG.h>
 #include <VantoListBoxMEG.h>
@@ -81,7 +80,7 @@ void DisplayPrivate::setSoftwareType(const std::string& softwareType)
 
 void DisplayPrivate::setSystemWindowText(int line, std::string text)
 {
-    if (!mIsVisible || line < 0 || line >= SystemWindowLines)
+    if (!mStack.isVisible() || line < 0 || line >= SystemWindowLines)
         return;
     if (text.empty())
         mContent->setSystemWindowText(line, " ", "");
@@ -92,7 +91,7 @@ void DisplayPrivate::setSystemWindowText(int line, std::string text)
 
 void DisplayPrivate::setSystemWindowSize(int lines)
 {
-    if (!mIsVisible || lines < 0)
+    if (!mStack.isVisible() || lines < 0)
         return;
     if (lines == 0)
         mIsSystemWindowCollapsed = true;
@@ -105,10 +104,9 @@ void DisplayPrivate::setSystemWindowSize(int lines)
 
 void DisplayPrivate::showSW(int lines)
 {
-    dropDeadEntries();
-    if (lines > SystemWindowLines || !isSoftwareQvt() || !mCurrent)
+    if (lines > SystemWindowLines || !isSoftwareQvt() || !mStack.current())
         return;
-    if (currentHardwareVariant() == 0 && lines >= 1 && mIsVisible && mIsLineChanged[1]) {
+    if (currentHardwareVariant() == 0 && lines >= 1 && mStack.isVisible() && mIsLineChanged[1]) {
         mContent->setSystemWindowText(1, mContent->getSystemWindowText(1, mStatusKey), mStatusKey);
         mIsLineChanged[1] = false;
     }
@@ -117,16 +115,17 @@ void DisplayPrivate::showSW(int lines)
 
 void DisplayPrivate::clearSWfromDisplayable()
 {
-    dropDeadEntries();
-    if (mPreviousCurrent && mPreviousCurrent != mCurrent) {
+    const Displayable* previous = mStack.previousCurrent();
+    const Displayable* current = mStack.current();
+    if (previous && previous != current) {
         // The dialer takes the idle screen's lines over.
         const bool isDialing
-            = mPreviousCurrent->widgetName() == "IdleDisplay" && mCurrent && mCurrent->widgetName() == "PopupDialer";
+            = previous->widgetName() == "IdleDisplay" && current && current->widgetName() == "PopupDialer";
         const int lines = std::clamp(mContent->getSWCurrentNumLines(), 0, SystemWindowLines);
         if (!isDialing)
             std::fill_n(mIsLineChanged.begin(), lines, true);
     }
-    mPreviousCurrent = mCurrent;
+    mStack.markCurrent();
 }
 
 void DisplayPrivate::setSystemWindowTop(int top)
@@ -218,11 +217,7 @@ void DisplayPrivate::setStatusMessage(const std::string& text, unsigned int dura
 
 void DisplayPrivate::setStatusMessageAvailable(bool available)
 {
-    dropDeadEntries();
-    for (Displayable* displayable : mItemList) {
-        if (const StackScreen screen{displayable})
-            screen.widget().setStatusMessageAvailable(available);
-    }
+    mStack.forEach([available](const StackScreen& screen) { screen.widget().setStatusMessageAvailable(available); });
 }
 
 void DisplayPrivate::setPreviewVolume(
@@ -239,7 +234,7 @@ void DisplayPrivate::setPreviewVolume(
     }
     mVolumeIndicator->setRingerVolumeBarLimit(device == RingerDevice ? mRingerVolumeBarLimit : 1);
     mVolumeIndicator->refresh();
-    if (mIsVisible)
+    if (mStack.isVisible())
         mContent->getUWidget()->addWidget(mVolumeIndicator.get());
 }
 

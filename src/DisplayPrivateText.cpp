@@ -3,7 +3,6 @@
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "ScreenTextWriter.h"
-#include "StackScreen.h"
 
 #include <FPKBarMEG.h>
 #include <HardwareVersion.h>
@@ -73,14 +72,12 @@ void convertUpAndDownArrowsToUTFFormat(std::string& line)
 
 std::vector<std::vector<Rect>> DisplayPrivate::findVisibleRects()
 {
-    dropDeadEntries();
     std::vector<Rect> above;
-    above.reserve(mItemList.size());
-    for (Displayable* displayable : mItemList) {
-        const StackScreen screen(displayable);
-        const URect rect = screen ? screen.widget().getRect() : URect();
+    above.reserve(mStack.size());
+    mStack.forEach([&above](const StackScreen& screen) {
+        const URect rect = screen.widget().getRect();
         above.emplace_back(rect.left(), rect.top(), rect.width(), rect.height());
-    }
+    });
     std::vector<std::vector<Rect>> visible(above.size());
     for (std::vector<Rect>& parts : visible) {
         const Rect own = above.front();
@@ -92,12 +89,8 @@ std::vector<std::vector<Rect>> DisplayPrivate::findVisibleRects()
 
 std::string DisplayPrivate::serialise()
 {
-    dropDeadEntries();
     std::string text;
-    for (Displayable* displayable : mItemList) {
-        if (const StackScreen screen{displayable})
-            text += screen->serialise();
-    }
+    mStack.forEach([&text](const StackScreen& screen) { text += screen->serialise(); });
     appendVolumeIndicator(text);
     return text;
 }
@@ -138,13 +131,13 @@ std::string DisplayPrivate::serialiseScreens(const std::vector<Rect>& rects)
     std::vector<Rect> parts;
     std::string text;
     text.reserve(usualLength);
-    for (std::size_t i = 0; i < mItemList.size() && i < visible.size(); ++i) {
-        const StackScreen screen(mItemList[i]);
-        if (!screen)
-            continue;
-        cutToRects(visible[i], rects, parts);
+    auto own = visible.begin();
+    mStack.forEach([&](const StackScreen& screen) {
+        if (own == visible.end())
+            return; // put on by another one's text
+        cutToRects(*own++, rects, parts);
         text += screen->serialise(parts);
-    }
+    });
     return text;
 }
 

@@ -377,13 +377,77 @@ TEST_F(DisplayStackTest, AScreenMayGoWhileItIsBeingShown)
     EXPECT_TRUE(middle->screen().isOwner);
 }
 
-TEST_F(DisplayStackTest, AScreenMayDeleteOthersWhenItLosesTheFocus)
+TEST_F(DisplayStackTest, AScreenMayDeleteAnyAndComeBackWhenItLosesTheFocus)
 {
     fill();
-    bottom->screen().onLostFocus = [&] { top.reset(); };
+    bottom->screen().onLostFocus = [&] { bottom.reset(); };
+    middle->screen().onLostFocus = [&] {
+        top.reset();
+        display->setCurrent(middle.get());
+    };
     display->setCurrent(nullptr);
-    EXPECT_EQ(takeLog(), (Lines{"lostFocus bottom", "lostFocus middle"}));
-    EXPECT_EQ(content()->firstChild(), nullptr);
+    EXPECT_EQ(takeLog(), (Lines{"lostFocus bottom", "lostFocus middle", "show middle"}));
+    EXPECT_EQ(stackText(), "middle");
+    EXPECT_EQ(display->getCurrent(), middle.get());
+    EXPECT_FALSE(middle->screen().isOwner);
+}
+
+/// Whatever the subscriber does inside a notice, stack, glass and ownership agree behind it.
+TEST_F(DisplayStackTest, TheSubscriberMayDoAnythingInsideEveryNotice)
+{
+    using Step = std::pair<const char*, std::function<void()>>;
+    auto next = makeScreen("next");
+    const std::vector<Step> operations{
+        {"popup", [&] { display->setCurrent(middle.get()); }},
+        {"ordinary", [&] { display->setCurrent(next.get()); }},
+        {"dark", [&] { display->setCurrent(nullptr); }},
+        {"server", [&] { display->createServerDisplay(next.get()); }},
+        {"show", [&] { display->show(); }},
+        {"hide", [&] { display->hide(); }},
+        {"window", [&] { display->setSystemWindowSize(2); }},
+        {"locale", [&] { display->stopTimer(); }},
+    };
+    const std::vector<Step> actions{
+        {"deletes the bottom", [&] { bottom.reset(); }},
+        {"deletes the middle", [&] { middle.reset(); }},
+        {"deletes the top", [&] { top.reset(); }},
+        {"deletes all",
+            [&] {
+                for (auto* screen : {&bottom, &middle, &top, &next})
+                    screen->reset();
+            }},
+        {"dismisses", [&] { top->screen().dismiss(); }},
+        {"darkens", [&] { display->setCurrent(nullptr); }},
+        {"replaces", [&] { display->setCurrent(bottom.get()); }},
+        {"hides", [&] { display->hide(); }},
+    };
+    for (const auto& [operation, run] : operations) {
+        for (const auto& [action, react] : actions) {
+            SCOPED_TRACE(std::string(operation) + ", " + action);
+            makeDisplay("Zelmark QVT");
+            display->show();
+            bottom = makeScreen("bottom");
+            middle = makeScreen("middle", Kind::Popup);
+            top = makeScreen("top", Kind::Popup);
+            next = makeScreen("next");
+            fill();
+            subscriber.onNotice = [&, once = true]() mutable {
+                if (std::exchange(once, false))
+                    react();
+            };
+            run();
+            subscriber.onNotice = nullptr;
+            display->show(); // a hidden display takes the widgets without putting them anywhere
+            Displayable* current = display->getCurrent();
+            EXPECT_TRUE(!current || displayableExists(current));
+            display->serialiseByRect({Rect(0, 0, 162, 31)}, "");
+            for (TestScreen* screen : {bottom.get(), middle.get(), top.get(), next.get()}) {
+                if (screen) {
+                    EXPECT_EQ(screen->screen().isOwner, !isInContent(*screen)) << screen->widgetName();
+                }
+            }
+        }
+    }
 }
 
 }
