@@ -1,5 +1,6 @@
 #include "CommandExecutor.h"
 #include "CommandText.h"
+#include "TestTranslator.h"
 
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/Displayable.h>
@@ -9,7 +10,6 @@
 #include <DisplayAPI/MenuCommand.h>
 
 #include <Semaphore.h>
-#include <TranslationInfo.h>
 #include <UApplication.h>
 #include <UScreenWE1.h>
 
@@ -89,12 +89,6 @@ protected:
     Field other;
 };
 
-class Translator : public TranslatorIfc {
-public:
-    std::string translate(std::string key) override { return whenAsked ? whenAsked(key) : "<" + key + ">"; }
-    std::function<std::string(const std::string&)> whenAsked;
-};
-
 /// Whether another thread could take the lock of all commands now.
 bool isMutexFree()
 {
@@ -129,7 +123,8 @@ TEST(CommandTest, EqualCommandsAreDifferentCommands)
 
 TEST(CommandTest, TheTextIsTheCompleteTranslationExceptOnHardwareVariantOne)
 {
-    Translator translator;
+    TestTranslator translator;
+    translator.prefix = "en:";
     Command plain("", Command::Select);
     EXPECT_EQ(plain.getText(), "");
     plain.setLabel("Call");
@@ -137,20 +132,20 @@ TEST(CommandTest, TheTextIsTheCompleteTranslationExceptOnHardwareVariantOne)
 
     Command translated(new TranslationInfo("[", "call", "]", &translator), Command::Select);
     translated.setLabel("never read");
-    EXPECT_EQ(translated.getText(), "[<call>]");
-    EXPECT_EQ(translated.getBasicText(), "<call>");
+    EXPECT_EQ(translated.getText(), "[en:call]");
+    EXPECT_EQ(translated.getBasicText(), "en:call");
 
     UScreenWE1 glass;
     auto* application = new VantoUApplication(UString(), &glass, {}, {}, {}, {});
-    EXPECT_EQ(translated.getText(), "[<call>]");
+    EXPECT_EQ(translated.getText(), "[en:call]");
     application->setHardwareVariant(static_cast<VantoUApplication::HardwareVariant>(1));
-    EXPECT_EQ(translated.getText(), "<call>");
+    EXPECT_EQ(translated.getText(), "en:call");
     VantoUApplication::endCurrent();
 }
 
 TEST(CommandTest, TheLockIsHeldWhileTheTranslatorRunsAndGivenBackWhenItThrows)
 {
-    Translator translator;
+    TestTranslator translator;
     Command command(new TranslationInfo("key", &translator), Command::Select);
     bool wasFree = true;
     translator.whenAsked = [&](const std::string&) {

@@ -1,4 +1,5 @@
 #include "PhoneTest.h"
+#include "TestTranslator.h"
 #include "ThreadedPhoneTest.h"
 
 #include <DisplayAPI/ListItem.h>
@@ -7,21 +8,12 @@
 #include "ListItemPrivate.h"
 
 #include <CallRowsMEG.h>
-#include <TranslationInfo.h>
 
 #include <memory>
 
 using namespace DisplayAPI;
 
 namespace {
-
-/// A translator whose language a test can change.
-class Prefixing : public TranslatorIfc {
-public:
-    std::string translate(std::string key) override { return prefix + key; }
-
-    std::string prefix;
-};
 
 VantoListBoxItemMEG& rowOf(ListItem& item)
 {
@@ -41,7 +33,7 @@ class ThreadedListItemTest : public ThreadedPhoneTest { };
 TEST(ListItemOnBothRoadsTest, TheRowIsTheSame)
 {
     onBothRoads([](Display&) {
-        Prefixing translator;
+        TestTranslator translator;
         TranslationInfo right("<", "noon", ">", &translator);
         ListItem plain;
         ListItem named("Anna", false);
@@ -63,7 +55,7 @@ TEST(ListItemOnBothRoadsTest, TheRowIsTheSame)
 
 TEST_F(ListItemTest, ALocaleChangeBringsTheTranslationOfTheConstructorBack)
 {
-    Prefixing translator;
+    TestTranslator translator;
     ListItem item(new TranslationInfo("", "Bob", "", &translator), true);
     TranslationInfo other("", "Carol", "", &translator);
     item.setText(&other);
@@ -76,7 +68,7 @@ TEST_F(ListItemTest, ALocaleChangeBringsTheTranslationOfTheConstructorBack)
 
 TEST_F(ListItemTest, ThePrivateKeepsOneTranslationForEachText)
 {
-    Prefixing translator;
+    TestTranslator translator;
     ListItemPrivate row("first", true);
     auto* kept = new TranslationInfo("", "Bob", "!", &translator);
     row.setText(kept);
@@ -145,7 +137,7 @@ TEST_F(ThreadedListItemTest, AnIconSetFromAnotherThreadIsReadAtOnceAndZeroIsSkip
 
 TEST_F(ThreadedListItemTest, ARowOutlivesTheLoop)
 {
-    Prefixing translator;
+    TestTranslator translator;
     auto made = std::make_unique<ListItem>("Anna", true);
     EXPECT_EQ(made->getText(), "Anna");
     endLoop();

@@ -160,7 +160,7 @@ TEST_F(ListScreenTest, WhatTheUserDoesReachesTheListeners)
 
 TEST_F(ListScreenTest, ANewLocaleReadsTitleAndRowsAgain)
 {
-    Prefixing translator;
+    TestTranslator translator;
     display->setTranslator(&translator);
     List list(0);
     list.append(new TranslationInfo("<", "row", ">", &translator));

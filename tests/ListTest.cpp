@@ -1,7 +1,6 @@
 #include "ListFixture.h"
 #include "ThreadedPhoneTest.h"
 
-#include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
@@ -14,18 +13,6 @@
 using namespace DisplayAPI;
 
 namespace {
-
-/// A subscriber that acts once on a notice.
-class ActingSubscriber : public DisplayEventIfc {
-public:
-    void displayChanged(std::string) override
-    {
-        if (auto now = std::exchange(action, nullptr))
-            now();
-    }
-
-    std::function<void()> action;
-};
 
 std::vector<LogControl::Message> messages;
 
@@ -305,19 +292,16 @@ TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
         {"Ok", [this](List&) { press(UGlobal::KeyOk); }},
         {"Down", [this](List&) { press(UGlobal::KeyDown); }},
     };
-    ActingSubscriber subscriber;
-    display->subscribe(&subscriber);
     for (const auto& [name, change] : table) {
         SCOPED_TRACE(name);
         auto list = std::make_unique<List>(0);
         fill(*list, "ABC");
         show(*list);
-        subscriber.action = [&] { list.reset(); };
+        changes.onNextNotice = [&] { list.reset(); };
         change(*list);
         EXPECT_EQ(list, nullptr);
         EXPECT_EQ(CountedItem::living, 0);
     }
-    display->subscribe(&changes);
 }
 
 TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
@@ -335,11 +319,9 @@ TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
             }},
         {"cleared away", [&] { list.clear(); }},
     };
-    ActingSubscriber subscriber;
-    display->subscribe(&subscriber);
     for (const auto& [name, action] : table) {
         SCOPED_TRACE(name);
-        subscriber.action = action;
+        changes.onNextNotice = action;
         row = new CountedItem("X");
         list.append(row);
         taken.reset();
@@ -350,7 +332,6 @@ TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
         EXPECT_EQ(both(list), "[next]");
         list.clear();
     }
-    display->subscribe(&changes);
 }
 
 TEST_F(ListTest, AListOutlivesTheDisplay)

@@ -1,5 +1,6 @@
 #include "PhoneTest.h"
 #include "RecordingListener.h"
+#include "TestTranslator.h"
 #include "ThreadedPhoneTest.h"
 
 #include <DisplayAPI/CallPartyIdentifier.h>
@@ -10,28 +11,14 @@
 
 #include "PopupConfirmPrivate.h"
 
-#include <TranslationInfo.h>
 #include <UApplication.h>
 #include <UWidget.h>
 
 #include <functional>
-#include <map>
 
 using namespace DisplayAPI;
 
 namespace {
-
-/// A translator whose language a test can change.
-class Dictionary : public TranslatorIfc {
-public:
-    std::string translate(std::string key) override
-    {
-        const auto found = words.find(key);
-        return found == words.end() ? key : found->second;
-    }
-
-    std::map<std::string, std::string> words;
-};
 
 class PopupConfirmTest : public PhoneTest {
 protected:
@@ -109,7 +96,7 @@ TEST_F(PopupConfirmTest, EachStateHasItsIconWord)
 
 TEST_F(PopupConfirmTest, AChangeOfLocaleReadsTheTranslationsAndTheChoicesAgain)
 {
-    Dictionary dictionary;
+    TestTranslator dictionary;
     dictionary.words = {{"delete", "Delete"}, {"entry", "entry"}, {"really", "Really"}, {"ok", "OK"}};
     MenuCommand first(new TranslationInfo("", "ok", "?", &dictionary), 3);
     PopupConfirm popup(true);
@@ -141,7 +128,7 @@ TEST_F(PopupConfirmTest, APartyIsShownByNameElseByNumberElseAsUnknown)
     };
     const Case cases[] = {{"Anna", "4711", "Anna "}, {"Caller.Unknown.XXX", "4711", "4711 "}, {"Anna", "", "Anna "},
         {"Caller.Unknown.XXX", "Caller.Unknown.XXX", "Unknown caller "}, {"", "", "Unknown caller "}};
-    Dictionary dictionary;
+    TestTranslator dictionary;
     dictionary.words = {{"Caller.Unknown.XXX", "Unknown caller"}};
     display->setTranslator(&dictionary);
     PopupConfirm popup(true);
@@ -279,35 +266,31 @@ TEST_F(PopupConfirmTest, NoOrderOfDestructionIsFatal)
 
 TEST_F(PopupConfirmTest, ASubscriberMayDeleteThePopupInAnyNotice)
 {
-    struct Deleter : DisplayEventIfc {
-        void displayChanged(std::string) override { popup.reset(); }
-        std::unique_ptr<PopupConfirm> popup;
-    } deleter;
+    std::unique_ptr<PopupConfirm> popup;
     using Change = std::function<void(PopupConfirm&)>;
     const std::pair<const char*, Change> table[] = {
-        {"setLine1PrefixText", [](PopupConfirm& popup) { popup.setLine1PrefixText("Delete"); }},
-        {"setText", [](PopupConfirm& popup) { popup.setText(new TranslationInfo("entry?", nullptr)); }},
-        {"setLine2Text", [](PopupConfirm& popup) { popup.setLine2Text("Anna"); }},
-        {"setState", [](PopupConfirm& popup) { popup.setState(PopupConfirm::Recall); }},
-        {"addCommand", [this](PopupConfirm& popup) { popup.addCommand(&no); }},
-        {"setDefaultCommand", [this](PopupConfirm& popup) { popup.setDefaultCommand(&no); }},
-        {"removeCommand", [this](PopupConfirm& popup) { popup.removeCommand(&yes); }},
-        {"clearCommands", [](PopupConfirm& popup) { popup.clearCommands(); }},
-        {"dismiss", [](PopupConfirm& popup) { popup.dismiss(); }},
+        {"setLine1PrefixText", [](PopupConfirm& dying) { dying.setLine1PrefixText("Delete"); }},
+        {"setText", [](PopupConfirm& dying) { dying.setText(new TranslationInfo("entry?", nullptr)); }},
+        {"setLine2Text", [](PopupConfirm& dying) { dying.setLine2Text("Anna"); }},
+        {"setState", [](PopupConfirm& dying) { dying.setState(PopupConfirm::Recall); }},
+        {"addCommand", [this](PopupConfirm& dying) { dying.addCommand(&no); }},
+        {"setDefaultCommand", [this](PopupConfirm& dying) { dying.setDefaultCommand(&no); }},
+        {"removeCommand", [this](PopupConfirm& dying) { dying.removeCommand(&yes); }},
+        {"clearCommands", [](PopupConfirm& dying) { dying.clearCommands(); }},
+        {"dismiss", [](PopupConfirm& dying) { dying.dismiss(); }},
         {"time-out", [this](PopupConfirm&) { advance(3000); }},
         {"Ok", [this](PopupConfirm&) { press(UGlobal::KeyOk); }},
     };
     for (const auto& [name, change] : table) {
         SCOPED_TRACE(name);
-        deleter.popup = std::make_unique<PopupConfirm>(true);
-        deleter.popup->setTimeout(3000);
-        deleter.popup->addCommandListener(&listener);
-        deleter.popup->addCommand(&yes);
-        show(*deleter.popup);
-        display->subscribe(&deleter);
-        change(*deleter.popup);
-        display->subscribe(&changes);
-        EXPECT_EQ(deleter.popup, nullptr);
+        popup = std::make_unique<PopupConfirm>(true);
+        popup->setTimeout(3000);
+        popup->addCommandListener(&listener);
+        popup->addCommand(&yes);
+        show(*popup);
+        changes.onNextNotice = [&] { popup.reset(); };
+        change(*popup);
+        EXPECT_EQ(popup, nullptr);
         EXPECT_EQ(display->getCurrent(), nullptr);
     }
 }

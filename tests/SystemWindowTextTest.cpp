@@ -1,10 +1,10 @@
 #include "ContentWidget.h"
 #include "ContentWidgetFactoryIfc.h"
 #include "StackFixture.h"
+#include "TestTranslator.h"
 
 #include <DisplayAPI/DisplayablePrivate.h>
 
-#include <TranslationInfo.h>
 #include <UApplication.h>
 #include <VantoListBoxMEG.h>
 
@@ -366,10 +366,8 @@ TEST_F(SystemWindowTextTest, TheClipboardKeepsItsText)
 
 TEST_F(SystemWindowTextTest, ALocaleChangeReadsTheListTextsAgain)
 {
-    struct Translator : TranslatorIfc {
-        std::string translate(std::string key) override { return prefix + key; }
-        std::string prefix = "1:";
-    } translator;
+    TestTranslator translator;
+    translator.prefix = "1:";
     makeDisplay();
     auto* application = VantoUApplication::getCurrentApplication();
     display->setTranslator(&translator);

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "PhoneTest.h"
+#include "TestTranslator.h"
 
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 
 #include "ListBoxPrivate.h"
 
-#include <TranslationInfo.h>
 #include <VantoListBoxItemMEG.h>
 #include <VantoListBoxMEG.h>
 
@@ -24,14 +24,6 @@ public:
     ~CountedItem() override { --living; }
 
     static inline int living = 0;
-};
-
-/// A translator whose language a test can change.
-class Prefixing : public TranslatorIfc {
-public:
-    std::string translate(std::string key) override { return prefix + key; }
-
-    std::string prefix;
 };
 
 inline DisplayAPI::ListBoxPrivate& half(DisplayAPI::List& list)

@@ -7,6 +7,10 @@
 #include <UScreenWE1.h>
 #include <UWindowManager.h>
 
+#include <chrono>
+#include <future>
+#include <thread>
+
 using DisplayAPI::Display;
 using DisplayAPI::Rect;
 
@@ -36,14 +40,12 @@ std::string fieldOf(const std::string& screenText, const std::string& key)
 }
 
 PhoneTest::PhoneTest(const PhoneSetup& setup)
+    : mSetup(setup)
 {
     HardwareVersion::setAll(setup.hardware);
     ULoop::instance().setManualClock(true);
     UWindowManager::instance().setFont(&font);
-    display = std::make_unique<Display>(setup.applicationName, "Test", PhysDefs::hardwareSubVariant{},
-        setup.softwareType, "en", "dd.mm.yy", "hh:mm", setup.server, nullptr, false);
-    display->subscribe(&changes);
-    display->show();
+    makeDisplay();
 }
 
 PhoneTest::~PhoneTest()
@@ -52,6 +54,31 @@ PhoneTest::~PhoneTest()
     UWindowManager::instance().setFont(nullptr);
     HardwareVersion::setAll({});
     ULoop::instance().setManualClock(false);
+}
+
+void PhoneTest::makeDisplay()
+{
+    display.reset();
+    display = std::make_unique<Display>(mSetup.applicationName, "Test", PhysDefs::hardwareSubVariant{},
+        mSetup.softwareType, "en", "dd.mm.yy", "hh:mm", mSetup.server, nullptr, false);
+    display->subscribe(&changes);
+    display->show();
+}
+
+void PhoneTest::elsewhere(const std::function<void()>& function)
+{
+    auto done = std::async(std::launch::async, function);
+    while (done.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+        pump();
+    done.get();
+    pump();
+}
+
+void PhoneTest::endLoop()
+{
+    std::thread application([this] { display->shutdown(); });
+    display->exec();
+    application.join();
 }
 
 void PhoneTest::pump()

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "CellFont.h"
+#include "Subscriber.h"
 
 #include <DisplayAPI/Display.h>
-#include <DisplayAPI/DisplayEventIfc.h>
 
 #include <HardwareVersion.h>
 #include <Types.h>
@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>
@@ -31,14 +32,6 @@ std::string lines(std::initializer_list<const char*> texts);
 
 /// The value of the first line with this key in a screen text; "(no such field)" without one.
 std::string fieldOf(const std::string& screenText, const std::string& key);
-
-/// The subscriber of the tests: it counts the notices.
-class ChangeCounter : public DisplayAPI::DisplayEventIfc {
-public:
-    void displayChanged(std::string) override { ++count; }
-
-    int count = 0;
-};
 
 /// A telephone whose GUI thread is the test itself, with a clock that stands still.
 class PhoneTest : public testing::Test {
@@ -65,10 +58,22 @@ protected:
     /// A line of the painted glass, read back as text of 27 characters.
     std::string glassLine(int line);
 
+    /// Runs a function on another thread, while this one is the loop.
+    void elsewhere(const std::function<void()>& function);
+
+    /// Ends the loop; then whoever is not on this thread is refused.
+    void endLoop();
+
     /// Ends the display, as an application does that is about to go.
     void endDisplay() { display.reset(); }
 
+    /// Makes the display, or the next one, visible and with its subscriber.
+    void makeDisplay();
+
     CellFont font;
-    ChangeCounter changes;
+    Subscriber changes;
     std::unique_ptr<DisplayAPI::Display> display;
+
+private:
+    PhoneSetup mSetup;
 };

@@ -2,37 +2,17 @@
 
 #include "ContentWidgetIfc.h"
 #include "DisplayPrivate.h"
+#include "Subscriber.h"
 #include "TestScreen.h"
-
-#include <DisplayAPI/DisplayEventIfc.h>
 
 #include <HardwareVersion.h>
 #include <UWidget.h>
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
-
-/// Counts the notices, and may do something inside one.
-class Subscriber : public DisplayAPI::DisplayEventIfc {
-public:
-    void displayChanged(std::string text) override
-    {
-        EXPECT_EQ(text, "");
-        ++notices;
-        if (onNotice)
-            onNotice();
-    }
-
-    /// The number since the last call.
-    int takeNotices() { return std::exchange(notices, 0); }
-
-    int notices = 0;
-    std::function<void()> onNotice;
-};
 
 /// A display on the test's thread, without a loop. It starts hidden and with a subscriber.
 class StackFixture : public ::testing::Test {

@@ -48,14 +48,6 @@ private:
     std::promise<bool>* mDone;
 };
 
-bool callOnGui(const std::function<void()>& function)
-{
-    std::promise<bool> done;
-    auto result = done.get_future();
-    UApplication::instance()->postEvent(new CallEvent(function, done));
-    return result.get();
-}
-
 std::unique_ptr<Display> makeDisplay(const PhoneSetup& setup)
 {
     HardwareVersion::setAll(setup.hardware);
@@ -63,6 +55,18 @@ std::unique_ptr<Display> makeDisplay(const PhoneSetup& setup)
         "en", "dd.mm.yy", "hh:mm", setup.server, nullptr, false);
 }
 
+}
+
+bool callOnGui(const std::function<void()>& function)
+{
+    if (DisplayAPI::Widget::isGuiThread()) {
+        function();
+        return true;
+    }
+    std::promise<bool> done;
+    auto result = done.get_future();
+    UApplication::instance()->postEvent(new CallEvent(function, done));
+    return result.get();
 }
 
 class ThreadedPhoneTest::Watchdog {
@@ -154,7 +158,7 @@ std::string ThreadedPhoneTest::screenText()
 std::string onBothRoads(const std::function<std::string(Display&)>& script, const PhoneSetup& setup)
 {
     auto display = makeDisplay(setup);
-    ChangeCounter changes;
+    Subscriber changes;
     display->subscribe(&changes);
     display->show();
     std::string direct = script(*display);

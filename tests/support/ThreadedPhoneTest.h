@@ -26,7 +26,7 @@ protected:
     std::string screenField(const std::string& key) { return fieldOf(screenText(), key); }
 
     CellFont font;
-    ChangeCounter changes; // read it on the GUI thread
+    Subscriber changes;
     std::unique_ptr<DisplayAPI::Display> display;
 
 private:
@@ -35,6 +35,9 @@ private:
     std::thread mGuiThread;
     bool mIsLoopEnded = false;
 };
+
+/// Runs a function on the GUI thread, and returns after it; false if it never will run.
+bool callOnGui(const std::function<void()>& function);
 
 /// Runs a script twice, each time on a telephone of its own: on the GUI thread, and from another thread. The script
 /// returns what it has seen; both roads must give the same, which is returned.

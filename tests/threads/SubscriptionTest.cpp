@@ -14,7 +14,7 @@ TEST_F(SubscriptionTest, ASubscriberMayDieAsSoonAsUnSubscribeHasReturned)
     std::thread application([&] {
         for (int i = 0; i < 2000; ++i) {
             Subscriber shortLived;
-            shortLived.onNotice = [&shortLived] { ++shortLived.notices; };
+            shortLived.onNotice = [&shortLived] { ++shortLived.count; };
             display->subscribe(&shortLived);
             display->unSubscribe();
         }

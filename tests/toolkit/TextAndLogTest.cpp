@@ -1,5 +1,5 @@
 #include "Log.h"
-#include "TranslationInfo.h"
+#include "TestTranslator.h"
 #include "Types.h"
 
 #include <gtest/gtest.h>
@@ -8,13 +8,6 @@
 #include <vector>
 
 namespace {
-
-class UpperCase : public TranslatorIfc {
-public:
-    std::string translate(std::string key) override { return locale + ":" + key; }
-
-    std::string locale = "en";
-};
 
 std::vector<LogControl::Message> gMessages;
 
@@ -47,11 +40,12 @@ public:
 
 TEST(TranslationTest, TheTextFollowsTheLocale)
 {
-    UpperCase translator;
+    TestTranslator translator;
+    translator.prefix = "en:";
     const TranslationInfo line("<", "Back", "?", &translator);
     EXPECT_EQ(line.getString(), "en:Back");
     EXPECT_EQ(line.getCompleteString(), "<en:Back?");
-    translator.locale = "de";
+    translator.prefix = "de:";
     EXPECT_EQ(line.getCompleteString(), "<de:Back?");
 }
 
