@@ -1,35 +1,13 @@
 #include <DisplayAPI/ItemStateListener.h>
 
 #include "CommandExecutor.h"
-#include "LivingSet.h"
 
 namespace DisplayAPI {
-
-namespace {
-
-// Never destroyed: a listener may be made before main() and die behind it.
-LivingSet<ItemStateListener>& livingListeners()
-{
-    static LivingSet<ItemStateListener>& instance = *new LivingSet<ItemStateListener>;
-    return instance;
-}
-
-}
-
-ItemStateListener::ItemStateListener()
-{
-    livingListeners().add(this);
-}
-
-ItemStateListener::ItemStateListener(const ItemStateListener&)
-    : ItemStateListener()
-{
-}
 
 // First out of the living, so that nothing new comes behind the recall.
 ItemStateListener::~ItemStateListener()
 {
-    livingListeners().remove(this);
+    leave();
     CommandExecutor::retrieveCommand(this, nullptr);
 }
 
@@ -41,11 +19,6 @@ void ItemStateListener::postItemStateChange(Item* item)
 void ItemStateListener::retrievePendingItemStateChange(Item* item)
 {
     CommandExecutor::retrieveCommand(this, item);
-}
-
-bool ItemStateListener::exists(const ItemStateListener* listener)
-{
-    return listener && livingListeners().contains(listener);
 }
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <DisplayAPI/Export.h>
+#include <DisplayAPI/Numbered.h>
 
 namespace DisplayAPI {
 
@@ -13,10 +14,10 @@ class Displayable;
 /// may call every handle. No lock of the library is held meanwhile.
 /// Ownership: a listener stays the application's. Its destructor recalls what waits for it, but a delivery that
 /// has begun is not held up: don't destroy a listener while it may be inside commandAction().
-class DISPLAYAPI_EXPORT CommandListener {
+class DISPLAYAPI_EXPORT CommandListener : public Numbered<CommandListener> {
 public:
-    CommandListener();
-    CommandListener(const CommandListener& other);
+    CommandListener() = default;
+    CommandListener(const CommandListener&) = default;
     CommandListener& operator=(const CommandListener&) = default;
     virtual ~CommandListener();
 
@@ -28,9 +29,6 @@ public:
 
     /// Recalls the deliveries that match and have not begun; null matches everything.
     void retrievePendingCommandAction(Command* command, Displayable* displayable);
-
-    /// True while the listener lives. The pointer is not followed.
-    static bool exists(const CommandListener* listener);
 };
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <DisplayAPI/Export.h>
+#include <DisplayAPI/Numbered.h>
 
 namespace DisplayAPI {
 
@@ -10,10 +11,10 @@ class Item;
 ///
 /// Threads and ownership are those of CommandListener. A change that is posted while the same one still waits
 /// is delivered once.
-class DISPLAYAPI_EXPORT ItemStateListener {
+class DISPLAYAPI_EXPORT ItemStateListener : public Numbered<ItemStateListener> {
 public:
-    ItemStateListener();
-    ItemStateListener(const ItemStateListener& other);
+    ItemStateListener() = default;
+    ItemStateListener(const ItemStateListener&) = default;
     ItemStateListener& operator=(const ItemStateListener&) = default;
     virtual ~ItemStateListener();
 
@@ -24,9 +25,6 @@ public:
 
     /// Recalls the deliveries of the item that have not begun; null matches every item.
     void retrievePendingItemStateChange(Item* item);
-
-    /// True while the listener lives. The pointer is not followed.
-    static bool exists(const ItemStateListener* listener);
 };
 
 }

@@ -1,0 +1,51 @@
+#include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/ItemStateListener.h>
+#include <DisplayAPI/Numbered.h>
+
+#include "LivingSet.h"
+
+namespace DisplayAPI {
+
+namespace {
+
+// Never destroyed: objects may be made before main() and die behind it.
+template <typename T>
+LivingSet<Numbered<T>>& living()
+{
+    static LivingSet<Numbered<T>>& instance = *new LivingSet<Numbered<T>>;
+    return instance;
+}
+
+}
+
+template <typename T>
+Numbered<T>::Numbered()
+{
+    living<T>().add(this);
+}
+
+template <typename T>
+void Numbered<T>::leave()
+{
+    living<T>().remove(this);
+}
+
+template <typename T>
+std::uint64_t Numbered<T>::numberOf(const T* object)
+{
+    return living<T>().numberOf(object);
+}
+
+template <typename T>
+std::vector<T*> Numbered<T>::all()
+{
+    std::vector<T*> objects;
+    for (Numbered* object : living<T>().all())
+        objects.push_back(static_cast<T*>(object));
+    return objects;
+}
+
+template class Numbered<CommandListener>;
+template class Numbered<ItemStateListener>;
+
+}
