@@ -1,4 +1,3 @@
-#include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 

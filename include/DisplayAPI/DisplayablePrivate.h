@@ -1,5 +1,6 @@
 #pragma once
 
+#include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/DisplayablePrivateIfc.h>
 #include <DisplayAPI/Export.h>
 #include <DisplayAPI/ListenerList.h>

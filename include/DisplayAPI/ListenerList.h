@@ -1,5 +1,7 @@
 #pragma once
 
+#include <DisplayAPI/Living.h>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -8,7 +10,8 @@
 
 namespace DisplayAPI {
 
-/// The listeners of a screen, in the order of joining. Null is ignored.
+/// The listeners of a screen, in the order of joining. Null is ignored, and so is one that has died: a listener that
+/// is made at its address later is another one, and has to join.
 ///
 /// Threads: any. It is walked as a snapshot without a lock, so a listener may leave or join from inside its
 /// call; one that has died is skipped.
@@ -19,27 +22,25 @@ public:
     /// Adds at the end, also one that is in already.
     void add(T* listener)
     {
-        if (!listener)
-            return;
         std::lock_guard lock(mMutex);
-        mListeners.push_back(listener);
+        append(Living<T>(listener));
     }
 
     /// Adds at the end, unless it is in already.
     void addOnce(T* listener)
     {
-        if (!listener)
-            return;
+        const Living<T> entry(listener);
         std::lock_guard lock(mMutex);
-        if (std::find(mListeners.begin(), mListeners.end(), listener) == mListeners.end())
-            mListeners.push_back(listener);
+        if (std::find(mListeners.begin(), mListeners.end(), entry) == mListeners.end())
+            append(entry);
     }
 
     /// Takes the first match out; no match is no error.
     void remove(T* listener)
     {
         std::lock_guard lock(mMutex);
-        auto found = std::find(mListeners.begin(), mListeners.end(), listener);
+        auto found = std::find_if(
+            mListeners.begin(), mListeners.end(), [listener](const Living<T>& entry) { return entry.isAt(listener); });
         if (found != mListeners.end())
             mListeners.erase(found);
     }
@@ -50,19 +51,21 @@ public:
         mListeners.clear();
     }
 
+    /// How many would be told now.
     std::size_t size() const
     {
         std::lock_guard lock(mMutex);
-        return mListeners.size();
+        return static_cast<std::size_t>(std::count_if(
+            mListeners.begin(), mListeners.end(), [](const Living<T>& entry) { return static_cast<bool>(entry); }));
     }
 
     /// Calls `tell(listener)` for each that lives.
     template <typename Function>
     void forEach(Function tell) const
     {
-        std::array<T*, 8> few;
-        std::vector<T*> many;
-        T* const* first = few.data();
+        std::array<Living<T>, 8> few;
+        std::vector<Living<T>> many;
+        const Living<T>* first = few.data();
         std::size_t count = 0;
         {
             std::lock_guard lock(mMutex);
@@ -75,8 +78,8 @@ public:
         if (count > few.size())
             first = many.data();
         for (std::size_t i = 0; i < count; ++i) {
-            if (isLiving(first[i]))
-                tell(first[i]);
+            if (T* listener = first[i].get())
+                tell(listener);
         }
     }
 
@@ -88,16 +91,16 @@ public:
     }
 
 private:
-    static bool isLiving(T* listener)
+    // The dead go first, so that none of them stands before a new one at its address.
+    void append(const Living<T>& listener)
     {
-        if constexpr (requires { T::exists(listener); })
-            return T::exists(listener);
-        else
-            return true;
+        std::erase_if(mListeners, [](const Living<T>& entry) { return !entry; });
+        if (listener)
+            mListeners.push_back(listener);
     }
 
     mutable std::mutex mMutex;
-    std::vector<T*> mListeners;
+    std::vector<Living<T>> mListeners;
 };
 
 }
