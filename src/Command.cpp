@@ -1,8 +1,8 @@
 #include <DisplayAPI/Command.h>
 
 #include "CommandExecutor.h"
-#include "CommandText.h"
 #include "CurrentApplication.h"
+#include "LivingSet.h"
 
 #include <Semaphore.h>
 #include <TranslationInfo.h>
@@ -12,21 +12,15 @@ namespace DisplayAPI {
 namespace {
 
 // Neither the set nor its lock is ever destroyed: well-known commands die behind main().
-std::unordered_set<const Command*>& allCommands()
-{
-    static std::unordered_set<const Command*>& instance = *new std::unordered_set<const Command*>;
-    return instance;
-}
-
-}
-
-LivingSet<Command>& livingCommands()
+LivingSet<Command>& allCommands()
 {
     static LivingSet<Command>& instance = *new LivingSet<Command>;
     return instance;
 }
 
-std::unordered_set<const Command*>& Command::gAllCommands = allCommands();
+}
+
+LivingSet<Command>& Command::gAllCommands = allCommands();
 Semaphore* Command::gCommandListMutex = nullptr;
 
 Command::Command(const std::string& label, Type type)
@@ -34,7 +28,6 @@ Command::Command(const std::string& label, Type type)
     , mType(type)
 {
     addCommand(this);
-    livingCommands().add(this);
 }
 
 Command::Command(TranslationInfo* translation, Type type)
@@ -42,18 +35,22 @@ Command::Command(TranslationInfo* translation, Type type)
     , mTranslation(translation)
 {
     addCommand(this);
-    livingCommands().add(this);
 }
 
 Command::~Command()
 {
     // First out of the living, so that nothing new comes behind the recall.
-    livingCommands().remove(this);
+    removeCommand(this);
     CommandExecutor::retrieveCommand(nullptr, this, nullptr);
     CriticalSection section(commandListMutex());
-    removeCommand(this);
     delete mTranslation;
     mTranslation = nullptr;
+}
+
+void Command::setLabel(const std::string& label)
+{
+    CriticalSection section(commandListMutex());
+    mLabel = label;
 }
 
 std::string Command::getText() const
@@ -81,16 +78,22 @@ bool Command::exists(const Command* command)
     return allCommands().contains(command);
 }
 
+std::uint64_t Command::numberOf(const Command* command)
+{
+    return allCommands().numberOf(command);
+}
+
 void Command::addCommand(Command* command)
 {
     CriticalSection section(commandListMutex());
-    allCommands().insert(command);
+    if (command)
+        allCommands().add(command);
 }
 
 void Command::removeCommand(Command* command)
 {
     CriticalSection section(commandListMutex());
-    allCommands().erase(command);
+    allCommands().remove(command);
 }
 
 Semaphore& Command::commandListMutex()

@@ -1,9 +1,9 @@
 #include "CommandExecutor.h"
 
-#include "CommandText.h"
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
 
+#include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/ItemStateListener.h>
 
@@ -164,7 +164,7 @@ void CommandExecutor::postCommand(CommandListener* listener, Command* command, D
     {
         CriticalSection section(waiting.semaphore);
         // Asked under the lock: who dies leaves the living first and recalls then.
-        if (!CommandListener::exists(listener) || (command && !livingCommands().contains(command)))
+        if (!CommandListener::exists(listener) || (command && Command::numberOf(command) == 0))
             return;
         waiting.commands.push_back({listener, command, displayable});
         waiting.queue.emplace_back(ItemType::Command, &waiting.commands.back());

@@ -1,27 +1,50 @@
 #pragma once
 
 #include <DisplayAPI/Command.h>
-
-#include "LivingSet.h"
+#include <DisplayAPI/Living.h>
 
 #include <Semaphore.h>
+#include <TranslationInfo.h>
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace DisplayAPI {
 
-/// The living commands, to be asked without the lock of all commands. Never destroyed. Threads: any.
-LivingSet<Command>& livingCommands();
+/// What a screen shows of a command: a copy, made while the command could not die.
+struct CommandText {
+    Living<Command> command;
+    Command::Type type;
+    std::string text;
+    bool isTranslated = false;
+    TranslatorIfc* translator = nullptr; // of its translation; null too where that has none
+};
 
-/// The text of a command that may have gone: empty-handed if it has. The command can't die between the question
-/// and the answer, since the lock of all commands is held. Threads: any.
-inline std::optional<std::string> livingCommandText(const Command* command)
+/// Reads a command that may have gone, or whose address may be another's by now; empty-handed then. All of it is one
+/// step under the lock of all commands, in which no command dies. Threads: any.
+inline std::optional<CommandText> readCommand(const Living<Command>& command)
 {
     CriticalSection section(Command::commandListMutex());
-    if (!command || !Command::exists(command))
+    const Command* living = command.get();
+    if (!living)
         return std::nullopt;
-    return command->getText();
+    const TranslationInfo* info = living->getTranslationInfo();
+    return CommandText{
+        command, living->getType(), living->getText(), info != nullptr, info ? info->translator() : nullptr};
+}
+
+inline std::optional<CommandText> readCommand(Command* command)
+{
+    return readCommand(Living<Command>(command));
+}
+
+/// The text alone.
+inline std::optional<std::string> livingCommandText(Command* command)
+{
+    if (std::optional<CommandText> shown = readCommand(command))
+        return std::move(shown->text);
+    return std::nullopt;
 }
 
 }

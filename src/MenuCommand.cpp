@@ -60,6 +60,12 @@ MenuCommand::MenuCommand(const std::string& label, std::string& imagePath, unsig
     commonConstructorActions();
 }
 
+// Out of the living before its fields go, which are read under the lock of all commands.
+MenuCommand::~MenuCommand()
+{
+    removeCommand(this);
+}
+
 bool MenuCommand::isSameAs(const MenuCommand& other) const
 {
     return Command::isSameAs(other) && mIconType == other.mIconType && mImage == other.mImage && mId == other.mId

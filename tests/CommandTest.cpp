@@ -15,8 +15,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <atomic>
+#include <cstddef>
 #include <functional>
 #include <memory>
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -153,14 +157,52 @@ TEST(CommandTest, TheLockIsHeldWhileTheTranslatorRunsAndGivenBackWhenItThrows)
         // The same thread may ask on.
         return Command::exists(&command) ? "there" : "gone";
     };
-    EXPECT_EQ(livingCommandText(&command), "there");
+    EXPECT_EQ(readCommand(&command)->text, "there");
     EXPECT_FALSE(wasFree);
     EXPECT_TRUE(isMutexFree());
 
     translator.whenAsked = [](const std::string&) -> std::string { throw std::runtime_error("no text"); };
-    EXPECT_THROW(livingCommandText(&command), std::runtime_error);
+    EXPECT_THROW(readCommand(&command), std::runtime_error);
     EXPECT_TRUE(isMutexFree());
-    EXPECT_EQ(livingCommandText(nullptr), std::nullopt);
+    EXPECT_FALSE(readCommand(nullptr));
+}
+
+TEST(CommandTest, ALabelIsNotWrittenWhileAnotherThreadReadsTheText)
+{
+    Command command("old", Command::Select);
+    std::atomic<bool> isWritten = false;
+    Command::commandListMutex().take(-1);
+    std::thread writer([&] {
+        command.setLabel("new");
+        isWritten = true;
+    });
+    // Nothing tells that the writer has come to the lock, so it gets time to pass it by.
+    for (int i = 0; i < 1000 && !isWritten; ++i)
+        std::this_thread::yield();
+    EXPECT_FALSE(isWritten);
+    EXPECT_EQ(command.getText(), "old");
+    Command::commandListMutex().give();
+    writer.join();
+    EXPECT_EQ(command.getText(), "new");
+}
+
+TEST(CommandTest, AnotherCommandAtTheSameAddressIsNotTakenForTheFirst)
+{
+    alignas(MenuCommand) std::array<std::byte, sizeof(MenuCommand)> place;
+    auto* cancel = new (place.data()) MenuCommand("Cancel", 1);
+    const Living<Command> remembered(cancel);
+    EXPECT_EQ(remembered.get(), cancel);
+    EXPECT_EQ(readCommand(remembered)->text, "Cancel");
+    EXPECT_EQ(readCommand(remembered)->type, Command::Menu);
+    cancel->~MenuCommand();
+    EXPECT_EQ(remembered.get(), nullptr);
+
+    auto* deleteAll = new (place.data()) MenuCommand("Delete all", 2);
+    EXPECT_TRUE(remembered.isAt(deleteAll));
+    EXPECT_EQ(remembered.get(), nullptr);
+    EXPECT_FALSE(readCommand(remembered));
+    EXPECT_EQ(readCommand(deleteAll)->text, "Delete all");
+    deleteAll->~MenuCommand();
 }
 
 TEST(MenuCommandTest, TheFieldsOnOneLine)
@@ -291,6 +333,31 @@ TEST_F(QueueTest, NobodyPostsToNullOrToTheDead)
     shortCommand.reset();
     post(anna, *gone); // it died behind the question whether it lives
     EXPECT_EQ(deliver(), "anna:yes");
+}
+
+TEST_F(QueueTest, AnotherListenerAtTheSameAddressIsANewOne)
+{
+    alignas(Listener) std::array<std::byte, sizeof(Listener)> place;
+    ListenerList<CommandListener> listeners;
+    auto* first = new (place.data()) Listener("first", story);
+    listeners.addOnce(first);
+    listeners.addOnce(&anna);
+    first->~Listener();
+
+    auto* second = new (place.data()) Listener("second", story);
+    listeners.forEach([this](CommandListener* listener) { post(*listener, yes); });
+    EXPECT_EQ(deliver(), "anna:yes");
+    EXPECT_EQ(listeners.size(), 1U);
+
+    listeners.addOnce(second);
+    listeners.addOnce(second);
+    listeners.forEach([this](CommandListener* listener) { post(*listener, yes); });
+    EXPECT_EQ(deliver(), "anna:yes second:yes");
+    listeners.remove(second);
+    EXPECT_EQ(listeners.size(), 1U);
+    second->~Listener();
+    listeners.addOnce(second);
+    EXPECT_EQ(listeners.size(), 1U);
 }
 
 TEST_F(QueueTest, ACopyOfAListenerLives)

@@ -2,13 +2,16 @@
 
 #include <DisplayAPI/Export.h>
 
+#include <cstdint>
 #include <string>
-#include <unordered_set>
 
 class Semaphore;
 class TranslationInfo;
 
 namespace DisplayAPI {
+
+template <typename T>
+class LivingSet;
 
 /// What an action of the user means to the application: a menu line, a soft key, or a notice of a screen.
 ///
@@ -43,7 +46,12 @@ public:
 
     Type getType() const { return mType; }
     TranslationInfo* getTranslationInfo() const { return mTranslation; }
-    void setLabel(const std::string& label) { mLabel = label; }
+
+    /// Writes the label under the lock of all commands, so that it may change while a screen reads the text. Screens
+    /// that show the command read it again at a change of locale only.
+    void setLabel(const std::string& label);
+
+    /// The label, without the lock.
     std::string getLabel() const { return mLabel; }
 
     /// The text for the screen: the complete translation (without prefix and suffix on hardware variant 1), or
@@ -63,6 +71,10 @@ public:
 
     /// True while the command lives; false for null. The pointer is not followed.
     static bool exists(const Command* command);
+
+    /// The running number that the command got when it entered; no later one at the same address has it. 0 for null
+    /// and for a command that has died. The pointer is not followed, and no lock is taken.
+    static std::uint64_t numberOf(const Command* command);
     static void addCommand(Command* command);
     static void removeCommand(Command* command);
 
@@ -71,8 +83,9 @@ public:
     static void tidyup();
 
 private:
-    // Never destroyed. The lock is made at the first use: take it by commandListMutex().
-    static std::unordered_set<const Command*>& gAllCommands;
+    // Never destroyed. The lock is made at the first use: take it by commandListMutex(). The set of the living is
+    // changed under it, and asked with it or without.
+    static LivingSet<Command>& gAllCommands;
     static Semaphore* gCommandListMutex;
 
     std::string mLabel;

@@ -22,6 +22,7 @@ public:
     MenuCommand(const std::string& label, Image* image, unsigned long id);
     MenuCommand(TranslationInfo* translation, Image* image, unsigned long id);
     MenuCommand(const std::string& label, std::string& imagePath, unsigned long id);
+    ~MenuCommand() override;
 
     unsigned long getId() const { return mId; }
     PhonebookItem::IconType getIconType() const { return mIconType; }
