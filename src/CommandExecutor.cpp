@@ -6,10 +6,12 @@
 #include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/ItemStateListener.h>
+#include <DisplayAPI/Living.h>
 
 #include <Log.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <unordered_set>
 #include <variant>
@@ -23,30 +25,61 @@ constexpr const char* LogModule = "DisplayAPI::AbbreviatedItemPrivate";
 constexpr int LogLevel = 5;
 
 template <typename T>
-bool isWanted(T* wanted, T* found)
+bool isWanted(T* wanted, const Living<T>& found)
 {
-    return !wanted || wanted == found;
+    return !wanted || found.isAt(wanted);
 }
 
+template <typename T>
+bool isWanted(T* wanted, T* found)
+{
+    return !wanted || found == wanted;
+}
+
+/// What a recall names; null matches everything.
+struct CommandPattern {
+    CommandListener* listener;
+    Command* command;
+    Displayable* displayable;
+};
+
 struct CommandDelivery {
-    CommandListener* listener = nullptr;
-    Command* command = nullptr;
+    Living<CommandListener> listener;
+    Living<Command> command;
     Displayable* displayable = nullptr;
 
-    void deliver() const { listener->commandAction(command, displayable); }
-    bool matches(const CommandDelivery& pattern) const
+    /// False once one of those whom it names has died.
+    bool isLiving() const { return listener && (command || command.isAt(nullptr)); }
+    void deliver() const
+    {
+        CommandListener* living = listener.get();
+        Command* what = command.get();
+        if (living && (what || command.isAt(nullptr)))
+            living->commandAction(what, displayable);
+    }
+    bool matches(const CommandPattern& pattern) const
     {
         return isWanted(pattern.listener, listener) && isWanted(pattern.command, command)
             && isWanted(pattern.displayable, displayable);
     }
 };
 
+struct ItemStatePattern {
+    ItemStateListener* listener;
+    Item* item;
+};
+
 struct ItemStateDelivery {
-    ItemStateListener* listener = nullptr;
+    Living<ItemStateListener> listener;
     Item* item = nullptr;
 
-    void deliver() const { listener->itemStateChanged(item); }
-    bool matches(const ItemStateDelivery& pattern) const
+    bool isLiving() const { return static_cast<bool>(listener); }
+    void deliver() const
+    {
+        if (ItemStateListener* living = listener.get())
+            living->itemStateChanged(item);
+    }
+    bool matches(const ItemStatePattern& pattern) const
     {
         return isWanted(pattern.listener, listener) && isWanted(pattern.item, item);
     }
@@ -55,7 +88,7 @@ struct ItemStateDelivery {
     struct Hash {
         std::size_t operator()(const ItemStateDelivery& delivery) const
         {
-            return std::hash<void*>()(delivery.listener) * 31 + std::hash<void*>()(delivery.item);
+            return std::hash<std::uint64_t>()(delivery.listener.number()) * 31 + std::hash<void*>()(delivery.item);
         }
     };
 };
@@ -77,8 +110,8 @@ struct CommandExecutor::State {
 
     bool claimStart(bool start) REQUIRES(semaphore);
     bool takeFirst(Delivery& delivery) REQUIRES(semaphore);
-    std::size_t recall(const CommandDelivery& pattern) REQUIRES(semaphore);
-    std::size_t recall(const ItemStateDelivery& pattern) REQUIRES(semaphore);
+    std::size_t recall(const CommandPattern& pattern) REQUIRES(semaphore);
+    std::size_t recall(const ItemStatePattern& pattern) REQUIRES(semaphore);
 };
 
 /// True if the caller has to call a worker: one start is under way at a time.
@@ -109,7 +142,7 @@ bool CommandExecutor::State::takeFirst(Delivery& delivery)
     return true;
 }
 
-std::size_t CommandExecutor::State::recall(const CommandDelivery& pattern)
+std::size_t CommandExecutor::State::recall(const CommandPattern& pattern)
 {
     if (commands.empty())
         return 0;
@@ -132,7 +165,7 @@ std::size_t CommandExecutor::State::recall(const CommandDelivery& pattern)
     return examined - kept;
 }
 
-std::size_t CommandExecutor::State::recall(const ItemStateDelivery& pattern)
+std::size_t CommandExecutor::State::recall(const ItemStatePattern& pattern)
 {
     if (changes.empty())
         return 0;
@@ -164,9 +197,10 @@ void CommandExecutor::postCommand(CommandListener* listener, Command* command, D
     {
         CriticalSection section(waiting.semaphore);
         // Asked under the lock: who dies leaves the living first and recalls then.
-        if (!CommandListener::exists(listener) || (command && Command::numberOf(command) == 0))
+        const CommandDelivery delivery{Living<CommandListener>(listener), Living<Command>(command), displayable};
+        if (!delivery.isLiving())
             return;
-        waiting.commands.push_back({listener, command, displayable});
+        waiting.commands.push_back(delivery);
         waiting.queue.emplace_back(ItemType::Command, &waiting.commands.back());
         mustCallWorker = waiting.claimStart(start);
     }
@@ -182,9 +216,10 @@ void CommandExecutor::postCommand(ItemStateListener* listener, Item* item, bool 
     bool mustCallWorker = false;
     {
         CriticalSection section(waiting.semaphore);
-        if (!ItemStateListener::exists(listener))
+        const ItemStateDelivery delivery{Living<ItemStateListener>(listener), item};
+        if (!delivery.isLiving())
             return;
-        const auto [record, isNew] = waiting.changes.insert({listener, item});
+        const auto [record, isNew] = waiting.changes.insert(delivery);
         if (!isNew)
             return;
         waiting.queue.emplace_back(ItemType::ItemState, const_cast<ItemStateDelivery*>(&*record));
@@ -231,7 +266,7 @@ void CommandExecutor::retrieveCommand(CommandListener* listener, Command* comman
     std::size_t recalled = 0;
     {
         CriticalSection section(waiting.semaphore);
-        recalled = waiting.recall(CommandDelivery{listener, command, displayable});
+        recalled = waiting.recall(CommandPattern{listener, command, displayable});
     }
     // The sink of the log may be the application's, so it is called without the lock.
     if (recalled == 0 || !loggingOnAppUni(LogModule, LogLevel))
@@ -250,7 +285,7 @@ void CommandExecutor::retrieveCommand(ItemStateListener* listener, Item* item)
     std::size_t recalled = 0;
     {
         CriticalSection section(waiting.semaphore);
-        recalled = waiting.recall(ItemStateDelivery{listener, item});
+        recalled = waiting.recall(ItemStatePattern{listener, item});
     }
     if (recalled == 0 || !loggingOnAppUni(LogModule, LogLevel))
         return;
