@@ -1,6 +1,7 @@
 #include "GlassTest.h"
 
 #include "SystemWindow.h"
+#include "UApplication.h"
 
 #include <array>
 
@@ -8,6 +9,11 @@ namespace {
 
 class SystemWindowTest : public GlassTest {
 protected:
+    SystemWindowTest()
+    {
+        application.setSoftwareType(static_cast<VantoUApplication::SoftwareType>(1));
+        manager.setScreen(&glass);
+    }
     ~SystemWindowTest() override
     {
         if (window)
@@ -16,6 +22,7 @@ protected:
 
     void setLine(int number, const std::string& value) { window->setSystemWindowText(number, value, ""); }
 
+    VantoUApplication application{UString(), new UScreenWE1, {}, {}, {}, {}};
     UPointer<SystemWindow> window = new SystemWindow;
 };
 
@@ -37,6 +44,9 @@ TEST_F(SystemWindowTest, ItsLinesStandOverTheScreens)
     EXPECT_EQ(line(0), whole("upper"));
     window->showLine(true);
     EXPECT_EQ(line(0), whole("4711"));
+
+    application.setSoftwareType(static_cast<VantoUApplication::SoftwareType>(0));
+    EXPECT_EQ(line(0), whole("upper")) << "it belongs to one software type";
 }
 
 TEST_F(SystemWindowTest, TheClockGoesOnByItself)

@@ -335,12 +335,12 @@ TEST_F(WindowManagerTest, LayersLieOverTheScreensInTheirOrder)
         widget->blanks = true;
     manager().raisePopup(second);
     manager().raisePopup(first);
-    EXPECT_EQ(painted(), "w");
-    systemWindow.hide();
     EXPECT_EQ(painted(), "v");
     volume->hide();
     EXPECT_EQ(painted(), "s");
     status->hide();
+    EXPECT_EQ(painted(), "w");
+    systemWindow.hide();
     EXPECT_EQ(painted(), "p") << "the popup that came up last";
     manager().lowerPopup(first);
     EXPECT_EQ(painted(), "q");

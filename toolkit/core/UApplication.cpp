@@ -113,6 +113,19 @@ void VantoUApplication::setLocale(const std::string& locale)
     ListenerHub::instance().notify(EventType::LocaleChanged);
 }
 
+void VantoUApplication::setSoftwareType(SoftwareType type)
+{
+    mSoftwareType = type;
+    // The system window comes or goes with it.
+    UWindowManager::instance().repaint();
+}
+
+bool VantoUApplication::isSoftwareQvt()
+{
+    const VantoUApplication* application = getCurrentApplication();
+    return application && application->getSoftwareType() == 1;
+}
+
 void VantoUApplication::addListener(UAgent* agent)
 {
     ListenerHub::instance().add(agent);

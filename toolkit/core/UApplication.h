@@ -87,8 +87,12 @@ public:
     /// Threads: any, for the two reads.
     void setHardwareVariant(HardwareVariant variant) { mHardwareVariant = variant; }
     HardwareVariant getHardwareVariant() const { return mHardwareVariant; }
-    void setSoftwareType(SoftwareType type) { mSoftwareType = type; }
     SoftwareType getSoftwareType() const { return mSoftwareType; }
+    void setSoftwareType(SoftwareType type);
+
+    /// True while the current application has software type 1, the one with a system window. Threads: any.
+    static bool isSoftwareQvt();
+
     UIMode uiMode() const { return mUIMode; }
     PhysDefs::hardwareSubVariant hardwareSubVariant() const { return mHardwareSubVariant; }
 

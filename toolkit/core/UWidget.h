@@ -20,13 +20,13 @@ public:
         SearchableList,
     };
 
-    /// The order of painting, and of the focus from the last to the first.
+    /// The order of painting: screens, what is up over them in the order of coming up, and so on.
     enum class Layer {
         Screen,
         Popup,
+        SystemWindow,
         StatusMessage,
         Volume,
-        SystemWindow,
         KeyBar,
     };
 

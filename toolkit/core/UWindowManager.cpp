@@ -232,14 +232,20 @@ void UWindowManager::compose()
     if (!mIsEnabled)
         return;
     UPainter painter(*mScreen, mFont);
-    paintLayer(static_cast<int>(UWidget::Layer::Screen), painter);
+    for (int layer = 0; layer <= static_cast<int>(UWidget::Layer::KeyBar); ++layer) {
+        if (layer == static_cast<int>(UWidget::Layer::Popup))
+            paintPopups(painter);
+        else
+            paintLayer(layer, painter);
+    }
+}
+
+void UWindowManager::paintPopups(UPainter& painter) const
+{
     for (const Popup& popup : mPopups) {
         if (isShown(popup))
             paintTree(*popup.widget, painter);
     }
-    for (auto layer :
-        {UWidget::Layer::StatusMessage, UWidget::Layer::Volume, UWidget::Layer::SystemWindow, UWidget::Layer::KeyBar})
-        paintLayer(static_cast<int>(layer), painter);
 }
 
 void UWindowManager::paintLayer(int layer, UPainter& painter) const

@@ -107,6 +107,7 @@ private:
     void compose();
     void paintTree(UWidget& widget, UPainter& painter) const;
     void paintLayer(int layer, UPainter& painter) const;
+    void paintPopups(UPainter& painter) const;
     bool isInRootTree(const UWidget* widget) const;
 
     UPointer<UWidget> mRoot;

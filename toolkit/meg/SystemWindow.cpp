@@ -1,5 +1,6 @@
 #include "SystemWindow.h"
 
+#include "UApplication.h"
 #include "UPainter.h"
 #include "UString.h"
 #include "UWindowManager.h"
@@ -256,7 +257,7 @@ void SystemWindow::paintRightSide(UPainter& painter, int column) const
 
 void SystemWindow::paint(UPainter& painter)
 {
-    if (!mIsLineShown)
+    if (!mIsLineShown || !VantoUApplication::isSoftwareQvt())
         return;
     for (int line = 0; line < std::min(mSize, GlassLines); ++line) {
         const std::string& text = mTexts[static_cast<std::size_t>(line)];

@@ -12,7 +12,7 @@
 /// first one.
 ///
 /// A line without a text leaves the glass to what lies below; a blank text covers it. Clock and timer go on by
-/// themselves; neither is part of the text of a line.
+/// themselves; neither is part of the text of a line. On another software type nothing of it is on the glass.
 /// Threads: GUI thread only. Ownership: it stands beside the tree of screens; release() deletes it.
 class TOOLKIT_EXPORT SystemWindow : public UWidget {
 public:
