@@ -356,6 +356,13 @@ TEST_F(WindowManagerTest, APopupBelowAScreenIsPaintedOnlyWhileItIsUp)
     EXPECT_EQ(painted(), "b");
     manager().raisePopup(menu);
     EXPECT_EQ(painted(), "b m");
+    EXPECT_EQ(manager().focusWidget(), menu);
+    a->show();
+    a->setParent(nullptr);
+    root.addWidget(a);
+    EXPECT_EQ(painted(), "a") << "it is covered with its screen";
+    EXPECT_EQ(manager().focusWidget(), a);
+    a->hide();
     b->hide();
     EXPECT_EQ(painted(), "") << "its screen is hidden";
 }

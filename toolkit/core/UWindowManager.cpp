@@ -65,16 +65,23 @@ bool UWindowManager::isUp(const UWidget* popup) const
 
 bool UWindowManager::isInRootTree(const UWidget* widget) const
 {
-    while (widget->parentWidget())
+    const UWidget* root = mRoot.get();
+    while (widget && widget != root)
         widget = widget->parentWidget();
-    return widget == mRoot.get();
+    return widget;
 }
 
 bool UWindowManager::isShown(const Popup& popup) const
 {
-    if (isInRootTree(popup.widget))
-        return popup.widget->isShown();
     const UWidget* root = mRoot.get();
+    if (isInRootTree(popup.widget)) {
+        // A menu inside a screen is covered together with it.
+        const UWidget* outermost = popup.widget;
+        while (outermost->parentWidget() != root)
+            outermost = outermost->parentWidget();
+        const bool isOnTop = outermost->layer() != UWidget::Layer::Screen || outermost == topScreen();
+        return isOnTop && popup.widget->isShown();
+    }
     return popup.widget->isVisible() && (!root || root->isVisible()) && popup.boundTo == topScreen();
 }
 

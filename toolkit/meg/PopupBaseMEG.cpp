@@ -1,10 +1,10 @@
 #include "PopupBaseMEG.h"
 
 #include "UEvent.h"
-#include "UWindowManager.h"
 
 PopupBaseMEG::PopupBaseMEG()
-    : mTimeoutTimer(this)
+    : RaisedWidget(WhileDown::KeepsFlag)
+    , mTimeoutTimer(this)
     , mAnimationTimer(this)
 {
     mTimeoutTimer.setSingleShot(true);
@@ -14,11 +14,6 @@ PopupBaseMEG::PopupBaseMEG()
 PopupBaseMEG::~PopupBaseMEG() = default;
 
 // Up and down
-
-bool PopupBaseMEG::isUp() const
-{
-    return UWindowManager::instance().isUp(this);
-}
 
 void PopupBaseMEG::setTimeout(int milliseconds)
 {
@@ -40,33 +35,20 @@ void PopupBaseMEG::dismiss()
 {
     if (!isUp())
         return;
-    goDown();
+    lower();
     emit(EventType::PopupDown, this);
 }
 
 void PopupBaseMEG::comeUp()
 {
-    show();
-    UWindowManager::instance().raisePopup(this);
-    restartTimeout();
-    restartAnimation();
-    upChanged();
+    raise();
     emit(EventType::PopupUp, this);
 }
 
-void PopupBaseMEG::goDown()
+void PopupBaseMEG::upChanged()
 {
-    UWindowManager::instance().lowerPopup(this);
     restartTimeout();
     restartAnimation();
-    upChanged();
-}
-
-void PopupBaseMEG::parentChanged()
-{
-    // Who takes the popup out of the tree walks the display's stack: an event would come in the middle of it.
-    if (!parentWidget() && isUp())
-        goDown();
 }
 
 void PopupBaseMEG::timerEvent(UTimerEvent* event)

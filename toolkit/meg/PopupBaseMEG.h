@@ -1,7 +1,7 @@
 #pragma once
 
+#include "RaisedWidget.h"
 #include "ULoop.h"
-#include "UWidget.h"
 
 #include <array>
 #include <cstddef>
@@ -16,7 +16,7 @@
 /// Icons are the telephone's icon numbers, 0 for none.
 /// Threads: GUI thread only. Ownership: the parent's, without a parent the maker's. Its listener may delete it
 /// inside any event.
-class TOOLKIT_EXPORT PopupBaseMEG : public UWidget {
+class TOOLKIT_EXPORT PopupBaseMEG : public RaisedWidget {
 public:
     PopupBaseMEG();
     ~PopupBaseMEG() override;
@@ -57,17 +57,14 @@ public:
     virtual void setDownArrowDisplayable(bool displayable);
 
     int getTimeout() const { return mTimeout; }
-    bool isUp() const;
 
     // Overrides
 
     void timerEvent(UTimerEvent* event) override;
-    Layer layer() const override { return Layer::Popup; }
-    void parentChanged() override;
 
 protected:
-    /// Told after the popup has come up or gone down, before its event.
-    virtual void upChanged() { }
+    /// Starts or stops time-out and animation. Told before the popup's event.
+    void upChanged() override;
 
     /// The icons at the head of line 0 or 1, as they are painted now; other lines have none.
     std::array<unsigned short, 2> iconsOfLine(int line) const;
@@ -79,7 +76,6 @@ protected:
 
 private:
     void comeUp();
-    void goDown();
     void setLineIcon(std::size_t line, std::size_t place, unsigned short icon);
     void restartTimeout();
     void restartAnimation();

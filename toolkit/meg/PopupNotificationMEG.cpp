@@ -151,6 +151,7 @@ void PopupNotificationMEG::timerEvent(UTimerEvent* event)
 
 void PopupNotificationMEG::upChanged()
 {
+    PopupBaseMEG::upChanged();
     mTurnTimer.stop();
     restartTurns();
 }
