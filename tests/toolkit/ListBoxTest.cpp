@@ -1,4 +1,5 @@
 #include "ListFixture.h"
+#include "StatusVolumeMEG.h"
 
 #include <memory>
 
@@ -309,6 +310,32 @@ TEST_F(ListBoxTest, WithoutATitleTheCurrentOfTwoRowsIsInverse)
     EXPECT_FALSE(isInverse(1));
     list.setCurrentIndex(2);
     EXPECT_TRUE(isInverse(1)) << "a row that becomes current has its bar again";
+}
+
+TEST_F(ListBoxTest, WhereTheFirstLineIsTakenTheRowHasTheSecond)
+{
+    addRows(list, {"a", "b"});
+    list.setCurrentIndex(1);
+    widget->setStatusMessageAvailable(true);
+    EXPECT_EQ(line(0), whole(""));
+    EXPECT_EQ(line(1), "b                         ^");
+    widget->setTitle(text("title"));
+    EXPECT_EQ(line(0), whole("")) << "the title gives way";
+    widget->setParent(nullptr);
+    root.addWidget(widget);
+    EXPECT_EQ(line(0), whole("title")) << "off the glass nobody tells the screen";
+
+    // A screen that comes later finds the line taken as well.
+    auto message = std::make_unique<StatusMessageMEG>("message", 0, 0);
+    root.addWidget(message.get());
+    auto* later = new VantoListBoxWithTitleMEG;
+    addRows(*later->list(), {"c", "d"});
+    root.addWidget(later);
+    EXPECT_EQ(line(0), whole("message"));
+    EXPECT_EQ(line(1).front(), 'c');
+    message.reset();
+    EXPECT_EQ(line(0), whole("c"));
+    EXPECT_EQ(line(1), whole("d"));
 }
 
 TEST_F(ListBoxTest, ARowDividesItsLine)

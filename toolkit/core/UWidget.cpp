@@ -40,6 +40,8 @@ void UWidget::setParent(UWidget* parent)
     }
     if (parent)
         link(parent);
+    else
+        mIsStatusMessageAvailable = false;
     UWindowManager::instance().repaint();
     parentChanged();
 }
@@ -82,6 +84,11 @@ void UWidget::setStatusMessageAvailable(bool available)
 {
     mIsStatusMessageAvailable = available;
     refresh();
+}
+
+bool UWidget::isFirstLineTaken() const
+{
+    return mIsStatusMessageAvailable || (mParent && mParent->keepsFirstLine());
 }
 
 void UWidget::refresh()

@@ -75,9 +75,19 @@ public:
     virtual URect getRect() const { return mRect; }
     void setCoordinates(int left, int top, int right, int bottom) { setRect(URect(left, top, right, bottom)); }
 
-    /// Told when a status message comes or goes over the first line.
+    // The first line of the glass
+
+    /// Told when a status message comes or goes over the first line. Leaving the tree forgets it.
     void setStatusMessageAvailable(bool available);
     bool isStatusMessageAvailable() const { return mIsStatusMessageAvailable; }
+
+    /// True while the first line is not this widget's to use: a status message lies over it, or the widget
+    /// around this one keeps it. Whoever places lines asks each time.
+    bool isFirstLineTaken() const;
+
+    /// True for a widget that has the first line for itself, so that its children begin on the second. It is
+    /// asked by isFirstLineTaken() of the children; a widget that does not have the line passes that on.
+    virtual bool keepsFirstLine() const { return isFirstLineTaken(); }
 
     // Painting and keys
 

@@ -65,12 +65,29 @@ StatusMessageMEG::StatusMessageMEG(const std::string& text, unsigned int start, 
     mTimer.start();
 }
 
-StatusMessageMEG::~StatusMessageMEG() = default;
+StatusMessageMEG::~StatusMessageMEG()
+{
+    cover(nullptr);
+}
+
+void StatusMessageMEG::parentChanged()
+{
+    cover(parentWidget());
+}
+
+void StatusMessageMEG::cover(UWidget* screens)
+{
+    // A screen that comes later finds the line taken too, without having been told.
+    if (mCovered)
+        mCovered->setStatusMessageAvailable(false);
+    mCovered = screens;
+    if (mCovered)
+        mCovered->setStatusMessageAvailable(true);
+}
 
 UString StatusMessageMEG::serialise() const
 {
-    const VantoUApplication* application = VantoUApplication::getCurrentApplication();
-    if (application && application->getSoftwareType() == 1)
+    if (VantoUApplication::isSoftwareQvt())
         return UString(TextBlock::oneLine(mText));
     TextBlock block("StatusMessage");
     block.field("string0", mText);

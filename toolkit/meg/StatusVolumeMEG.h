@@ -7,7 +7,8 @@
 #include <cstddef>
 #include <string>
 
-/// A message in the place of the first line, over all screens, until it is deleted.
+/// A message in the place of the first line, over all screens, until it is deleted. Its parent and the screens
+/// there find the line taken.
 ///
 /// A text that is longer than the line is shown in parts, one after the other.
 /// Threads: GUI thread only. Ownership: the parent's, without a parent the maker's.
@@ -28,11 +29,15 @@ public:
 
     void timerEvent(UTimerEvent* event) override;
     void paint(UPainter& painter) override;
+    void parentChanged() override;
     UWidget* focusTarget() override;
     bool isPassive() const override { return true; }
     Layer layer() const override { return Layer::StatusMessage; }
 
 private:
+    void cover(UWidget* screens);
+
+    UPointer<UWidget> mCovered;
     std::string mText;
     UString mShownText;
     unsigned int mDuration;

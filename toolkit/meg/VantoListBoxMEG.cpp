@@ -374,7 +374,7 @@ UString VantoListBoxMEG::screenText(const std::vector<URect>& rects)
 
 int VantoListBoxMEG::firstLine() const
 {
-    return getRect().top() >= SecondLineTop ? 1 : 0;
+    return getRect().top() >= SecondLineTop || isFirstLineTaken() ? 1 : 0;
 }
 
 int VantoListBoxMEG::rowsInView() const

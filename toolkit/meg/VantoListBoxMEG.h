@@ -128,7 +128,8 @@ public:
     /// glass, above and below, in their order.
     URect rowRect(const VantoListBoxItemMEG* row) const;
 
-    /// The first line of the glass that the list uses, 0 or 1, by the list's rectangle.
+    /// The first line of the glass that the list uses, 0 or 1: by the list's rectangle, and 1 where the first
+    /// line is taken.
     int firstLine() const;
     int visibleLines() const { return 2 - firstLine(); }
 

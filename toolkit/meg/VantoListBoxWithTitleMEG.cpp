@@ -97,8 +97,10 @@ UWidget* VantoListBoxWithTitleMEG::focusTarget()
 
 void VantoListBoxWithTitleMEG::paint(UPainter& painter)
 {
-    painter.clearLines(0, 1);
-    if (mList->firstLine() > 0)
+    // What the widget around this one has on the first line was painted before.
+    const bool isLineKept = parentWidget() && parentWidget()->keepsFirstLine();
+    painter.clearLines(isLineKept ? 1 : 0, 1);
+    if (mList->firstLine() > 0 && !isFirstLineTaken())
         painter.rowText(0, 0, mTitle->text(), UPainter::Columns);
 }
 

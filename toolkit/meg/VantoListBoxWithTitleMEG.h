@@ -19,7 +19,8 @@ private:
 };
 
 /// A screen with a list and, while it has a title, a title line above it. The title takes one of the two
-/// lines, so a list with a title shows one row.
+/// lines, so a list with a title shows one row. Where the first line is taken, the title gives way and the list
+/// has the second line.
 ///
 /// An event of the list goes to the list's own listener; unless somebody sets one, that is this widget, which
 /// hands it on to its own listener with source and payload as they are. Nobody hears an event twice.
