@@ -91,13 +91,13 @@ void DisplayPrivate::setSystemWindowText(int line, std::string text)
 
 void DisplayPrivate::setSystemWindowSize(int lines)
 {
-    if (!mStack.isVisible() || lines < 0)
+    if (!mStack.isVisible())
         return;
     if (lines == 0)
         mIsSystemWindowCollapsed = true;
     else if (mContent->getSWCurrentNumLines() <= lines)
         mIsSystemWindowCollapsed = false;
-    std::fill(mIsLineChanged.begin() + std::min(lines, SystemWindowLines), mIsLineChanged.end(), false);
+    std::fill(mIsLineChanged.begin() + std::clamp(lines, 0, SystemWindowLines), mIsLineChanged.end(), false);
     mContent->setSWCurrentNumLines(lines);
     showSW(lines);
 }

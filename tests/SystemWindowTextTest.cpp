@@ -8,6 +8,8 @@
 #include <UApplication.h>
 #include <VantoListBoxMEG.h>
 
+#include <climits>
+
 using namespace DisplayAPI;
 
 namespace {
@@ -166,7 +168,6 @@ TEST_F(SystemWindowTextTest, LinesOutsideTheWindowAreIgnored)
     subscriber.takeNotices();
     for (const int line : {-1, 6, 1000000})
         display->setSystemWindowText(line, "text");
-    display->setSystemWindowSize(-1);
     EXPECT_EQ(text(), "");
     EXPECT_EQ(subscriber.takeNotices(), 0);
     display->setSystemWindowSize(7); // stored, but nothing is shown anew
@@ -174,6 +175,20 @@ TEST_F(SystemWindowTextTest, LinesOutsideTheWindowAreIgnored)
     EXPECT_EQ(subscriber.takeNotices(), 0);
     display->setSystemWindowSize(6);
     EXPECT_EQ(subscriber.takeNotices(), 1);
+}
+
+TEST_F(SystemWindowTextTest, ANegativeSizeForgetsEveryLineAndIsToldLikeAnyOther)
+{
+    makeQuietDisplay();
+    for (const int lines : {2, -1, INT_MIN}) {
+        display->setSystemWindowText(0, "line");
+        display->setSystemWindowText(1, "arrow \xEE\x80\x80");
+        subscriber.takeNotices();
+        display->setSystemWindowSize(lines);
+        EXPECT_EQ(subscriber.takeNotices(), 1) << lines;
+        EXPECT_EQ(display->getContentWidget()->getSWCurrentNumLines(), lines);
+    }
+    EXPECT_EQ(text(), "object:\nname:PopupTextField\ncaption:line\nend:\n") << "and has no second line";
 }
 
 TEST_F(SystemWindowTextTest, DarkeningASystemWindowTelephoneGivesTwoNotices)
