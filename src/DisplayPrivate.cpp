@@ -108,7 +108,10 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* displayable)
     assertGuiThread();
     if (!displayable)
         return;
-    mStack.takeOff(*displayable);
+    if (mStack.takeOff(*displayable)) {
+        CriticalSection section(mListenerLock);
+        mOwesNotice = true;
+    }
     Displayable* current = mStack.current();
     if (!current || privateOfLiving(current) != displayable)
         return;
@@ -216,8 +219,16 @@ void DisplayPrivate::unSubscribe()
 void DisplayPrivate::displayChanged()
 {
     CriticalSection section(mListenerLock);
+    mOwesNotice = false;
     if (mDisplayChangeListener)
         mDisplayChangeListener->displayChanged({});
+}
+
+void DisplayPrivate::tellOfDismissal()
+{
+    CriticalSection section(mListenerLock);
+    if (mOwesNotice)
+        displayChanged();
 }
 
 }

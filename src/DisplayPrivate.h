@@ -77,6 +77,9 @@ public:
 
     void widgetDismissed(DisplayablePrivateIfc* displayable) override;
 
+    /// Gives the notice of a dismissal, once the screen below is back: the screen that was dismissed asks for it.
+    void tellOfDismissal();
+
     // Locale and formats
 
     void localeChanged(std::string locale) override;
@@ -163,6 +166,7 @@ private:
 
     Semaphore mListenerLock{Semaphore::AVAILABLE, 1, true};
     DisplayEventIfc* mDisplayChangeListener GUARDED_BY(mListenerLock) = nullptr;
+    bool mOwesNotice GUARDED_BY(mListenerLock) = false; // of a screen that has left, until any notice is given
 
     DisplayStack mStack{*this};
     bool mIsStacking;

@@ -31,8 +31,12 @@ std::string DisplayablePrivate::serialise(const std::vector<Rect>&)
 
 void DisplayablePrivate::widgetDismissed(DisplayablePrivate* displayable)
 {
-    if (DisplayPrivateIfc* living = display())
-        living->widgetDismissed(displayable);
+    DisplayPrivateIfc* living = display();
+    if (!living)
+        return;
+    // The screen below comes back, which may end this one, or the display.
+    living->widgetDismissed(displayable);
+    LivingDisplays::tellOfDismissal(living);
 }
 
 void DisplayablePrivate::join(DisplayablePrivate* other)

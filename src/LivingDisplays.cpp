@@ -41,6 +41,14 @@ unsigned long LivingDisplays::numberOf(const DisplayPrivateIfc* display)
     return 0;
 }
 
+void LivingDisplays::tellOfDismissal(const DisplayPrivateIfc* display)
+{
+    for (const auto& [living, number] : entries()) {
+        if (living == display)
+            return living->tellOfDismissal();
+    }
+}
+
 void LivingDisplays::forget(Displayable* displayable)
 {
     for (const auto& [display, number] : entries())

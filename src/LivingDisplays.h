@@ -17,6 +17,9 @@ void remove(DisplayPrivate* display);
 /// is not followed.
 unsigned long numberOf(const DisplayPrivateIfc* display);
 
+/// Gives the notice that is owed since a screen was dismissed, unless the display has gone or told of it.
+void tellOfDismissal(const DisplayPrivateIfc* display);
+
 /// Takes a screen that is being deleted off every display.
 void forget(Displayable* displayable);
 

@@ -96,7 +96,7 @@ TEST_F(DisplayStackTest, WhenTheTopPopupGoesTheScreenBelowComesBack)
     EXPECT_EQ(stackText(), "bottom middle");
     EXPECT_TRUE(top->screen().isOwner);
     EXPECT_FALSE(middle->screen().isOwner);
-    EXPECT_EQ(subscriber.takeNotices(), 0) << "the dismissing screen gives the notice on its own";
+    EXPECT_EQ(subscriber.takeNotices(), 1) << "the dismissing screen gives it, once the one below is back";
     EXPECT_EQ(top->screen().display(), display.get()) << "so it keeps the display";
 }
 
@@ -108,8 +108,18 @@ TEST_F(DisplayStackTest, APopupInTheMiddleLeavesWithoutFurtherEffect)
     EXPECT_EQ(takeLog(), Lines{});
     EXPECT_EQ(stackText(), "bottom top");
     EXPECT_TRUE(middle->screen().isOwner);
+    EXPECT_EQ(subscriber.takeNotices(), 1);
     middle->screen().dismiss(); // it stands on no stack now
     EXPECT_EQ(stackText(), "bottom top");
+    EXPECT_EQ(subscriber.takeNotices(), 0);
+}
+
+TEST_F(DisplayStackTest, AScreenThatTellsOfItsReturnGivesTheOneNoticeOfADismissal)
+{
+    fill();
+    middle->screen().onShow = [&] { middle->screen().generateDisplayChangedEvent(); };
+    top->screen().dismiss();
+    EXPECT_EQ(subscriber.takeNotices(), 1);
 }
 
 TEST_F(DisplayStackTest, WhenTheLastScreenGoesTheGlassIsDark)
@@ -149,7 +159,7 @@ TEST_F(DisplayStackTest, AHiddenDisplayOnlyBuildsTheStackAndShowsItsTopLater)
     top->screen().dismiss();
     EXPECT_EQ(takeLog(), Lines{});
     display->setCurrent(top.get());
-    EXPECT_EQ(subscriber.takeNotices(), 1);
+    EXPECT_EQ(subscriber.takeNotices(), 3) << "of two that leave and one that comes";
 
     display->show();
     EXPECT_EQ(takeLog(), Lines{"show top"});

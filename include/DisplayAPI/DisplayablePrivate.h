@@ -28,6 +28,7 @@ public:
     /// The whole text, whatever the rectangles are.
     std::string serialise(const std::vector<Rect>& rects) override;
 
+    /// Takes a screen off the display, and tells the subscriber once, if it was there. It may be the end of this one.
     void widgetDismissed(DisplayablePrivate* displayable) override;
     void enable(bool) override { }
     void addCommandListener(CommandListener* listener) override { mCommandListeners.addOnce(listener); }
