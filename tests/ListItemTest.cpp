@@ -1,7 +1,9 @@
+#include "EveryScreen.h"
 #include "PhoneTest.h"
 #include "TestTranslator.h"
 #include "ThreadedPhoneTest.h"
 
+#include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
@@ -28,7 +30,30 @@ Icons::IconType icon(int number)
 class ListItemTest : public PhoneTest { };
 class ThreadedListItemTest : public ThreadedPhoneTest { };
 
+const Holder<List, ListItem> inList{
+    [] { return std::make_unique<List>(0); },
+    [](List& list, ListItem& row) { list.append(&row); },
+    [](List& list, ListItem& row) { list.remove(&row); },
+};
+
+std::string tell(ListItem& row)
+{
+    return row.getText() + "|" + row.getRightText() + "|" + std::to_string(row.getLeftIcon());
 }
+
+}
+
+INSTANTIATE_TEST_SUITE_P(ListItem, EveryRowTest,
+    rowFamily(
+        inList, [](Stage& stage) { return std::make_unique<ListItem>(stage.translation("Anna"), true); },
+        {
+            {"setText", [](auto& row, auto&) { row.setText("Bob"); }},
+            {"setRightText", [](auto& row, auto&) { row.setRightText("noon"); }},
+            {"setLeftIcon", [](auto& row, auto&) { row.setLeftIcon(icon(345)); }},
+            {"startInfiniteProgressBar", [](auto& row, auto&) { row.startInfiniteProgressBar(); }},
+            {"clearBackground", [](auto& row, auto&) { row.clearBackground(); }},
+        },
+        tell));
 
 TEST(ListItemOnBothRoadsTest, TheRowIsTheSame)
 {
@@ -103,23 +128,6 @@ TEST_F(ListItemTest, LeftIconsComeInPairs)
     EXPECT_EQ(item.getRightIcon(), 0);
 }
 
-TEST_F(ListItemTest, ARowWhoseWidgetHasGoneIsQuiet)
-{
-    ListItem item("Anna", true);
-    item.getPrivateImplemetation()->releaseOwnership();
-    delete &rowOf(item);
-    item.setText("Bob");
-    item.setRightText("noon");
-    item.setLeftIcon(icon(345));
-    item.startInfiniteProgressBar();
-    item.clearBackground();
-    item.getPrivateImplemetation()->localeChanged("de");
-    item.getPrivateImplemetation()->gainOwnership();
-    EXPECT_EQ(item.getText(), "");
-    EXPECT_EQ(item.getRightText(), "");
-    EXPECT_EQ(item.getLeftIcon(), 345);
-}
-
 TEST_F(ThreadedListItemTest, AnIconSetFromAnotherThreadIsReadAtOnceAndZeroIsSkipped)
 {
     ListItem item("Anna", true);
@@ -133,20 +141,4 @@ TEST_F(ThreadedListItemTest, AnIconSetFromAnotherThreadIsReadAtOnceAndZeroIsSkip
     progress.startInfiniteProgressBar();
     progress.clearBackground();
     onGui([&] { EXPECT_TRUE(dynamic_cast<InfiniteBarItemMEG&>(rowOf(progress)).isRunning()); });
-}
-
-TEST_F(ThreadedListItemTest, ARowOutlivesTheLoop)
-{
-    TestTranslator translator;
-    auto made = std::make_unique<ListItem>("Anna", true);
-    EXPECT_EQ(made->getText(), "Anna");
-    endLoop();
-    auto late = std::make_unique<ListItem>(new TranslationInfo("", "Bob", "", &translator), true);
-    made->setText("Carol");
-    EXPECT_EQ(made->getText(), "");
-    EXPECT_EQ(late->getText(), "");
-    EXPECT_EQ(late->getLeftIcon(), 0);
-    // Refused: neither waits, and what the GUI thread owns stays.
-    made.reset();
-    late.reset();
 }

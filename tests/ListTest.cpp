@@ -1,3 +1,4 @@
+#include "EveryScreen.h"
 #include "ListFixture.h"
 #include "ThreadedPhoneTest.h"
 
@@ -18,7 +19,61 @@ std::vector<LogControl::Message> messages;
 
 class ListTest : public ListFixture { };
 
+std::unique_ptr<List> makeList(Stage& stage)
+{
+    auto list = std::make_unique<List>(1);
+    list->addCommandListener(&stage.listener);
+    for (const char* text : {"A", "B", "C"})
+        list->append(stage.newRow(text));
+    return list;
 }
+
+/// A row by its index; null behind the end.
+ListItem* at(List& list, std::size_t index)
+{
+    const std::vector<ListItem*> items = list.getItems();
+    return index < items.size() ? items[index] : nullptr;
+}
+
+/// The rows and the current one.
+std::string tell(List& list)
+{
+    return rows(list) + " " + std::to_string(list.size());
+}
+
+/// Runs a change that gives the first row back, which the application then deletes.
+Change<List> givingBack(const char* name, void (*change)(List& list, ListItem* first, Stage& stage))
+{
+    return {name, [change](List& list, Stage& stage) {
+                ListItem* first = at(list, 0);
+                change(list, first, stage);
+                stage.takeBack(first);
+            }};
+}
+
+}
+
+INSTANTIATE_TEST_SUITE_P(List, EveryScreenTest,
+    screenFamily<List>(makeList,
+        {
+            {"append", [](auto& list, auto& stage) { list.append(stage.newRow("X")); }},
+            {"append a text", [](auto& list, auto& stage) { list.append(stage.translation("Y")); }},
+            {"insertAt", [](auto& list, auto& stage) { list.insertAt(stage.newRow("Z"), 0); }},
+            {"setSelected", [](auto& list, auto&) { list.setSelected(at(list, 1)); }},
+            {"setSelectedIndex", [](auto& list, auto&) { list.setSelectedIndex(0); }, false},
+            {"setTitle", [](auto& list, auto& stage) { list.setTitle(stage.translation("Title")); }},
+            {"Down", [](auto&, auto& stage) { stage.press(UGlobal::KeyDown); }},
+            {"OK", [](auto&, auto& stage) { stage.press(UGlobal::KeyOk); }},
+            {"move within", [](auto& list, auto&) { list.move(nullptr, at(list, 1), 0); }},
+            givingBack("move", [](auto& list, auto* row, auto& stage) { list.move(row, stage.newRow("M"), 0); }),
+            givingBack("replace", [](auto& list, auto* row, auto& stage) { list.replace(row, stage.newRow("R")); }),
+            {"replace null", [](auto& list, auto& stage) { list.replace(nullptr, stage.newRow("N")); }},
+            givingBack("remove", [](auto& list, auto* row, auto&) { list.remove(row); }),
+            {"removeAt", [](auto& list, auto& stage) { stage.takeBack(list.removeAt(0)); }},
+            {"delete a row", [](auto& list, auto& stage) { stage.takeBack(at(list, 0)); }},
+            {"clear", [](auto& list, auto&) { list.clear(); }},
+        },
+        tell));
 
 // Rows
 
@@ -272,38 +327,6 @@ TEST_F(ListTest, AFailedRemoveAtIsLogged)
     EXPECT_EQ(both(list), "[A]");
 }
 
-TEST_F(ListTest, ASubscriberMayDeleteTheListInAnyNotice)
-{
-    using Change = std::function<void(List&)>;
-    const std::pair<const char*, Change> table[] = {
-        {"append", [](List& list) { list.append(new CountedItem("X")); }},
-        {"insertAt", [](List& list) { list.insertAt(new CountedItem("X"), 0); }},
-        {"removeAt", [](List& list) { EXPECT_EQ(list.removeAt(0), nullptr); }},
-        {"replace", [](List& list) { list.replace(list.getItems()[0], new CountedItem("X")); }},
-        {"replace null", [](List& list) { list.replace(nullptr, new CountedItem("X")); }},
-        {"move", [](List& list) { list.move(list.getItems()[0], new CountedItem("X"), 0); }},
-        {"move within", [](List& list) { list.move(list.getItems()[0], list.getItems()[1], 0); }},
-        {"remove", [](List& list) { list.remove(list.getItems()[0]); }},
-        {"removeAll", [](List& list) { list.removeAll(); }},
-        {"clear", [](List& list) { list.clear(); }},
-        {"delete a row", [](List& list) { delete list.getItems()[0]; }},
-        {"setTitle", [](List& list) { list.setTitle("T"); }},
-        {"setSelected", [](List& list) { list.setSelected(list.getItems()[1]); }},
-        {"Ok", [this](List&) { press(UGlobal::KeyOk); }},
-        {"Down", [this](List&) { press(UGlobal::KeyDown); }},
-    };
-    for (const auto& [name, change] : table) {
-        SCOPED_TRACE(name);
-        auto list = std::make_unique<List>(0);
-        fill(*list, "ABC");
-        show(*list);
-        changes.onNextNotice = [&] { list.reset(); };
-        change(*list);
-        EXPECT_EQ(list, nullptr);
-        EXPECT_EQ(CountedItem::living, 0);
-    }
-}
-
 TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
 {
     List list(0);
@@ -332,17 +355,6 @@ TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
         EXPECT_EQ(both(list), "[next]");
         list.clear();
     }
-}
-
-TEST_F(ListTest, AListOutlivesTheDisplay)
-{
-    List list(0);
-    fill(list, "AB");
-    show(list);
-    endDisplay();
-    EXPECT_TRUE(half(list).hasOwnership());
-    list.append(new CountedItem("C"));
-    EXPECT_EQ(both(list), "[A]BC");
 }
 
 TEST_F(ListTest, OddTextsComeThrough)

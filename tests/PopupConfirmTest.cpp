@@ -1,7 +1,7 @@
+#include "EveryScreen.h"
 #include "PhoneTest.h"
 #include "RecordingListener.h"
 #include "TestTranslator.h"
-#include "ThreadedPhoneTest.h"
 
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/DisplayablePrivateIfc.h>
@@ -12,9 +12,8 @@
 #include "PopupConfirmPrivate.h"
 
 #include <UApplication.h>
-#include <UWidget.h>
 
-#include <functional>
+#include <memory>
 
 using namespace DisplayAPI;
 
@@ -38,7 +37,41 @@ protected:
     MenuCommand no{"No?", 2};
 };
 
+std::unique_ptr<PopupConfirm> makePopup(Stage& stage)
+{
+    auto popup = std::make_unique<PopupConfirm>(true);
+    popup->addCommandListener(&stage.listener);
+    popup->addCommand(&stage.yes);
+    popup->addCommand(&stage.no);
+    popup->setTimeout(3000);
+    return popup;
 }
+
+std::string tell(PopupConfirm& popup)
+{
+    return std::to_string(popup.getSelectedIndex()) + (popup.selectionHasChanged() ? " changed" : " unchanged");
+}
+
+}
+
+INSTANTIATE_TEST_SUITE_P(PopupConfirm, EveryScreenTest,
+    screenFamily<PopupConfirm>(makePopup,
+        {
+            {"setLine1PrefixText", [](auto& popup, auto&) { popup.setLine1PrefixText("Delete"); }},
+            {"its translation", [](auto& popup, auto& stage) { popup.setLine1PrefixText(stage.translation("Erase")); }},
+            {"setText", [](auto& popup, auto&) { popup.setText("entry?"); }},
+            {"a translation", [](auto& popup, auto& stage) { popup.setText(stage.translation("row?")); }},
+            {"setLine2PrefixText", [](auto& popup, auto& stage) { popup.setLine2PrefixText(stage.translation("of")); }},
+            {"setLine2Text", [](auto& popup, auto& stage) { popup.setLine2Text(stage.translation("Anna")); }},
+            {"setState", [](auto& popup, auto&) { popup.setState(PopupConfirm::Recall); }},
+            {"addCommand", [](auto& popup, auto& stage) { popup.addCommand(&stage.maybe); }},
+            {"Down", [](auto&, auto& stage) { stage.press(UGlobal::KeyDown); }},
+            {"OK", [](auto&, auto& stage) { stage.press(UGlobal::KeyOk); }},
+            {"setDefaultCommand", [](auto& popup, auto& stage) { popup.setDefaultCommand(&stage.last); }},
+            {"removeCommand", [](auto& popup, auto& stage) { popup.removeCommand(&stage.yes); }},
+            {"clearCommands", [](auto& popup, auto&) { popup.clearCommands(); }},
+        },
+        tell));
 
 TEST_F(PopupConfirmTest, ThePopupIsWrittenWithIconQuestionAndCurrentChoice)
 {
@@ -244,81 +277,6 @@ TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTellsTheListeners)
     EXPECT_EQ(display->getCurrent(), &below) << "a popup that is down already changes nothing";
 }
 
-TEST_F(PopupConfirmTest, NoOrderOfDestructionIsFatal)
-{
-    {
-        PopupConfirm shown(true);
-        shown.addCommand(&yes);
-        show(shown);
-    }
-    EXPECT_EQ(display->getCurrent(), nullptr) << "the display forgets a popup that dies on the stack";
-    EXPECT_EQ(screenText(), "");
-    press(UGlobal::KeyOk);
-
-    PopupConfirm outlives(true);
-    outlives.addCommand(&yes);
-    show(outlives);
-    endDisplay();
-    outlives.setText("still usable");
-    outlives.addCommand(&no);
-    EXPECT_EQ(outlives.getSelectedIndex(), 0);
-}
-
-TEST_F(PopupConfirmTest, ASubscriberMayDeleteThePopupInAnyNotice)
-{
-    std::unique_ptr<PopupConfirm> popup;
-    using Change = std::function<void(PopupConfirm&)>;
-    const std::pair<const char*, Change> table[] = {
-        {"setLine1PrefixText", [](PopupConfirm& dying) { dying.setLine1PrefixText("Delete"); }},
-        {"setText", [](PopupConfirm& dying) { dying.setText(new TranslationInfo("entry?", nullptr)); }},
-        {"setLine2Text", [](PopupConfirm& dying) { dying.setLine2Text("Anna"); }},
-        {"setState", [](PopupConfirm& dying) { dying.setState(PopupConfirm::Recall); }},
-        {"addCommand", [this](PopupConfirm& dying) { dying.addCommand(&no); }},
-        {"setDefaultCommand", [this](PopupConfirm& dying) { dying.setDefaultCommand(&no); }},
-        {"removeCommand", [this](PopupConfirm& dying) { dying.removeCommand(&yes); }},
-        {"clearCommands", [](PopupConfirm& dying) { dying.clearCommands(); }},
-        {"dismiss", [](PopupConfirm& dying) { dying.dismiss(); }},
-        {"time-out", [this](PopupConfirm&) { advance(3000); }},
-        {"Ok", [this](PopupConfirm&) { press(UGlobal::KeyOk); }},
-    };
-    for (const auto& [name, change] : table) {
-        SCOPED_TRACE(name);
-        popup = std::make_unique<PopupConfirm>(true);
-        popup->setTimeout(3000);
-        popup->addCommandListener(&listener);
-        popup->addCommand(&yes);
-        show(*popup);
-        changes.onNextNotice = [&] { popup.reset(); };
-        change(*popup);
-        EXPECT_EQ(popup, nullptr);
-        EXPECT_EQ(display->getCurrent(), nullptr);
-    }
-}
-
-TEST_F(PopupConfirmTest, APopupWhoseWidgetHasGoneIsQuiet)
-{
-    PopupConfirm popup(true);
-    popup.addCommand(&yes);
-    PopupConfirmPrivate& whole = half(popup);
-    whole.releaseOwnership();
-    delete whole.getWidget();
-    popup.setText(new TranslationInfo("entry?", nullptr));
-    popup.setLine2Text("Anna");
-    popup.setState(PopupConfirm::Question);
-    popup.setDefaultCommand(&no);
-    popup.removeCommand(&yes);
-    popup.clearCommands();
-    popup.setTimeout(1000);
-    popup.show();
-    popup.dismiss();
-    display->localeChanged("fr");
-    show(popup);
-    EXPECT_EQ(display->getCurrent(), nullptr);
-    EXPECT_EQ(popup.getSelectedIndex(), -1);
-    EXPECT_EQ(whole.serialise(), "");
-    EXPECT_EQ(whole.serialise(std::vector<URect>{URect(0, 0, 161, 30)}), "");
-}
-
 TEST_F(PopupConfirmTest, OddTextsAreTakenAsTheyAre)
 {
     PopupConfirm popup(true);
@@ -333,32 +291,4 @@ TEST_F(PopupConfirmTest, OddTextsAreTakenAsTheyAre)
         "A ");
     popup.setText(std::string("a\0b", 3));
     EXPECT_EQ(screenField("caption"), std::string("a\0b ", 4));
-}
-
-TEST(PopupConfirmRoads, BothRoadsGiveTheSame)
-{
-    const std::string text = onBothRoads([](Display& display) {
-        MenuCommand yes("Yes?", 1);
-        MenuCommand no("No?", 2);
-        PopupConfirm popup(true);
-        popup.setState(PopupConfirm::Recall);
-        popup.setLine1PrefixText("Call");
-        popup.setText("Anna");
-        popup.setLine2PrefixText("again");
-        popup.setLine2Text("now?");
-        popup.addCommand(&yes);
-        popup.setDefaultCommand(&no);
-        popup.setTimeout(5000);
-        display.setCurrent(&popup);
-        std::string seen = display.serialiseByRect({wholeGlass()}, "");
-        seen
-            += std::to_string(popup.getSelectedIndex()) + (popup.selectionHasChanged() ? " changed\n" : " unchanged\n");
-        popup.removeCommand(&yes);
-        popup.clearCommands();
-        popup.dismiss();
-        return seen + display.serialiseByRect({wholeGlass()}, "");
-    });
-    EXPECT_EQ(text,
-        lines({"object:", "name:PopupDialog", "icon:Recall", "caption:Call: Anna now? again: ", "subitem:",
-            "name:VantoListBoxItem", "string0:No?", "endsubitem:", "end:", "1 unchanged"}));
 }

@@ -1,0 +1,178 @@
+#include "EveryScreen.h"
+
+#include "ThreadedPhoneTest.h"
+
+#include <UApplication.h>
+#include <ULoop.h>
+#include <UScreenWE1.h>
+#include <UWindowManager.h>
+
+#include <ostream>
+#include <thread>
+#include <utility>
+
+using namespace DisplayAPI;
+
+/// A row whose death the stage sees.
+class Stage::Row : public ListItem {
+public:
+    Row(Stage& stage, const std::string& text)
+        : ListItem(text, true)
+        , mStage(stage)
+    {
+        mStage.mLiving.insert(this);
+    }
+    ~Row() override
+    {
+        mStage.mLiving.erase(this);
+        mStage.mDead.insert(this);
+    }
+
+private:
+    Stage& mStage;
+};
+
+Stage::~Stage()
+{
+    while (!mLiving.empty())
+        delete *mLiving.begin();
+}
+
+void Stage::press(int key)
+{
+    if (!hasLoop)
+        return;
+    UApplication::instance()->postKey(key, UGlobal::KeyPressed);
+    UApplication::instance()->postKey(key, UGlobal::KeyReleased);
+    callOnGui([] { ULoop::instance().processEvents(); });
+}
+
+void Stage::advance(std::uint64_t milliseconds)
+{
+    if (hasLoop)
+        callOnGui([milliseconds] { ULoop::instance().advance(milliseconds); });
+}
+
+ListItem* Stage::newRow(const std::string& text)
+{
+    // An application's own class is made on the GUI thread only.
+    const bool isOnGui = Widget::isGuiThread();
+    ListItem* row = isOnGui ? new Row(*this, text) : new ListItem(text, true);
+    mDead.erase(row);
+    if (!hasLoop && !isOnGui)
+        mRefused.emplace_back(row);
+    return row;
+}
+
+void Stage::takeBack(ListItem* row)
+{
+    const bool isRefused = !hasLoop && !Widget::isGuiThread();
+    if (row && !isRefused && lives(row))
+        delete row;
+}
+
+PromiseTest::~PromiseTest()
+{
+    if (display)
+        display->setCurrent(nullptr);
+}
+
+void PromiseTest::comeTo(Moment moment)
+{
+    if (moment != WhileTheLoopRuns)
+        endLoop();
+    if (moment >= BehindTheDisplay)
+        endDisplay();
+    if (moment == UnderTheNextDisplay)
+        makeDisplay();
+    stage.hasLoop = moment == WhileTheLoopRuns || moment == UnderTheNextDisplay;
+}
+
+void PromiseTest::run(bool isElsewhere, const std::function<void()>& function)
+{
+    if (!isElsewhere)
+        function();
+    else if (stage.hasLoop)
+        elsewhere(function);
+    else
+        std::thread(function).join();
+}
+
+void PromiseTest::actInNotice(int number, std::function<void()> action)
+{
+    changes.onNotice = [left = number, action = std::move(action)]() mutable {
+        if (--left == 0)
+            action();
+    };
+}
+
+/// What is on the glass, as text and painted.
+static std::string glass(Display& display)
+{
+    std::string all = display.serialiseByRect({wholeGlass()}, "");
+    callOnGui([&all] {
+        ULoop::instance().processEvents();
+        for (const int line : {0, 1})
+            all += lineText(*UWindowManager::instance().screen(), line) + "\n";
+    });
+    return all;
+}
+
+EveryScreenTest::Screen EveryScreenTest::makeShown()
+{
+    display->setCurrent(&below);
+    Screen screen = make();
+    display->setCurrent(screen.get());
+    return screen;
+}
+
+void EveryScreenTest::changeAll(Displayable& screen)
+{
+    for (const auto& change : GetParam().changes)
+        change.make(screen, stage);
+}
+
+std::vector<Change<Displayable>> EveryScreenTest::everyChange()
+{
+    auto all = GetParam().changes;
+    all.push_back({"setCurrent", [this](Displayable& screen, Stage&) { display->setCurrent(&screen); }});
+    return all;
+}
+
+std::string EveryScreenTest::story(Displayable& screen)
+{
+    return GetParam().tell(screen) + "\n" + glass(*display);
+}
+
+Widget& EveryRowTest::put(Displayable& holder, Row row)
+{
+    GetParam().put(holder, *row);
+    return *row.release();
+}
+
+EveryRowTest::Row EveryRowTest::take(Displayable& holder, Widget& row)
+{
+    GetParam().take(holder, row);
+    return Row(&row);
+}
+
+void EveryRowTest::changeAll(Widget& row)
+{
+    for (const auto& change : GetParam().changes)
+        change.make(row, stage);
+}
+
+std::string EveryRowTest::story(Widget& row)
+{
+    return GetParam().tell(row) + "\n" + glass(*display);
+}
+
+void PrintTo(const ScreenFamily& family, std::ostream* out)
+{
+    *out << family.changes.size() << " changes";
+}
+
+void PrintTo(const RowFamily& family, std::ostream* out)
+{
+    *out << family.changes.size() << " changes";
+}
