@@ -2,7 +2,9 @@
 
 #include "Export.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 /// A rectangle of widgets: signed 16-bit corners, all of them inside. Right below left, or bottom above
@@ -27,7 +29,18 @@ public:
     bool isEmpty() const { return mRight < mLeft || mBottom < mTop; }
 
     /// True when the other rectangle lies wholly inside this one. An empty one lies in none.
-    bool contains(const URect& other) const;
+    bool contain(const URect& other) const;
+    bool contains(const URect& other) const { return contain(other); }
+
+    /// True when the two share at least one pixel.
+    bool Overlap(const URect& other) const;
+
+    /// What the two share; empty when they don't overlap.
+    URect getIntersection(const URect& other) const;
+
+    /// What stays of this rectangle when the others are taken off it: at most four pieces for each, in the
+    /// order above, below, left, right.
+    std::vector<URect> subtract(const std::vector<URect>& others) const;
 
     bool operator==(const URect&) const = default;
 
@@ -40,8 +53,8 @@ private:
 
 namespace DisplayAPI {
 
-/// A rectangle of the library: corner and size. right() and bottom() are the last column and row inside;
-/// a width or height of 0 or less makes it empty.
+/// A rectangle of the library: corner and size. right() and bottom() are the last column and row inside, the
+/// greatest int where they lie beyond it; a width or height of 0 or less makes it empty.
 class TOOLKIT_EXPORT Rect {
 public:
     Rect() = default;
@@ -55,14 +68,15 @@ public:
 
     int left() const { return mLeft; }
     int top() const { return mTop; }
-    int right() const { return mLeft + mWidth - 1; }
-    int bottom() const { return mTop + mHeight - 1; }
+    int right() const { return last(mLeft, mWidth); }
+    int bottom() const { return last(mTop, mHeight); }
     int width() const { return mWidth; }
     int height() const { return mHeight; }
     bool isEmpty() const { return mWidth <= 0 || mHeight <= 0; }
 
     /// True when the other rectangle lies wholly inside this one. An empty one lies in none.
     bool contain(const Rect& other) const;
+    bool contains(const Rect& other) const { return contain(other); }
 
     /// True when the two share at least one pixel.
     bool Overlap(const Rect& other) const;
@@ -77,6 +91,14 @@ public:
     bool operator==(const Rect&) const = default;
 
 private:
+    /// The last pixel of a range. What no int can name is cut off, so that no sum overflows.
+    static int last(int first, int size)
+    {
+        const auto place = static_cast<long long>(first) + size - 1;
+        return static_cast<int>(
+            std::clamp<long long>(place, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    }
+
     int mLeft = 0;
     int mTop = 0;
     int mWidth = 0;
