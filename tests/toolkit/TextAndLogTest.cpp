@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -76,20 +77,24 @@ TEST_F(LogTest, AMessageCarriesItsPlaceAndItsWholeText)
     EXPECT_EQ(gMessages[0].text, "row 7 is " + name);
 }
 
-TEST(TypesTest, ADyingHandlerLeavesItsDisplayUnlessAnotherTookItsPlace)
+TEST(TypesTest, DisplayAndHandlerForgetEachOtherWhicheverDiesFirst)
 {
     Handler successor;
-    GUIEventIfc* display = nullptr;
+    auto display = std::make_unique<GUIEventLink>();
     {
         Handler handler;
-        handler.attachTo(&display);
-        display = &handler;
+        display->attach(&handler);
     }
-    EXPECT_EQ(display, nullptr);
+    EXPECT_EQ(display->handler(), nullptr);
     {
         Handler handler;
-        handler.attachTo(&display);
-        display = &successor;
+        display->attach(&handler);
+        display->attach(&successor);
     }
-    EXPECT_EQ(display, &successor);
+    EXPECT_EQ(display->handler(), &successor) << "the first had been detached";
+    GUIEventLink other;
+    other.attach(&successor);
+    EXPECT_EQ(display->handler(), nullptr) << "a handler serves one display";
+    display.reset();
+    EXPECT_EQ(other.handler(), &successor);
 }

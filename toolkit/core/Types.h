@@ -51,6 +51,28 @@ enum hardwareSubVariant : int {};
 
 }
 
+class GUIEventIfc;
+
+/// The end of a display that has a handler for its keys. Display and handler know of each other as long as both
+/// live: whoever dies first tells the other. Threads: GUI thread.
+class TOOLKIT_EXPORT GUIEventLink {
+public:
+    GUIEventLink() = default;
+    GUIEventLink(const GUIEventLink&) = delete;
+    GUIEventLink& operator=(const GUIEventLink&) = delete;
+    ~GUIEventLink() { attach(nullptr); }
+
+    /// Makes this the handler, in place of an earlier one; it leaves the display that it served before. Null
+    /// leaves the display without a handler.
+    void attach(GUIEventIfc* handler);
+
+    /// The handler, or null.
+    GUIEventIfc* handler() const { return mHandler; }
+
+private:
+    GUIEventIfc* mHandler = nullptr;
+};
+
 /// The receiver of a display's keys that works on lines and not on widgets.
 ///
 /// A key operation answers true when the key was used. Threads: GUI thread. Nobody deletes through this
@@ -65,9 +87,6 @@ public:
     virtual bool onChange(const UEvent* event, std::string text);
     virtual bool setEventHandler(GUIEventIfc* handler) = 0;
 
-    /// Where the display that uses this handler keeps its pointer; cleared when the handler dies.
-    void attachTo(GUIEventIfc** display) { mDisplay = display; }
-
 protected:
     GUIEventIfc() = default;
     GUIEventIfc(const GUIEventIfc&) = delete;
@@ -75,7 +94,9 @@ protected:
     ~GUIEventIfc();
 
 private:
-    GUIEventIfc** mDisplay = nullptr;
+    friend class GUIEventLink;
+
+    GUIEventLink* mDisplay = nullptr;
 };
 
 /// Small helpers that every layer uses.
