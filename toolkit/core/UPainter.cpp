@@ -1,5 +1,6 @@
 #include "UPainter.h"
 
+#include "TextCells.h"
 #include "UFont.h"
 #include "UScreenWE1.h"
 
@@ -29,11 +30,6 @@ bool isLine(int line)
 const LineRows& rowsOf(int line)
 {
     return lineRows[std::clamp(line, 0, Lines - 1)];
-}
-
-int cells(const UString& text)
-{
-    return static_cast<int>(std::min<std::size_t>(text.length(), UPainter::Columns));
 }
 
 /// Where a row's text splits: its head ends before `headEnd`, its tail starts at `tailStart`.
@@ -115,21 +111,39 @@ void UPainter::cell(int line, int column, const std::uint8_t* rows)
 
 int UPainter::text(int line, int column, const UString& text, int columns)
 {
-    const int count = std::clamp(cells(text), 0, std::max(columns, 0));
-    for (int index = 0; index < count; ++index) {
-        const std::uint16_t unit = text[static_cast<std::size_t>(index)];
-        const UFont::Glyph* glyph = unit == UpDownArrow ? Icons::upDownArrowGlyph()
-            : mFont                                     ? mFont->glyph(unit)
-                                                        : nullptr;
-        if (glyph)
-            cell(line, column + index, glyph->data());
+    int count = 0;
+    for (std::size_t place = 0; place < text.length() && count < std::min(columns, Columns); ++count) {
+        const std::size_t following = TextCells::forward(text, place);
+        character(line, column + count, text.mid(place, following - place));
+        place = following;
     }
     return count;
 }
 
+void UPainter::character(int line, int column, const UString& character)
+{
+    if (!isLine(line) || column < 0 || column >= Columns)
+        return;
+    UFont::Glyph rows = {};
+    bool isDrawn = false;
+    for (std::size_t index = 0; index < character.length(); ++index) {
+        const std::uint16_t unit = character[index];
+        const UFont::Glyph* glyph = unit == UpDownArrow ? Icons::upDownArrowGlyph()
+            : mFont                                     ? mFont->glyph(unit)
+                                                        : nullptr;
+        if (!glyph)
+            continue;
+        isDrawn = true;
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            rows[row] |= (*glyph)[row];
+    }
+    if (isDrawn)
+        cell(line, column, rows.data());
+}
+
 void UPainter::textRight(int line, int lastColumn, const UString& text, int columns)
 {
-    const int count = std::clamp(cells(text), 0, std::max(columns, 0));
+    const int count = TextCells::count(text, std::min(columns, Columns));
     this->text(line, lastColumn - count + 1, text, count);
 }
 
@@ -141,7 +155,7 @@ void UPainter::rowText(int line, int column, const UString& text, int columns)
         return;
     }
     const UString tail = withoutBlanksAtEnd(text.mid(split->tailStart));
-    const int tailColumns = std::min(cells(tail), columns);
+    const int tailColumns = TextCells::count(tail, columns);
     // The tail keeps its place, since it says what the row stands at; the head gives way.
     this->text(line, column, text.mid(0, split->headEnd), columns - tailColumns - 1);
     textRight(line, column + columns - 1, tail, tailColumns);

@@ -23,7 +23,8 @@ public:
     void clearLine(int line);
     void clearLines(int first, int last);
 
-    /// Draws text from a column on, at most `columns` cells; more is cut. Returns the cells that it took.
+    /// Draws text from a column on, at most `columns` cells; more is cut. A character takes one cell (see
+    /// TextCells), also one that the font lacks. Returns the cells that it took.
     int text(int line, int column, const UString& text, int columns = Columns);
 
     /// Draws text so that its last cell is `lastColumn`; a longer one loses its end.
@@ -54,6 +55,7 @@ public:
 
 private:
     void cell(int line, int column, const std::uint8_t* rows);
+    void character(int line, int column, const UString& character);
 
     UScreenWE1& mScreen;
     const UFont* mFont;

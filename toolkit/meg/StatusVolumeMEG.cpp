@@ -2,6 +2,7 @@
 
 #include "Icons.h"
 #include "TextBlock.h"
+#include "TextCells.h"
 #include "UApplication.h"
 #include "UPainter.h"
 #include "UWindowManager.h"
@@ -56,7 +57,7 @@ StatusMessageMEG::StatusMessageMEG(const std::string& text, unsigned int start, 
     , mTimer(this)
 {
     setCoordinates(0, 0, 161, 14);
-    if (mShownText.length() <= UPainter::Columns || duration == 0)
+    if (TextCells::forward(mShownText, 0, UPainter::Columns) == mShownText.length() || duration == 0)
         return;
     // A start past the duration comes from an unsigned subtraction, which this one undoes.
     const unsigned int rest = duration - start;
@@ -96,8 +97,8 @@ UString StatusMessageMEG::serialise() const
 
 void StatusMessageMEG::timerEvent(UTimerEvent*)
 {
-    mFirstUnit += UPainter::Columns;
-    if (mFirstUnit >= mShownText.length())
+    mFirstUnit = TextCells::forward(mShownText, mFirstUnit, UPainter::Columns);
+    if (mFirstUnit == mShownText.length())
         mFirstUnit = 0;
     mTimer.setInterval(std::max(mDuration, ShortestPart));
     mTimer.start();
@@ -107,7 +108,7 @@ void StatusMessageMEG::timerEvent(UTimerEvent*)
 void StatusMessageMEG::paint(UPainter& painter)
 {
     painter.clearLine(0);
-    painter.text(0, 0, mShownText.mid(mFirstUnit, UPainter::Columns));
+    painter.text(0, 0, mShownText.mid(mFirstUnit));
 }
 
 UWidget* StatusMessageMEG::focusTarget()

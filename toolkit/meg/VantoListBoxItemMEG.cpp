@@ -1,5 +1,6 @@
 #include "VantoListBoxItemMEG.h"
 
+#include "TextCells.h"
 #include "UPainter.h"
 #include "VantoListBoxMEG.h"
 
@@ -86,8 +87,7 @@ void VantoListBoxItemMEG::paintTexts(UPainter& painter, int line, int column, in
         painter.rowText(line, column, text, columns);
         return;
     }
-    const int taken
-        = static_cast<int>(std::min(rightText.length(), static_cast<std::size_t>(std::max(rightColumns, 0))));
+    const int taken = TextCells::count(rightText, rightColumns);
     painter.textRight(line, column + columns - 1, rightText, taken);
     painter.text(line, column, text, columns - taken - 1);
 }
