@@ -1,6 +1,11 @@
 #include "PopupBaseMEG.h"
 
+#include "TextCells.h"
 #include "UEvent.h"
+#include "UPainter.h"
+
+#include <algorithm>
+#include <string>
 
 PopupBaseMEG::PopupBaseMEG()
     : RaisedWidget(WhileDown::KeepsFlag)
@@ -145,4 +150,49 @@ std::array<unsigned short, 2> PopupBaseMEG::iconsOfLine(int line) const
     if (line == mStateIconLine && !mStateIcons.empty() && mStateIcons[mStateIconIndex] != 0)
         icons[0] = mStateIcons[mStateIconIndex];
     return icons;
+}
+
+// Lines
+
+UString PopupBaseMEG::withColon(const UString& prefix)
+{
+    return prefix.isEmpty() ? UString() : prefix + UString(std::string(": "));
+}
+
+UString PopupBaseMEG::Line::shownText() const
+{
+    return withColon(prePrefix) + withColon(prefix) + text;
+}
+
+int PopupBaseMEG::iconColumns(int iconLine) const
+{
+    const auto icons = iconsOfLine(iconLine);
+    return static_cast<int>(2 * std::count_if(icons.begin(), icons.end(), [](unsigned short icon) { return icon; }));
+}
+
+int PopupBaseMEG::paintLine(
+    UPainter& painter, int glassLine, int iconLine, const Line& content, int columns, int indent) const
+{
+    int column = 0;
+    for (unsigned short icon : iconsOfLine(iconLine))
+        column += painter.icon(glassLine, column, icon);
+    if (column == 0)
+        column = indent;
+
+    const UString text = content.shownText();
+    const int room = columns - column;
+    const int numberColumns = TextCells::count(content.number, UPainter::Columns);
+    if (numberColumns == 0 || TextCells::count(text, room + 1) <= room)
+        return column + painter.text(glassLine, column, text, room);
+    // The name gives way, since a number without its end is no number.
+    painter.text(glassLine, column, text, std::max(0, room - numberColumns - 1));
+    painter.textRight(glassLine, columns - 1, content.number, room);
+    return columns;
+}
+
+void PopupBaseMEG::paintLines(UPainter& painter, const Line& first, const Line& second, int secondIcons) const
+{
+    painter.clearLines(0, 1);
+    paintLine(painter, 0, 0, first, UPainter::Columns);
+    paintLine(painter, 1, secondIcons, second, UPainter::Columns, iconColumns(0));
 }

@@ -2,6 +2,7 @@
 
 #include "RaisedWidget.h"
 #include "ULoop.h"
+#include "UString.h"
 
 #include <array>
 #include <cstddef>
@@ -66,8 +67,39 @@ protected:
     /// Starts or stops time-out and animation. Told before the popup's event.
     void upChanged() override;
 
+    // Lines
+
+    /// What a line says: its prefixes, each with ": " behind it where it is not empty, and its text.
+    struct Line {
+        UString prePrefix;
+        UString prefix;
+        UString text;
+        UString number; // the end of the text, which is never cut
+
+        bool isEmpty() const { return prePrefix.isEmpty() && prefix.isEmpty() && text.isEmpty(); }
+
+        /// The line as it is painted.
+        UString shownText() const;
+    };
+
+    /// A prefix with its colon and blank; empty without a prefix.
+    static UString withColon(const UString& prefix);
+
     /// The icons at the head of line 0 or 1, as they are painted now; other lines have none.
     std::array<unsigned short, 2> iconsOfLine(int line) const;
+
+    /// The columns that the icons of a line take.
+    int iconColumns(int iconLine) const;
+
+    /// Draws the icons of line `iconLine` on a line of the glass, and a content behind them, in `columns` cells.
+    /// Where there are no icons the content is indented. Where a line is too long, its number stays and what is
+    /// in front of it is cut. Returns the columns up to the end of the content.
+    int paintLine(
+        UPainter& painter, int glassLine, int iconLine, const Line& content, int columns, int indent = 0) const;
+
+    /// Blanks the glass and draws two lines, the second with icons of line `secondIcons`; its text stands under
+    /// that of the first.
+    void paintLines(UPainter& painter, const Line& first, const Line& second, int secondIcons = 1) const;
 
     unsigned short line2Icon1() const { return mLineIcons[1][0]; }
     unsigned short line2Icon2() const { return mLineIcons[1][1]; }

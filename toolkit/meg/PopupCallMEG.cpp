@@ -146,11 +146,7 @@ PopupNotificationMEG::Line PopupDialogMEG::headLine() const
     Line head = line1();
     if (isLine2Shown() || line2().isEmpty())
         return head;
-    const UString prefix = line2().prefix;
-    head.text += UString(std::string(" "));
-    if (!prefix.isEmpty())
-        head.text += prefix + UString(std::string(": "));
-    head.text += line2().text;
+    head.text += UString(std::string(" ")) + withColon(line2().prefix) + line2().text;
     head.number.clear();
     return head;
 }

@@ -5,17 +5,10 @@
 #include "UPainter.h"
 #include "UWindowManager.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr unsigned short ArrowIcon = 55;
 constexpr unsigned long long TurnTime = 3000; // of the second and the third line
-
-UString withColon(const UString& prefix)
-{
-    return prefix.isEmpty() ? UString() : prefix + UString(std::string(": "));
-}
 
 }
 
@@ -170,42 +163,13 @@ void PopupNotificationMEG::restartTurns()
 
 // Painting
 
-int PopupNotificationMEG::iconColumns(int iconLine) const
-{
-    const auto icons = iconsOfLine(iconLine);
-    return static_cast<int>(2 * std::count_if(icons.begin(), icons.end(), [](unsigned short icon) { return icon; }));
-}
-
-void PopupNotificationMEG::paintLine(
-    UPainter& painter, int glassLine, int iconLine, const Line& content, int columns, int indent)
-{
-    int column = 0;
-    for (unsigned short icon : iconsOfLine(iconLine))
-        column += painter.icon(glassLine, column, icon);
-    if (column == 0)
-        column = indent;
-
-    const UString text = withColon(content.prePrefix) + withColon(content.prefix) + content.text;
-    const int room = columns - column;
-    const int numberLength = static_cast<int>(content.number.length());
-    if (numberLength == 0 || static_cast<int>(text.length()) <= room) {
-        painter.text(glassLine, column, text, room);
-        return;
-    }
-    // The name gives way, since a number without its end is no number.
-    painter.text(glassLine, column, text, std::max(0, room - numberLength - 1));
-    painter.textRight(glassLine, columns - 1, content.number, room);
-}
-
 void PopupNotificationMEG::paint(UPainter& painter)
 {
     const bool isThird = mLine2.isEmpty() || mIsThirdLineShown;
     const Line& second = isThird ? mLine3 : mLine2;
     const int secondIcons = isThird ? 2 : 1;
     if (isTwoLine()) {
-        painter.clearLines(0, 1);
-        paintLine(painter, 0, 0, mLine1, UPainter::Columns);
-        paintLine(painter, 1, secondIcons, second, UPainter::Columns, iconColumns(0));
+        paintLines(painter, mLine1, second, secondIcons);
         return;
     }
     painter.clearLine(1);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "PopupBaseMEG.h"
-#include "UString.h"
 
 /// A notice of one to three lines, which takes no keys unless it holds the focus request.
 ///
@@ -76,22 +75,6 @@ public:
 
 protected:
     void upChanged() override;
-
-    struct Line {
-        UString prePrefix;
-        UString prefix;
-        UString text;
-        UString number; // the end of the text, which is never cut
-
-        bool isEmpty() const { return prePrefix.isEmpty() && prefix.isEmpty() && text.isEmpty(); }
-    };
-
-    /// Draws the icons of line `iconLine` (see iconsOfLine()) on a line of the glass, and a content behind them,
-    /// in `columns` cells. Where there are no icons the content is indented.
-    void paintLine(UPainter& painter, int glassLine, int iconLine, const Line& content, int columns, int indent = 0);
-
-    /// The columns that the icons of a line take.
-    int iconColumns(int iconLine) const;
 
     /// Whether the popup covers the glass whatever its lines.
     virtual bool coversGlass() const { return isTwoLine(); }
