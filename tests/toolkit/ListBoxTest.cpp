@@ -2,6 +2,7 @@
 #include "StatusVolumeMEG.h"
 
 #include <memory>
+#include <random>
 
 namespace {
 
@@ -14,6 +15,17 @@ std::vector<std::string> texts(const VantoListBoxMEG& list)
         result.push_back(list.item(index)->getText().toUTF8());
     return result;
 }
+
+/// A list that counts the changes of its current row.
+class CountingList : public VantoListBoxMEG {
+public:
+    long currentHandle() const { return currentItem() ? currentItem()->getHandle() : 0; }
+
+    int changes = 0;
+
+protected:
+    void currentChanged() override { ++changes; }
+};
 
 class ListBoxTest : public ListFixture { };
 
@@ -66,26 +78,45 @@ TEST_F(ListBoxTest, ARowMovesToTheListThatTakesIt)
     EXPECT_EQ(list.indexOf(rows[0]), -1);
 }
 
-TEST_F(ListBoxTest, IndicesAreRightAfterAnyMixOfChanges)
+TEST_F(ListBoxTest, IndicesAreRightAndEachChangeOfTheCurrentRowIsToldOnce)
 {
+    CountingList box;
     std::vector<VantoListBoxItemMEG*> expected;
-    unsigned random = 1;
-    for (int round = 0; round < 600; ++round) {
-        random = random * 1103515245u + 12345u;
-        const auto place = static_cast<std::ptrdiff_t>((random >> 8) % (expected.size() + 1));
-        if (random >> 16 & 1 || expected.size() < 3) {
-            auto* row = new VantoListBoxItemMEG;
-            list.insertItem(row, static_cast<int>(place));
+    std::mt19937 random(7);
+    const auto pick = [&random](std::size_t limit) { return static_cast<std::ptrdiff_t>(random() % limit); };
+    for (int round = 0; round < 2000; ++round) {
+        const long before = box.currentHandle();
+        box.changes = 0;
+        const std::ptrdiff_t place = pick(expected.size() + 1);
+        const std::ptrdiff_t what = pick(100);
+        const bool isRow = place < static_cast<std::ptrdiff_t>(expected.size());
+        if (what < 45 || expected.size() < 3) {
+            auto* row = new VantoListBoxItemMEG(UString(), round + 1);
+            box.insertItem(row, static_cast<int>(place));
             expected.insert(expected.begin() + place, row);
-        } else if (place < static_cast<std::ptrdiff_t>(expected.size())) {
-            delete expected[static_cast<std::size_t>(place)];
+        } else if (what < 65 && isRow) {
+            auto* row = expected[static_cast<std::size_t>(place)];
+            if (what < 55)
+                box.removeItem(row);
+            delete row;
             expected.erase(expected.begin() + place);
+        } else if (what < 80) {
+            box.setCurrentIndex(static_cast<int>(place) - 1);
+        } else if (what < 99) {
+            UKeyEvent key(what < 90 ? UGlobal::KeyDown : UGlobal::KeyUp, UGlobal::KeyPressed);
+            box.keyEvent(&key);
+        } else {
+            box.clear();
+            expected.clear();
         }
-        const auto probe = static_cast<std::size_t>(random >> 4) % expected.size();
-        ASSERT_EQ(list.indexOf(expected[probe]), static_cast<int>(probe)) << "round " << round;
+        ASSERT_EQ(box.changes, before == box.currentHandle() ? 0 : 1) << "round " << round << ", " << what;
+        if (expected.empty())
+            continue;
+        const auto probe = static_cast<std::size_t>(pick(expected.size()));
+        ASSERT_EQ(box.indexOf(expected[probe]), static_cast<int>(probe)) << "round " << round;
     }
-    for (int index = 0; index < list.count(); ++index)
-        ASSERT_EQ(list.indexOf(expected[static_cast<std::size_t>(index)]), index);
+    for (int index = 0; index < box.count(); ++index)
+        ASSERT_EQ(box.indexOf(expected[static_cast<std::size_t>(index)]), index);
 }
 
 TEST_F(ListBoxTest, ClearDeletesTheRowsFromTheLastToTheFirst)

@@ -89,6 +89,7 @@ void VantoListBoxMEG::insertItem(VantoListBoxItemMEG* row, int index)
         makeCurrent(0);
     rowAdded(row);
     refresh();
+    tellCurrent();
 }
 
 void VantoListBoxMEG::removeItem(VantoListBoxItemMEG* row)
@@ -100,6 +101,7 @@ void VantoListBoxMEG::removeItem(VantoListBoxItemMEG* row)
     mLeaving = row;
     removeWidget(row);
     mLeaving = nullptr;
+    tellCurrent();
 }
 
 void VantoListBoxMEG::clear()
@@ -113,7 +115,11 @@ void VantoListBoxMEG::clear()
         delete row;
         mLeaving = nullptr;
     }
+    // A row that came while another died has made itself current, and has gone with the rest.
+    mCurrent = -1;
+    mTop = 0;
     refresh();
+    tellCurrent();
 }
 
 VantoListBoxItemMEG* VantoListBoxMEG::item(int index) const
@@ -178,6 +184,7 @@ void VantoListBoxMEG::childLeft(UWidget* child)
         for (const int index : {back, front}) {
             if (item(index) == child) {
                 dropRow(index);
+                tellCurrent();
                 return;
             }
         }
@@ -190,8 +197,10 @@ void VantoListBoxMEG::rowAdded(VantoListBoxItemMEG*) { }
 
 void VantoListBoxMEG::setCurrentIndex(int index)
 {
-    if (index >= -1 && index < count())
-        makeCurrent(index);
+    if (index < -1 || index >= count())
+        return;
+    makeCurrent(index);
+    tellCurrent();
 }
 
 void VantoListBoxMEG::makeCurrent(int index)
@@ -201,6 +210,16 @@ void VantoListBoxMEG::makeCurrent(int index)
     if (VantoListBoxItemMEG* row = currentItem())
         row->mHasBackground = true;
     refresh();
+}
+
+void VantoListBoxMEG::tellCurrent()
+{
+    // No other row can have the address of the one told last: its going was told too.
+    const VantoListBoxItemMEG* row = currentItem();
+    if (row == mToldRow)
+        return;
+    mToldRow = row;
+    currentChanged();
 }
 
 // State
@@ -311,9 +330,12 @@ bool VantoListBoxMEG::move(int step)
         row = currentItem();
         if (!row->enterFrom(step) && to == from)
             return true;
+        tellCurrent();
+        row = currentItem();
     }
     refresh();
-    emit(mMoveEvent, row, row);
+    if (row)
+        emit(mMoveEvent, row, row);
     return true;
 }
 

@@ -145,6 +145,11 @@ protected:
     /// Told after a row has joined the list.
     virtual void rowAdded(VantoListBoxItemMEG* row);
 
+    /// Told once after each change of the current row to another one or to none, whoever made it: a key, an
+    /// operation, a row that came or went. It comes last, behind rowAdded(), so it may change the list; only the
+    /// event of the user's move comes later.
+    virtual void currentChanged() { }
+
     /// Told after the user has chosen a row and before the listener hears of it.
     virtual void rowChosen(VantoListBoxItemMEG* row);
 
@@ -158,6 +163,7 @@ private:
     bool goRight();
     void makeCurrent(int index);
     void dropRow(int index);
+    void tellCurrent();
     int rowsInView() const;
     int topIndex() const;
     bool hasMore(int step) const;
@@ -166,8 +172,9 @@ private:
     void paintLine(UPainter& painter, const VantoListBoxItemMEG& row, int rowLine, int line) const;
 
     std::deque<VantoListBoxItemMEG*> mRows;
-    std::int64_t mFrontPosition = 0; // the count at which mRows begins; falls when rows come in front
-    UWidget* mLeaving = nullptr;     // a row that has left the order already
+    std::int64_t mFrontPosition = 0;               // the count at which mRows begins; falls when rows come in front
+    UWidget* mLeaving = nullptr;                   // a row that has left the order already
+    const VantoListBoxItemMEG* mToldRow = nullptr; // current at the last currentChanged(); only its address counts
     int mCurrent = -1;
     int mTop = 0; // the wish for the first row in view; topIndex() fits it
     std::uint16_t mMoveEvent = EventType::RowMoved;
