@@ -196,7 +196,7 @@ TEST_F(ListBoxTest, AListenerThatUsesAKeyKeepsItFromTheList)
     EXPECT_TRUE(agent.entries.empty());
 }
 
-TEST_F(ListBoxTest, TheWidgetRelaysOnlyWhatNobodyElseHears)
+TEST_F(ListBoxTest, TheListenerOfTheWidgetHearsWhatNobodyElseDoes)
 {
     KeyRecorder outer;
     widget->setListener(&outer);
@@ -204,11 +204,15 @@ TEST_F(ListBoxTest, TheWidgetRelaysOnlyWhatNobodyElseHears)
     press(UGlobal::KeyDown);
     EXPECT_TRUE(outer.entries.empty()) << "the list has a listener of its own";
 
+    EXPECT_TRUE(outer.keys.empty());
+
     list.setListener(widget);
-    outer.usesKeys = true;
     press(UGlobal::KeyOk);
     EXPECT_EQ(outer.entries, (std::vector<Recorder::Entry>{{EventType::RowChosen, rows[1], rows[1]}}));
-    EXPECT_TRUE(outer.keys.empty()) << "a relay passes events, no keys";
+    EXPECT_EQ(outer.keys, (std::vector<int>{UGlobal::KeyOk, UGlobal::KeyOk})) << "asked in the place of the widget";
+    outer.usesKeys = true;
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(outer.entries.size(), 1U) << "a used key does not reach the list";
 }
 
 // Ownership

@@ -5,6 +5,7 @@
 #include "UEvent.h"
 #include "UPainter.h"
 #include "VantoListBoxItemMEG.h"
+#include "VantoListBoxWithTitleMEG.h"
 
 #include <algorithm>
 #include <utility>
@@ -309,9 +310,14 @@ bool VantoListBoxMEG::keyEvent(UKeyEvent* key)
 
 bool VantoListBoxMEG::askListener(UKeyEvent* key)
 {
-    // The widget around the list relays events only; it may have handed this very key on to the list.
+    // The widget around the list relays events only; it may have handed this very key on to the list. Where it
+    // is a list with a title, the listener behind it is asked as the list's own would be.
     UAgent* agent = listener();
-    if (!agent || agent == parentWidget())
+    if (agent && agent == parentWidget()) {
+        const auto* outer = dynamic_cast<const VantoListBoxWithTitleMEG*>(parentWidget());
+        agent = outer && outer->listener() != outer->parentWidget() ? outer->listener() : nullptr;
+    }
+    if (!agent)
         return false;
     LifeNode life(this);
     return agent->keyEvent(key) || !life.isAlive();

@@ -19,8 +19,8 @@ class VantoListBoxItemMEG;
 ///
 /// Keys act when they are pressed. Up and Down move and wrap (RowMoved), OK chooses (RowChosen), Left and
 /// Right are reported (LeftPressed, RightPressed). Before it acts, the list asks its listener's keyEvent(): a
-/// listener that answers true has used the key. The widget that holds the list relays events only and is not
-/// asked. Operations raise nothing; only keys do.
+/// listener that answers true has used the key. A widget that holds the list relays events only and is not
+/// asked; the listener of a list with a title is asked in its place. Operations raise nothing; only keys do.
 ///
 /// The first row of an empty list becomes current. Rows that come or go elsewhere leave the current row as it
 /// is; when the current row goes, the next one takes its place, or the last.
