@@ -52,12 +52,12 @@ TEST_F(TreeItemTest, TheDurationRunsFromTheFirstConnection)
     row->setFirstIconType(BranchMEG::CallHeldByThisEnd);
     row->setFirstIconType(BranchMEG::CallActiveHD);
     advance(3600001);
-    EXPECT_EQ(duration(*row), "60:10") << "a new state does not start the time again";
+    EXPECT_EQ(duration(*row), "1:00:10") << "a new state does not start the time again";
     row->stopDurationTimer();
     ticks.entries.clear();
     row->setFirstIconType(BranchMEG::CallActive);
     advance(60000);
-    EXPECT_EQ(duration(*row), "60:10");
+    EXPECT_EQ(duration(*row), "1:00:10");
     EXPECT_TRUE(ticks.entries.empty());
 
     row->cancelDurationTimer();
@@ -97,7 +97,7 @@ TEST_F(TreeItemTest, ASecondCallStandsBelowTheFirst)
     list.addItem(bob);
     list.addItem(carol);
     EXPECT_EQ(line(0), "\u25A1\u25A1Bob 4712            0:00>");
-    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00");
+    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713        0:00 ") << "one below the other";
     EXPECT_TRUE(isInverse(0));
 
     carol->setSecondLineText(text("consultation"));
@@ -105,7 +105,7 @@ TEST_F(TreeItemTest, ASecondCallStandsBelowTheFirst)
     EXPECT_EQ(line(0), "\u25A1\u25A12 Carol 4713        0:00>");
     EXPECT_EQ(line(1), "consultation              ^");
     press(UGlobal::KeyUp);
-    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713         0:00") << "the second line shows on the current row only";
+    EXPECT_EQ(line(1), "\u25A1\u25A12 Carol 4713        0:00 ") << "the second line shows on the current row only";
 }
 
 // Conferences

@@ -48,6 +48,14 @@ enum class Mark : std::uint8_t {
     ContextArrow,
 };
 
+/// The mark of a view that has more above it, below it, or both.
+constexpr Mark scrollMark(bool hasMoreAbove, bool hasMoreBelow)
+{
+    if (hasMoreAbove)
+        return hasMoreBelow ? Mark::MoreBoth : Mark::MoreAbove;
+    return hasMoreBelow ? Mark::MoreBelow : Mark::None;
+}
+
 /// The rows of a mark, in the layout of UFont::Glyph; null for None.
 TOOLKIT_EXPORT const std::array<std::uint8_t, 13>* markGlyph(Mark mark);
 

@@ -2,6 +2,7 @@
 
 #include "EventTypes.h"
 #include "Icons.h"
+#include "TextCells.h"
 #include "UEvent.h"
 #include "UPainter.h"
 #include "VantoListBoxMEG.h"
@@ -197,10 +198,13 @@ std::uint64_t BranchMEG::seconds() const
 
 UString BranchMEG::getTimeDuration() const
 {
-    constexpr std::uint64_t minute = 60;
+    constexpr std::uint64_t sixty = 60;
+    const auto twoDigits = [](std::uint64_t number) { return (number < 10 ? ":0" : ":") + std::to_string(number); };
     const std::uint64_t total = seconds();
-    const std::string secondsPart = std::to_string(total % minute);
-    return UString(std::to_string(total / minute) + (secondsPart.size() < 2 ? ":0" : ":") + secondsPart);
+    const std::uint64_t minutes = total / sixty;
+    const std::uint64_t hours = minutes / sixty;
+    const std::string ahead = hours == 0 ? std::to_string(minutes) : std::to_string(hours) + twoDigits(minutes % sixty);
+    return UString(ahead + twoDigits(total % sixty));
 }
 
 void BranchMEG::timerEvent(UTimerEvent* event)
@@ -403,7 +407,7 @@ void TreeItemMEG::paintBranch(UPainter& painter, int line, int column, int colum
     if (mShowsDuration && branch->isDurationShown() && !isMember()) {
         const UString duration = branch->getTimeDuration();
         painter.textRight(line, end - 1, duration);
-        end -= static_cast<int>(duration.length());
+        end -= TextCells::count(duration);
     }
     const std::vector<std::uint16_t> marks = branch->marks();
     for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark) {

@@ -68,7 +68,7 @@ public:
     /// What stands behind the icon: the pre-prefix, a blank and the row's text.
     UString text() const;
 
-    /// The duration as m:ss; minutes go beyond 59. It is 0:00 before the first connection.
+    /// The duration as m:ss, from one hour on as h:mm:ss. It is 0:00 before the first connection.
     UString getTimeDuration() const;
     bool hasContextMenuArrow() const;
 

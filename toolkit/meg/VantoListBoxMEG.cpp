@@ -461,13 +461,17 @@ void VantoListBoxMEG::paint(UPainter& painter)
 
 void VantoListBoxMEG::paintLine(UPainter& painter, const VantoListBoxItemMEG& row, int rowLine, int line) const
 {
+    // Two rows give way to the mark together, so that what stands at their right edges is in line.
     int columns = UPainter::Columns;
-    if (line == 1 && scrollMark() != Icons::Mark::None)
+    if ((line == 1 || rowsInView() > 1) && scrollMark() != Icons::Mark::None)
         --columns;
     const bool isCurrent = &row == currentItem();
     int rowColumns = columns;
-    if (isCurrent && rowLine == 0 && row.drawCMA())
-        painter.mark(line, Icons::Mark::ContextArrow, --rowColumns);
+    if (rowLine == 0 && row.drawCMA()) {
+        --rowColumns;
+        if (isCurrent)
+            painter.mark(line, Icons::Mark::ContextArrow, rowColumns);
+    }
     const int head = paintRowHead(painter, row, line);
     row.paintRow(painter, rowLine, line, head, rowColumns - head);
     if (isCurrent && rowLine == row.highlightedLine() && hasBar(row))
@@ -495,9 +499,5 @@ bool VantoListBoxMEG::hasMore(int step) const
 
 Icons::Mark VantoListBoxMEG::scrollMark() const
 {
-    if (!mHasScrollArrows)
-        return Icons::Mark::None;
-    if (hasMore(1))
-        return hasMore(-1) ? Icons::Mark::MoreBoth : Icons::Mark::MoreBelow;
-    return hasMore(-1) ? Icons::Mark::MoreAbove : Icons::Mark::None;
+    return mHasScrollArrows ? Icons::scrollMark(hasMore(-1), hasMore(1)) : Icons::Mark::None;
 }
