@@ -80,9 +80,14 @@ VantoListBoxWithTitleMEG::~VantoListBoxWithTitleMEG() = default;
 void VantoListBoxWithTitleMEG::setTitle(const UString& title)
 {
     mTitle->setText(title);
-    // A rectangle that somebody else has given to the list stays.
+    placeList(!title.isEmpty());
+}
+
+void VantoListBoxWithTitleMEG::placeList(bool isBelowFirstLine)
+{
     if (mList->getRect() == wholeGlass || mList->getRect() == belowTitle)
-        mList->setRect(title.isEmpty() ? wholeGlass : belowTitle);
+        mList->setRect(isBelowFirstLine ? belowTitle : wholeGlass);
+    refresh();
 }
 
 void VantoListBoxWithTitleMEG::event(UEvent* event)

@@ -45,6 +45,9 @@ protected:
     /// For lists with rows of their own; takes the list box over.
     explicit VantoListBoxWithTitleMEG(VantoListBoxMEG* list);
 
+    /// Gives the list the second line, or both. A rectangle that somebody else has given to it stays.
+    void placeList(bool isBelowFirstLine);
+
 private:
     ListTitleMEG* mTitle;
     VantoListBoxMEG* mList;
