@@ -5,6 +5,7 @@
 
 #include "DisplayPrivate.h"
 #include "LivingSet.h"
+#include "MakeRequest.h"
 #include "PostToApplication.h"
 
 #include <Semaphore.h>
@@ -39,6 +40,40 @@ LivingSet<Display>& livingHandles()
 struct Display::TextHandover {
     Semaphore lock{Semaphore::AVAILABLE, 1};
     std::string text;
+};
+
+/// The road of the display's operations to its half on the GUI thread, as DisplayAPI::Road is that of the handles:
+/// there it answers the half; elsewhere it posts the request, waits until it has run, and answers null.
+struct Display::Road {
+    template <typename... Slots>
+    static DisplayPrivateIfc* wait(Display* display, Event::DisplayRequests request, const Slots&... slots)
+    {
+        if (Widget::isGuiThread())
+            return display->mPrivate.get();
+        display->postEvent(new Event(display, request, slots...));
+        return nullptr;
+    }
+
+    template <typename T>
+    static DisplayPrivateIfc* wait(Display* display, Event::DisplayRequests request, RequestResult<T> result)
+    {
+        if (Widget::isGuiThread())
+            return display->mPrivate.get();
+        auto* event = new Event(display, request);
+        setResult(*event, &result.variable);
+        display->postEvent(event);
+        return nullptr;
+    }
+
+private:
+    static void setResult(Event& event, Displayable** current) { event.setCurrentDisplayable(current); }
+    static void setResult(Event& event, std::string* text) { event.setStringReturnValue(text); }
+    static void setResult(Event& event, std::vector<Rect>** rects)
+    {
+        static thread_local std::vector<Rect> copy;
+        event.setDisplayedRectsCopy(&copy);
+        event.setDisplayedRectsReturnValue(rects);
+    }
 };
 
 Display::Display(
@@ -93,10 +128,8 @@ bool Display::postEvent(DisplayRequestEvent* event)
 
 void Display::setCurrent(Displayable* displayable)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setCurrent(displayable);
-    else
-        postEvent(new Event(this, Event::SetCurrent, displayable));
+    if (auto* half = Road::wait(this, Event::SetCurrent, displayable))
+        half->setCurrent(displayable);
 }
 
 void Display::setCurrent(const std::vector<Displayable*>& displayables)
@@ -107,12 +140,9 @@ void Display::setCurrent(const std::vector<Displayable*>& displayables)
 
 Displayable* Display::getCurrent()
 {
-    if (Widget::isGuiThread())
-        return mPrivate->getCurrent();
     Displayable* current = nullptr;
-    auto* event = new Event(this, Event::GetCurrent);
-    event->setCurrentDisplayable(&current);
-    postEvent(event);
+    if (auto* half = Road::wait(this, Event::GetCurrent, result(current)))
+        current = half->getCurrent();
     return current;
 }
 
@@ -125,34 +155,26 @@ std::vector<Displayable*> Display::getCurrentWidgets()
 
 void Display::show()
 {
-    if (Widget::isGuiThread())
-        mPrivate->show();
-    else
-        postEvent(new Event(this, Event::Show));
+    if (auto* half = Road::wait(this, Event::Show))
+        half->show();
 }
 
 void Display::hide()
 {
-    if (Widget::isGuiThread())
-        mPrivate->hide();
-    else
-        postEvent(new Event(this, Event::Hide));
+    if (auto* half = Road::wait(this, Event::Hide))
+        half->hide();
 }
 
 void Display::createServerDisplay(Displayable* displayable)
 {
-    if (Widget::isGuiThread())
-        mPrivate->createServerDisplay(displayable);
-    else
-        postEvent(new Event(this, Event::CreateServerDisplay, displayable));
+    if (auto* half = Road::wait(this, Event::CreateServerDisplay, displayable))
+        half->createServerDisplay(displayable);
 }
 
 void Display::setMaximised(bool maximised)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setMaximised(maximised);
-    else
-        postEvent(new Event(this, Event::SetMaximised, maximised));
+    if (auto* half = Road::wait(this, Event::SetMaximised, maximised))
+        half->setMaximised(maximised);
 }
 
 // Loop
@@ -164,10 +186,8 @@ void Display::exec()
 
 void Display::shutdown()
 {
-    if (Widget::isGuiThread())
-        mPrivate->shutdown();
-    else
-        postEvent(new Event(this, Event::Shutdown));
+    if (auto* half = Road::wait(this, Event::Shutdown))
+        half->shutdown();
 }
 
 // Screen text
@@ -202,14 +222,9 @@ std::string Display::fetchText(DisplayRequestEvent* event)
 
 std::vector<Rect>* Display::getDisplayedRects()
 {
-    if (Widget::isGuiThread())
-        return mPrivate->getDisplayedRects();
-    static thread_local std::vector<Rect> copy;
     std::vector<Rect>* rects = nullptr;
-    auto* event = new Event(this, Event::GetDisplayedRects);
-    event->setDisplayedRectsCopy(&copy);
-    event->setDisplayedRectsReturnValue(&rects);
-    postEvent(event);
+    if (auto* half = Road::wait(this, Event::GetDisplayedRects, result(rects)))
+        rects = half->getDisplayedRects();
     return rects;
 }
 
@@ -217,179 +232,137 @@ std::vector<Rect>* Display::getDisplayedRects()
 
 void Display::localeChanged(std::string locale)
 {
-    if (Widget::isGuiThread())
-        mPrivate->localeChanged(std::move(locale));
-    else
-        postEvent(new Event(this, Event::LocaleChanged, locale));
+    if (auto* half = Road::wait(this, Event::LocaleChanged, locale))
+        half->localeChanged(std::move(locale));
 }
 
 void Display::dateFormatChanged(std::string format)
 {
-    if (Widget::isGuiThread())
-        mPrivate->dateFormatChanged(std::move(format));
-    else
-        postEvent(new Event(this, Event::DateFormatChanged, format));
+    if (auto* half = Road::wait(this, Event::DateFormatChanged, format))
+        half->dateFormatChanged(std::move(format));
 }
 
 void Display::timeFormatChanged(std::string format)
 {
-    if (Widget::isGuiThread())
-        mPrivate->timeFormatChanged(std::move(format));
-    else
-        postEvent(new Event(this, Event::TimeFormatChanged, format));
+    if (auto* half = Road::wait(this, Event::TimeFormatChanged, format))
+        half->timeFormatChanged(std::move(format));
 }
 
 void Display::setSoftwareType(const std::string& softwareType)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setSoftwareType(softwareType);
-    else
-        postEvent(new Event(this, Event::SetSoftwareType, softwareType));
+    if (auto* half = Road::wait(this, Event::SetSoftwareType, softwareType))
+        half->setSoftwareType(softwareType);
 }
 
 // System window
 
 void Display::setSystemWindowSize(int lines)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setSystemWindowSize(lines);
-    else
-        postEvent(new Event(this, Event::SetSystemWindowSize, lines));
+    if (auto* half = Road::wait(this, Event::SetSystemWindowSize, lines))
+        half->setSystemWindowSize(lines);
 }
 
 void Display::setSystemWindowText(int line, std::string text)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setSystemWindowText(line, std::move(text));
-    else
-        postEvent(new Event(this, Event::SetSystemWindowText, line, text));
+    if (auto* half = Road::wait(this, Event::SetSystemWindowText, line, text))
+        half->setSystemWindowText(line, std::move(text));
 }
 
 void Display::setSystemWindowTop(int top)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setSystemWindowTop(top);
-    else
-        postEvent(new Event(this, Event::SetSystemWindowTop, top));
+    if (auto* half = Road::wait(this, Event::SetSystemWindowTop, top))
+        half->setSystemWindowTop(top);
 }
 
 void Display::showTimeInSystemWindow(bool shown)
 {
-    if (Widget::isGuiThread())
-        mPrivate->showTimeInSystemWindow(shown);
-    else
-        postEvent(new Event(this, Event::ShowTimeInSystemWindow, shown));
+    if (auto* half = Road::wait(this, Event::ShowTimeInSystemWindow, shown))
+        half->showTimeInSystemWindow(shown);
 }
 
 void Display::setTimeInSystemWindow(int hours, int minutes, int seconds)
 {
-    if (Widget::isGuiThread())
-        return mPrivate->setTimeInSystemWindow(hours, minutes, seconds);
     // The request carries the time as text. Numbers over two digits don't fit and are cut.
     char buffer[TimeLength + 1];
     snprintf(buffer, sizeof buffer, "%02d:%02d:%02d", hours, minutes, seconds);
-    postEvent(new Event(this, Event::SetTimeInSystemWindow, std::string(buffer)));
+    if (auto* half = Road::wait(this, Event::SetTimeInSystemWindow, std::string(buffer)))
+        half->setTimeInSystemWindow(hours, minutes, seconds);
 }
 
 void Display::setTimer(std::string time)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setTimer(std::move(time));
-    else
-        postEvent(new Event(this, Event::SetTimer, time.substr(0, TimeLength)));
+    if (auto* half = Road::wait(this, Event::SetTimer, time.substr(0, TimeLength)))
+        half->setTimer(std::move(time));
 }
 
 void Display::startTimer(std::string time)
 {
-    if (Widget::isGuiThread())
-        mPrivate->startTimer(std::move(time));
-    else
-        postEvent(new Event(this, Event::StartTimer, time.substr(0, TimeLength)));
+    if (auto* half = Road::wait(this, Event::StartTimer, time.substr(0, TimeLength)))
+        half->startTimer(std::move(time));
 }
 
 void Display::stopTimer()
 {
-    if (Widget::isGuiThread())
-        mPrivate->stopTimer();
-    else
-        postEvent(new Event(this, Event::StopTimer));
+    if (auto* half = Road::wait(this, Event::StopTimer))
+        half->stopTimer();
 }
 
 void Display::showTimer()
 {
-    if (Widget::isGuiThread())
-        mPrivate->showTimer();
-    else
-        postEvent(new Event(this, Event::ShowTimer));
+    if (auto* half = Road::wait(this, Event::ShowTimer))
+        half->showTimer();
 }
 
 void Display::hideTimer(bool hidden)
 {
-    if (Widget::isGuiThread())
-        mPrivate->hideTimer(hidden);
-    else
-        postEvent(new Event(this, Event::HideTimer, hidden));
+    if (auto* half = Road::wait(this, Event::HideTimer, hidden))
+        half->hideTimer(hidden);
 }
 
 void Display::pauseTimer()
 {
-    if (Widget::isGuiThread())
-        mPrivate->pauseTimer();
-    else
-        postEvent(new Event(this, Event::PauseTimer));
+    if (auto* half = Road::wait(this, Event::PauseTimer))
+        half->pauseTimer();
 }
 
 // Status, volume, clipboard
 
 void Display::setStatusMessage(const std::string& text, unsigned int duration)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setStatusMessage(text, duration);
-    else
-        postEvent(new Event(this, Event::SetStatusMessage, static_cast<int>(duration), text));
+    if (auto* half = Road::wait(this, Event::SetStatusMessage, static_cast<int>(duration), text))
+        half->setStatusMessage(text, duration);
 }
 
 void Display::setStatusMessageAvailable(bool available)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setStatusMessageAvailable(available);
-    else
-        postEvent(new Event(this, Event::SetStatusMessageAvailable, available));
+    if (auto* half = Road::wait(this, Event::SetStatusMessageAvailable, available))
+        half->setStatusMessageAvailable(available);
 }
 
 void Display::setPreviewVolume(
     unsigned int device, unsigned int value, unsigned int minimum, unsigned int maximum, unsigned int variant)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setPreviewVolume(device, value, minimum, maximum, variant);
-    else
-        postEvent(new Event(this, Event::SetPreviewVolume, device, value, minimum, maximum, variant));
+    if (auto* half = Road::wait(this, Event::SetPreviewVolume, device, value, minimum, maximum, variant))
+        half->setPreviewVolume(device, value, minimum, maximum, variant);
 }
 
 void Display::setRingerVolumeBarLimit(int limit)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setRingerVolumeBarLimit(limit);
-    else
-        postEvent(new Event(this, Event::SetRingerVolumeBarLimit, limit));
+    if (auto* half = Road::wait(this, Event::SetRingerVolumeBarLimit, limit))
+        half->setRingerVolumeBarLimit(limit);
 }
 
 void Display::copy(const std::string& text)
 {
-    if (Widget::isGuiThread())
-        mPrivate->copy(text);
-    else
-        postEvent(new Event(this, Event::Copy, text));
+    if (auto* half = Road::wait(this, Event::Copy, text))
+        half->copy(text);
 }
 
 std::string Display::paste()
 {
-    if (Widget::isGuiThread())
-        return mPrivate->paste();
     std::string text;
-    auto* event = new Event(this, Event::Paste);
-    event->setStringReturnValue(&text);
-    postEvent(event);
+    if (auto* half = Road::wait(this, Event::Paste, result(text)))
+        text = half->paste();
     return text;
 }
 
@@ -397,58 +370,45 @@ std::string Display::paste()
 
 void Display::setFPKLabel(int key, const std::string& label)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setFPKLabel(key, label);
-    else
-        postEvent(new Event(this, Event::SetFPKLabel, key, label));
+    if (auto* half = Road::wait(this, Event::SetFPKLabel, key, label))
+        half->setFPKLabel(key, label);
 }
 
 void Display::setFPKStatus(int key, int status)
 {
-    if (Widget::isGuiThread())
-        return mPrivate->setFPKStatus(key, status);
-    postEvent(
-        new Event(this, Event::SetFPKStatus, static_cast<unsigned int>(key), static_cast<unsigned int>(status), 0U));
+    if (auto* half
+        = Road::wait(this, Event::SetFPKStatus, static_cast<unsigned int>(key), static_cast<unsigned int>(status), 0U))
+        half->setFPKStatus(key, status);
 }
 
 void Display::shiftFPKLabel(int key)
 {
-    if (Widget::isGuiThread())
-        mPrivate->shiftFPKLabel(key);
-    else
-        postEvent(new Event(this, Event::ShiftFPKLabel, key));
+    if (auto* half = Road::wait(this, Event::ShiftFPKLabel, key))
+        half->shiftFPKLabel(key);
 }
 
 void Display::shiftFPKBar(bool shifted)
 {
-    if (Widget::isGuiThread())
-        mPrivate->shiftFPKBar(shifted);
-    else
-        postEvent(new Event(this, Event::ShiftFPKBar, shifted));
+    if (auto* half = Road::wait(this, Event::ShiftFPKBar, shifted))
+        half->shiftFPKBar(shifted);
 }
 
 void Display::setAlternateLabel(int key, const std::string& label)
 {
-    if (Widget::isGuiThread())
-        mPrivate->setAlternateLabel(key, label);
-    else
-        postEvent(new Event(this, Event::SetAlternateLabel, key, label));
+    if (auto* half = Road::wait(this, Event::SetAlternateLabel, key, label))
+        half->setAlternateLabel(key, label);
 }
 
 void Display::shiftChangeEventForCertainFPKey(bool shifted, int key)
 {
-    if (Widget::isGuiThread())
-        mPrivate->shiftChangeEventForCertainFPKey(shifted, key);
-    else
-        postEvent(new Event(this, Event::ShiftChangeEventForCertainFPKey, shifted, key));
+    if (auto* half = Road::wait(this, Event::ShiftChangeEventForCertainFPKey, shifted, key))
+        half->shiftChangeEventForCertainFPKey(shifted, key);
 }
 
 void Display::callShowFPKBarMethodFromAdminPhonelet()
 {
-    if (Widget::isGuiThread())
-        mPrivate->callShowFPKBarMethodFromAdminPhonelet();
-    else
-        postEvent(new Event(this, Event::CallShowFPKBarMethodFromAdminPhonelet));
+    if (auto* half = Road::wait(this, Event::CallShowFPKBarMethodFromAdminPhonelet))
+        half->callShowFPKBarMethodFromAdminPhonelet();
 }
 
 // The road of the requests

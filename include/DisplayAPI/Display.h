@@ -187,6 +187,7 @@ protected:
     bool postEvent(DisplayRequestEvent* event);
 
 private:
+    struct Road;
     struct TextHandover;
 
     void runRequest(DisplayRequestEvent& event);
