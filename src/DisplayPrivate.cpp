@@ -1,6 +1,7 @@
 #include "DisplayPrivate.h"
 
 #include <DisplayAPI/DisplayEventIfc.h>
+#include <DisplayAPI/Widget.h>
 
 #include "AssertGuiThread.h"
 #include "ContentWidgetFactory.h"
@@ -10,9 +11,28 @@
 #include "VantoUApplicationFactory.h"
 
 #include <HardwareVersion.h>
+#include <Log.h>
 #include <StatusVolumeMEG.h>
 
+#include <atomic>
+
 namespace DisplayAPI {
+
+namespace {
+
+constexpr const char* LogModule = "DisplayAPI::DisplayPrivate";
+constexpr int FaultLevel = 2;
+
+// There is one loop for the process, whatever displays there are.
+std::atomic<bool> isLoopRunning = false;
+
+void refuseLoop(const char* reason, int line)
+{
+    if (loggingOnAppUni(LogModule, FaultLevel))
+        logAppUni(LogModule, "src/DisplayPrivate", FaultLevel, line, "Display::exec() is refused: %s.", reason);
+}
+
+}
 
 DisplayPrivate::DisplayPrivate(std::string applicationName, bool server, std::string, std::string softwareType,
     std::string locale, std::string dateFormat, std::string timeFormat, Rect*, ContentWidgetFactoryIfc* factory)
@@ -188,6 +208,19 @@ void DisplayPrivate::forget(Displayable* displayable)
 
 void DisplayPrivate::exec()
 {
+    if (!Widget::isGuiThread()) {
+        refuseLoop("this is not the GUI thread", __LINE__);
+        return;
+    }
+    if (isLoopRunning.exchange(true)) {
+        refuseLoop("the loop runs already", __LINE__);
+        return;
+    }
+    // On every way out, an exception included.
+    struct End {
+        ~End() { isLoopRunning = false; }
+    };
+    const End end;
     const unsigned long number = LivingDisplays::numberOf(this);
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->exec();

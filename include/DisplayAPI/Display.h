@@ -29,12 +29,14 @@ class DisplayRequestEvent;
 /// screens, calls setCurrent() and show(), and runs exec() until somebody calls shutdown(). All other threads
 /// reach the display through the same object.
 ///
-/// Threads: any, and each call returns after it has run on the GUI thread. The operations under "Without a
-/// request" run on the caller's thread: use them there before exec(), or on the GUI thread.
+/// Threads: any, and each call returns after it has run on the GUI thread. A call from another thread before exec()
+/// waits until the loop runs; the GUI thread must not wait for that thread meanwhile, in displayChanged() neither.
+/// The operations under "Without a request" run on the caller's thread: use them there before exec(), or on the GUI
+/// thread.
 /// Ownership: screens, subscriber and translator stay the application's; delete the screens, then the display.
 /// The other order is safe too.
-/// Errors: a null or deleted screen is ignored. A call that can't run any more, since exec() has ended, returns
-/// its default at once.
+/// Errors: a null or deleted screen is ignored. Once exec() has ended, a call from another thread does nothing and
+/// returns at once: null from getCurrent() and getDisplayedRects(), else an empty text.
 class DISPLAYAPI_EXPORT Display {
 public:
     Display(
@@ -94,6 +96,12 @@ public:
     // Loop
 
     /// Runs the event loop on the GUI thread, until shutdown().
+    ///
+    /// Then it recalls what waits to be delivered to listeners, and waits for the delivery that has begun, five
+    /// seconds at most. Behind it screens, commands and listeners may be destroyed at once. Nothing is delivered any
+    /// more until the next exec() or display; calls of handles from other threads do nothing, and return their default.
+    /// Errors: on another thread, and inside itself, it is refused with a line in the log. An exception that leaves the
+    /// subscriber, a translator or a screen of the application's own ends the loop and comes out of here.
     void exec();
 
     /// Ends the loop after the event in hand.
@@ -101,10 +109,11 @@ public:
 
     // Screen text
 
-    /// All screens, whatever covers what.
+    /// All screens, whatever covers what. It needs no subscriber.
     std::string serialise();
 
     /// What can be seen in the rectangles. `statusStr` names a status whose lines are asked for; usually empty.
+    /// Without a subscriber no screen is written: subscribe() first, also for a program that only asks.
     std::string serialiseByRect(const std::vector<Rect>& rects, std::string statusStr);
 
     /// The rectangles of the screens on the stack, bottom first. Off the GUI thread they are a copy that stays as
@@ -137,9 +146,10 @@ public:
 
     // Status, volume, clipboard
 
-    /// Shows a message over the first line until it is replaced; an empty text takes it away, and the text that is
-    /// shown already changes nothing. `duration` is how long each part of a text that is wider than the line stands,
-    /// in milliseconds, a second at least; with 0 only the beginning is shown.
+    /// Shows a message over the first line, whatever screens come and go, until another text replaces it or an empty
+    /// one takes it away: it never ends by itself, and no notice is given. The text that is shown already changes
+    /// nothing. `duration` is how long each part of a text that is wider than the line stands, in milliseconds, a
+    /// second at least; with 0 only the beginning is shown.
     void setStatusMessage(const std::string& text, unsigned int duration);
 
     /// Shows the volume bar of a device (0 handset, 1 headset, 2 speaker, 3 ringer) with value, minimum and
@@ -154,7 +164,8 @@ public:
     /// The fixed area of the display, or null if there is none.
     Rect* getDisplayArea();
 
-    /// Threads: any, for these two.
+    /// Names the one who is told of every change; another one takes its place. While it is being told, a call of these
+    /// two on another thread waits. Threads: any, for these two.
     void subscribe(DisplayEventIfc* listener);
     void unSubscribe();
     void setTranslator(TranslatorIfc* translator);

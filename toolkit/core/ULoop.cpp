@@ -5,7 +5,6 @@
 #include "UWindowManager.h"
 
 #include <algorithm>
-#include <cassert>
 #include <chrono>
 #include <limits>
 #include <memory>
@@ -53,7 +52,6 @@ void ULoop::post(UEvent* event)
 
 int ULoop::exec()
 {
-    assert(!mIsExecuting && "the loop runs already");
     if (mIsExecuting)
         return -1;
     open();

@@ -25,8 +25,8 @@ public:
     /// event is then destroyed at once, without process(). Threads: any.
     void post(UEvent* event);
 
-    /// Opens the queue and runs until quit(); then closes the queue and destroys what is left in it. Must not
-    /// be called again from inside itself. An exception of an event ends it too, and comes out.
+    /// Opens the queue and runs until quit(); then closes the queue and destroys what is left in it, and returns 0.
+    /// Inside itself it returns -1 at once. An exception of an event ends it too, and comes out.
     int exec();
 
     /// Ends exec() after the event in hand; without effect outside of it. Threads: GUI thread.
