@@ -11,8 +11,8 @@
 #include <unistd.h>
 #include <vector>
 
-void registerRounds(
-    const std::string& mode, const std::string& name, long operations, const std::function<double()>& measure)
+void registerRounds(const std::string& mode, const std::string& name, long operations,
+    const std::function<double()>& measure, int rounds)
 {
     benchmark::RegisterBenchmark((mode + "/" + name).c_str(),
         [mode, operations, measure](benchmark::State& state) {
@@ -22,7 +22,17 @@ void registerRounds(
             state.SetItemsProcessed(state.iterations() * operations);
         })
         ->UseManualTime()
-        ->Iterations(7);
+        ->Iterations(rounds);
+}
+
+void registerRatio(const std::string& mode, const std::string& name, long operations, double allowed,
+    const std::function<double()>& measure)
+{
+    registerRounds(mode, name, operations, [=] {
+        const double time = measure();
+        Report::addRatio(mode, name, time, mode == "one core" ? allowed : Report::NoLimit);
+        return time;
+    });
 }
 
 namespace {
@@ -121,24 +131,17 @@ void registerFrameBenchmarks(const std::string& mode)
 {
     constexpr long Calls = 50'000;
     constexpr long Posts = 1'000'000;
-    const bool isPinned = mode == "one core";
-    auto limit = [isPinned](double value) { return isPinned ? value : 0; };
-
     registerRounds(mode, "futex ping-pong", Calls, [mode] {
         const double time = pingPong(Calls);
         Report::setYardstick(mode, time);
         return time;
     });
-    auto ratio = [mode](const std::string& name, long operations, double allowed, std::function<double()> measure) {
-        registerRounds(mode, name, operations, [=] {
-            const double time = measure();
-            Report::addRatio(mode, name, time, allowed);
-            return time;
-        });
-    };
-    ratio("synchronous call, 1 caller", Calls, limit(1.1), [] { return synchronousCalls(1, Calls, false); });
-    ratio("synchronous call, 4 callers", Calls, limit(1.1), [] { return synchronousCalls(4, Calls / 4, false); });
-    ratio("synchronous call, 4 callers of one handle", Calls, 0, [] { return synchronousCalls(4, Calls / 4, true); });
-    ratio("asynchronous call, 1 thread", Posts, limit(0.03), [] { return asynchronousCalls(1, Posts); });
-    ratio("asynchronous call, 4 threads", Posts, 0, [] { return asynchronousCalls(4, Posts / 4); });
+    using Report::NoLimit;
+    registerRatio(mode, "synchronous call, 1 caller", Calls, 1.0, [] { return synchronousCalls(1, Calls, false); });
+    registerRatio(
+        mode, "synchronous call, 4 callers", Calls, 1.0, [] { return synchronousCalls(4, Calls / 4, false); });
+    registerRatio(mode, "synchronous call, 4 callers of one handle", Calls, NoLimit,
+        [] { return synchronousCalls(4, Calls / 4, true); });
+    registerRatio(mode, "asynchronous call, 1 thread", Posts, 0.018, [] { return asynchronousCalls(1, Posts); });
+    registerRatio(mode, "asynchronous call, 4 threads", Posts, 0.018, [] { return asynchronousCalls(4, Posts / 4); });
 }

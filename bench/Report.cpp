@@ -14,7 +14,7 @@ struct Entry {
     std::string name;
     std::string unit;
     bool isRatio; // a time, to be compared with the yardstick
-    double limit = 0;
+    double limit = NoLimit;
     std::vector<double> values;
 };
 
@@ -40,7 +40,7 @@ void add(const Entry& description, double value)
 
 void printLimit(double value, double limit)
 {
-    if (limit > 0)
+    if (limit >= 0)
         std::printf("   at most %-8g %s", limit, value <= limit ? "met" : "MISSED");
     std::printf("\n");
 }

@@ -132,18 +132,12 @@ double keyAmongScreens(long living)
 
 void registerScreenBenchmarks(const std::string& mode)
 {
-    auto ratio = [mode](const std::string& name, long operations, std::function<double()> measure) {
-        registerRounds(mode, name, operations, [=] {
-            const double time = measure();
-            Report::addRatio(mode, name, time, 0);
-            return time;
-        });
-    };
     registerRounds(
         mode, "serialiseByRect, stack of three", 20'000, [mode] { return serialiseStackOfThree(mode, 20'000); });
-    ratio("List::append to 10 rows", 10, [] { return appendRows(10); });
-    ratio("List::append to 1,000 rows", 1000, [] { return appendRows(1000); });
-    ratio("List::append to 100,000 rows", 100'000, [] { return appendRows(100'000); });
-    ratio("key press with 10 screens alive", 2000, [] { return keyAmongScreens(10); });
-    ratio("key press with 10,000 screens alive", 2000, [] { return keyAmongScreens(10'000); });
+    registerRatio(mode, "List::append to 10 rows", 10, Report::NoLimit, [] { return appendRows(10); });
+    registerRatio(mode, "List::append to 1,000 rows", 1000, Report::NoLimit, [] { return appendRows(1000); });
+    registerRatio(mode, "List::append to 100,000 rows", 100'000, Report::NoLimit, [] { return appendRows(100'000); });
+    registerRatio(mode, "key press with 10 screens alive", 2000, Report::NoLimit, [] { return keyAmongScreens(10); });
+    registerRatio(
+        mode, "key press with 10,000 screens alive", 2000, Report::NoLimit, [] { return keyAmongScreens(10'000); });
 }

@@ -13,6 +13,7 @@ int main(int argc, char** argv)
         registerFrameBenchmarks(mode);
         registerDeliveryBenchmarks(mode);
         registerScreenBenchmarks(mode);
+        registerMemoryBenchmarks(mode);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

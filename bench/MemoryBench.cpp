@@ -1,0 +1,127 @@
+#include "Benchmarks.h"
+#include "Phone.h"
+#include "Report.h"
+
+#include <DisplayAPI/List.h>
+#include <DisplayAPI/ListItem.h>
+#include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/PopupConfirm.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <filesystem>
+#include <malloc.h>
+#include <memory>
+#include <unistd.h>
+#include <vector>
+
+using namespace DisplayAPI;
+
+namespace {
+
+/// What the whole process holds of the heap.
+double heapInBytes()
+{
+    return static_cast<double>(mallinfo2().uordblks);
+}
+
+/// A question is made, shown over a list, dismissed and destroyed.
+void showQuestions(Display& display, Command& yes, long rounds)
+{
+    for (long round = 0; round < rounds; ++round) {
+        PopupConfirm popup(true);
+        popup.setText("Delete the entry of this caller?");
+        popup.addCommand(&yes);
+        display.setCurrent(&popup);
+        popup.dismiss();
+    }
+}
+
+/// By how much the heap has grown after so many rounds, once everything that is kept for good has been made.
+double measureGrowth(const std::string& mode, bool isOnGui, long rounds)
+{
+    Phone phone;
+    List list(0);
+    list.append(std::string("HeadSet"));
+    phone.display().setCurrent(&list);
+    MenuCommand yes("Yes?", 1);
+    double growth = 0;
+    double time = 0;
+    const auto measure = [&] {
+        showQuestions(phone.display(), yes, 1000);
+        const double before = heapInBytes();
+        const double start = nowInNanoseconds();
+        showQuestions(phone.display(), yes, rounds);
+        time = nowInNanoseconds() - start;
+        growth = heapInBytes() - before;
+    };
+    if (isOnGui)
+        phone.onGui(measure);
+    else
+        measure();
+    phone.display().setCurrent(nullptr);
+    Report::addFigure(mode,
+        std::string("heap growth over 100,000 questions, ") + (isOnGui ? "GUI thread" : "another thread"), growth,
+        "bytes", 0);
+    return time / static_cast<double>(rounds);
+}
+
+/// What a handle of a kind holds of the heap, with its half and its widget; `make` returns what keeps one alive.
+template <typename Make>
+void measureHandles(const std::string& mode, const std::string& name, Make make)
+{
+    constexpr std::size_t Count = 10'000;
+    std::vector<decltype(make())> handles;
+    handles.reserve(Count);
+    handles.push_back(make());
+    const double before = heapInBytes();
+    while (handles.size() < Count)
+        handles.push_back(make());
+    Report::addFigure(mode, "heap of a " + name, (heapInBytes() - before) / (Count - 1), "bytes", Report::NoLimit);
+}
+
+double measureAllHandles(const std::string& mode)
+{
+    Phone phone;
+    phone.onGui([&mode] {
+        measureHandles(mode, "PopupConfirm", [] { return std::make_unique<PopupConfirm>(true); });
+        measureHandles(mode, "List", [] { return std::make_unique<List>(0); });
+        List list(0);
+        measureHandles(mode, "row of a list", [&list] {
+            auto* row = new ListItem("HeadSet", false);
+            list.append(row);
+            return row;
+        });
+    });
+    return 0;
+}
+
+/// The library as it goes onto the telephone, with the program `strip` of the machine.
+double measureLibrary(const std::string& mode)
+{
+    Dl_info info = {};
+    const std::string stripped = std::filesystem::temp_directory_path() / ("stripped-" + std::to_string(getpid()));
+    if (dladdr(reinterpret_cast<void*>(&Display::exists), &info) == 0
+        || std::system(("strip -o '" + stripped + "' '" + info.dli_fname + "'").c_str()) != 0)
+        return 0;
+    Report::addFigure(
+        mode, "stripped library", static_cast<double>(std::filesystem::file_size(stripped)), "bytes", Report::NoLimit);
+    std::filesystem::remove(stripped);
+    return 0;
+}
+
+}
+
+void registerMemoryBenchmarks(const std::string& mode)
+{
+    for (const bool isOnGui : {true, false}) {
+        registerRounds(
+            mode, std::string("questions, ") + (isOnGui ? "GUI thread" : "another thread"), 100'000,
+            [=] { return measureGrowth(mode, isOnGui, 100'000); }, 1);
+    }
+    registerRounds(
+        mode, "handles", 1, [mode] { return measureAllHandles(mode); }, 1);
+    registerRounds(
+        mode, "library", 1, [mode] { return measureLibrary(mode); }, 1);
+}
