@@ -9,24 +9,18 @@
 namespace DisplayAPI {
 
 GuiRequestEvent::GuiRequestEvent(Widget* requester, int requestType)
-    : GuiRequestEvent(requester, nullptr, requestType, Hold::Counted)
+    : GuiRequestEvent(requester, nullptr, requestType)
 {
 }
 
 GuiRequestEvent::GuiRequestEvent(Widget* requester, Wait* wait, int requestType)
-    : GuiRequestEvent(requester, wait, requestType, Hold::Counted)
-{
-}
-
-GuiRequestEvent::GuiRequestEvent(Widget* requester, Wait* wait, int requestType, Hold hold)
     : UEvent(EventType::GuiRequest)
     , mRequester(requester)
     , mImpl(requester ? requester->mImpl : nullptr)
     , mWait(wait)
     , mRequestType(requestType)
-    , mHold(mImpl ? hold : Hold::None)
 {
-    if (mHold == Hold::Counted)
+    if (mImpl)
         mImpl->retain();
 }
 
@@ -34,31 +28,11 @@ GuiRequestEvent::~GuiRequestEvent()
 {
     if (mOwned)
         freeOwned(true);
-    if (mHold == Hold::Posted)
-        mImpl->eventEnded(Widget::isGuiThread());
-    else if (mHold == Hold::Counted)
+    if (mImpl)
         mImpl->release();
     // Nobody has answered: the waiter must not wait for ever. It may be gone right behind this.
     if (mWait && !mIsAnswered)
         mWait->abandon();
-}
-
-GuiRequestEvent* GuiRequestEvent::forHandle(const Widget* requester, int requestType)
-{
-    // A const operation posts too: the GUI thread runs the request on the same handle.
-    return new GuiRequestEvent(const_cast<Widget*>(requester), nullptr, requestType, Hold::None);
-}
-
-void GuiRequestEvent::countAsPosted(WidgetImpl& poster)
-{
-    if (mHold != Hold::None || !mImpl)
-        return;
-    // Only the lock of the event's own handle makes the cheap count safe.
-    mHold = mImpl == &poster ? Hold::Posted : Hold::Counted;
-    if (mHold == Hold::Posted)
-        mImpl->eventPosted();
-    else
-        mImpl->retain();
 }
 
 void GuiRequestEvent::process()

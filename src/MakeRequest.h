@@ -77,7 +77,8 @@ private:
 template <typename Request, typename... Arguments>
 GuiRequestEvent* makeRequest(const Widget* requester, Request request, Arguments&&... arguments)
 {
-    auto* event = GuiRequestEvent::forHandle(requester, static_cast<int>(request));
+    // A const operation posts too: the GUI thread runs the request on the same handle.
+    auto* event = new GuiRequestEvent(const_cast<Widget*>(requester), static_cast<int>(request));
     RequestSlots slots(*event);
     (slots.fill(std::forward<Arguments>(arguments)), ...);
     return event;

@@ -7,58 +7,10 @@
 #include <Threadable.h>
 
 #include <memory>
-#include <mutex>
-#include <vector>
 
 namespace DisplayAPI {
 
 std::atomic<unsigned int> WidgetImpl::m_GuiThreadId = 0;
-
-namespace {
-
-/// The impls whose last reference went while an event or a call was under way. Never destroyed.
-struct Leftovers {
-    std::mutex mutex;
-    std::vector<WidgetImpl*> impls;
-    std::size_t nextSweep = 16;
-};
-
-Leftovers& leftovers()
-{
-    static Leftovers& instance = *new Leftovers;
-    return instance;
-}
-
-}
-
-bool WidgetImpl::isIdle()
-{
-    // The lock first: whoever gave it has posted what he posted.
-    return lock.isIdle()
-        && mPosted.load(std::memory_order_relaxed)
-        == mEndedOnGui.load(std::memory_order_acquire) + mEndedElsewhere.load(std::memory_order_acquire);
-}
-
-void WidgetImpl::deleteWhenIdle()
-{
-    if (isIdle()) {
-        delete this;
-        return;
-    }
-    Leftovers& left = leftovers();
-    std::lock_guard section(left.mutex);
-    left.impls.push_back(this);
-    // Sweeping only when the number has doubled keeps the cost of each death the same.
-    if (left.impls.size() < left.nextSweep)
-        return;
-    std::erase_if(left.impls, [](WidgetImpl* impl) {
-        const bool isIdle = impl->isIdle();
-        if (isIdle)
-            delete impl;
-        return isIdle;
-    });
-    left.nextSweep = 2 * left.impls.size() + 16;
-}
 
 Widget::Widget()
     : mImpl(new WidgetImpl)
@@ -89,51 +41,50 @@ void Widget::setGuiThreadId(unsigned int id)
 
 void Widget::postEvent(GuiRequestEvent* event) const
 {
-    // Behind the wait for the lock the handle itself may have gone: its event is made before, and its impl stays.
+    // Behind the wait for the lock the handle itself may have gone: nothing of it is read from there on.
     if (!event)
-        event = GuiRequestEvent::forHandle(this, -1);
+        event = requestWithoutArguments(-1);
     WidgetImpl& impl = *mImpl;
+    const WidgetImpl::User user(impl);
     impl.lock.take(-1);
 
     if (Wait* callersWait = event->waitCondition()) {
-        send(*event, impl);
+        postToApplication(event);
         impl.lock.give();
         callersWait->wait();
         return;
     }
     Wait wait;
     event->setWaitCondition(&wait);
-    send(*event, impl);
+    postToApplication(event);
     wait.wait();
     impl.lock.give();
 }
 
-// The caller holds the lock of the impl.
-void Widget::send(GuiRequestEvent& event, WidgetImpl& impl)
-{
-    event.countAsPosted(impl);
-    postToApplication(&event);
-}
-
 void Widget::postEvent(int type) const
 {
-    postEvent(GuiRequestEvent::forHandle(this, type));
+    postEvent(requestWithoutArguments(type));
 }
 
 void Widget::postEventAsync(GuiRequestEvent* event) const
 {
-    // Behind the wait for the lock the handle itself may have gone: its event is made before, and its impl stays.
     if (!event)
-        event = GuiRequestEvent::forHandle(this, -1);
+        event = requestWithoutArguments(-1);
     WidgetImpl& impl = *mImpl;
+    const WidgetImpl::User user(impl);
     impl.lock.take(-1);
-    send(*event, impl);
+    postToApplication(event);
     impl.lock.give();
 }
 
 void Widget::postEventAsync(int type) const
 {
-    postEventAsync(GuiRequestEvent::forHandle(this, type));
+    postEventAsync(requestWithoutArguments(type));
+}
+
+GuiRequestEvent* Widget::requestWithoutArguments(int type) const
+{
+    return new GuiRequestEvent(const_cast<Widget*>(this), type);
 }
 
 void Widget::postEventHelper(bool async, GuiRequestEvent* event)

@@ -28,10 +28,6 @@ public:
     ~GuiRequestEvent() override;
     GuiRequestEvent(const GuiRequestEvent&) = delete;
 
-    /// A request that its own handle will post. Somebody who posts one to the application himself uses a constructor,
-    /// which counts the event from the start.
-    static GuiRequestEvent* forHandle(const Widget* requester, int requestType);
-
     /// Runs the request, unless its handle has been retired.
     void process() override;
 
@@ -90,23 +86,14 @@ private:
         void (*destroy)(void*);
         Owned* next;
     };
-    /// How the event holds the lock and the mark of its handle.
-    enum class Hold : unsigned char {
-        None,
-        Counted,
-        Posted,
-    };
 
-    GuiRequestEvent(Widget* requester, Wait* wait, int requestType, Hold hold);
-    void countAsPosted(WidgetImpl& poster);
     void freeOwned(bool withObjects);
 
     Widget* mRequester;
-    WidgetImpl* mImpl; // null without a requester
+    WidgetImpl* mImpl; // counted; null without a requester
     Wait* mWait;
     Owned* mOwned = nullptr;
     int mRequestType;
-    Hold mHold;
     bool mIsAnswered = false;
 };
 

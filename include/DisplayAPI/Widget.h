@@ -70,7 +70,7 @@ protected:
 private:
     friend class GuiRequestEvent;
 
-    static void send(GuiRequestEvent& event, WidgetImpl& impl);
+    GuiRequestEvent* requestWithoutArguments(int type) const;
 
     WidgetImpl* mImpl; // counted: shared with the events that name this handle
 };

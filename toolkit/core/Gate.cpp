@@ -43,12 +43,6 @@ void Gate::open()
     mChanged.notify_one();
 }
 
-bool Gate::isIdle()
-{
-    std::lock_guard lock(mMutex);
-    return mCount == mMaximum && !mAbandoned && mSleepers == 0;
-}
-
 void Gate::abandon()
 {
     std::lock_guard lock(mMutex);

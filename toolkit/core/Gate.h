@@ -35,9 +35,6 @@ public:
     /// Adds a count, unless the maximum is reached, and wakes one sleeper if there is any.
     void open();
 
-    /// True while the gate is full and nobody sleeps at it or is about to open it: then it may be destroyed.
-    bool isIdle();
-
     /// Lets one waiter go with the result false; kept if nobody waits yet.
     void abandon();
 
@@ -86,11 +83,6 @@ inline void Gate::open()
     } while (!mWord.compare_exchange_weak(word, next, std::memory_order_release, std::memory_order_relaxed));
     if (next >= OneSleeper)
         wakeOne(&mWord);
-}
-
-inline bool Gate::isIdle()
-{
-    return mWord.load(std::memory_order_acquire) == mMaximum;
 }
 
 #endif

@@ -35,9 +35,6 @@ public:
     /// Lets a waiter go whose request will never be answered: its take() returns false.
     void abandon() { mGate.abandon(); }
 
-    /// True while it is available to the full and nobody is at it: then it may be destroyed.
-    bool isIdle() { return mGate.isIdle(); }
-
 private:
     bool takeAsOwner(int milliseconds);
     bool leaveAsOwner();
