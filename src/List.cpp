@@ -2,10 +2,9 @@
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 
-#include "KeepUntilExit.h"
 #include "ListBoxPrivate.h"
 #include "ListTrace.h"
-#include "MakeRequest.h"
+#include "Road.h"
 
 // Every operation builds its request, on the GUI thread too; there it runs at once. A case below therefore calls
 // the step behind the operation and never the operation itself.
@@ -61,13 +60,6 @@ void tell(ListBoxPrivateIfc* box, void (Class::*operation)(Parameters...), Argum
         (box->*operation)(arguments...);
 }
 
-/// A wait without an answer has no slot for it.
-void answer(void** slot, void* object)
-{
-    if (slot)
-        *slot = object;
-}
-
 /// The commands are told apart by address, and workers may still hold them when the process ends.
 Command* lastingCommand(Command::Type type)
 {
@@ -96,7 +88,7 @@ List::~List()
     }
     postEvent(makeRequest(this, Request::Delete));
     // Both still there if the loop has ended.
-    keepIfRefused(this, mPrivate);
+    Road::keepIfRefused(this, mPrivate);
     deleteItems();
 }
 
@@ -171,7 +163,7 @@ void List::append(const std::string& text)
 void List::append(TranslationInfo* text)
 {
     TRACE_LIST("DAPI::List::append() this: %p tinfo: %p\n", static_cast<void*>(this), static_cast<void*>(text));
-    postEventHelper(Async, handingOver(makeRequest(this, Request::AppendTranslation, text), text));
+    postEventHelper(Async, makeRequest(this, Request::AppendTranslation, given(text)));
 }
 
 void List::append(ListItem* item)
@@ -179,7 +171,7 @@ void List::append(ListItem* item)
     // The name of the class and not the text: a trace must not wait for the GUI thread.
     TRACE_LIST("DAPI::List::append() this: %p listItem: %p, %s\n", static_cast<void*>(this), static_cast<void*>(item),
         item ? item->widgetName().c_str() : "");
-    postEventHelper(Async, handingOver(makeRequest(this, Request::AppendItem, item), item));
+    postEventHelper(Async, makeRequest(this, Request::AppendItem, given(item)));
 }
 
 void List::clear()
@@ -237,7 +229,7 @@ int List::getDisplayIndexForItem(ListItem*)
 void List::insertAt(ListItem* item, int index)
 {
     TRACE_LIST("insertAt() this: %p item %p index %d\n", static_cast<void*>(this), static_cast<void*>(item), index);
-    postEventHelper(Async, handingOver(makeRequest(this, Request::InsertAt, item, index), item));
+    postEventHelper(Async, makeRequest(this, Request::InsertAt, given(item), index));
 }
 
 ListItem* List::removeAt(int index)
@@ -258,7 +250,7 @@ void List::move(ListItem* old, ListItem* replacement, int index)
 {
     TRACE_LIST("move() this: %p item %p item %p index %d\n", static_cast<void*>(this), static_cast<void*>(old),
         static_cast<void*>(replacement), index);
-    postEventHelper(Async, handingOver(makeRequest(this, Request::Move, old, replacement, index), replacement));
+    postEventHelper(Async, makeRequest(this, Request::Move, old, given(replacement), index));
 }
 
 void List::removeAll()
@@ -268,7 +260,7 @@ void List::removeAll()
 
 void List::replace(ListItem* old, ListItem* replacement)
 {
-    postEventHelper(Async, handingOver(makeRequest(this, Request::Replace, old, replacement), replacement));
+    postEventHelper(Async, makeRequest(this, Request::Replace, old, given(replacement)));
 }
 
 int List::size()
@@ -288,7 +280,7 @@ void List::setTitle(const std::string& title)
 
 void List::setTitle(TranslationInfo* title)
 {
-    postEventHelper(Async, handingOver(makeRequest(this, Request::SetTitleTranslation, title), title));
+    postEventHelper(Async, makeRequest(this, Request::SetTitleTranslation, given(title)));
 }
 
 void List::setSystemWindowSize(int lines)

@@ -1,8 +1,7 @@
 #include <DisplayAPI/ListItem.h>
 
-#include "KeepUntilExit.h"
 #include "ListItemPrivate.h"
-#include "MakeRequest.h"
+#include "Road.h"
 
 namespace DisplayAPI {
 
@@ -53,7 +52,7 @@ ListItem::ListItem(TranslationInfo* text, bool flag)
 {
     mName = "ListItem";
     if (!isGuiThread())
-        postEventAsync(handingOver(makeRequest(this, Request::CreateFromTranslation, text, flag), text));
+        postEventAsync(makeRequest(this, Request::CreateFromTranslation, given(text), flag));
     else
         setPrivate(new ListItemPrivate(text, flag));
 }

@@ -3,14 +3,10 @@
 #include <DisplayAPI/PopupConfirm.h>
 #include <DisplayAPI/PopupConfirmPrivateIfc.h>
 
-#include "KeepUntilExit.h"
-#include "MakeRequest.h"
 #include "PopupConfirmPrivate.h"
+#include "Road.h"
 
 #include <TranslationInfo.h>
-
-// A popup whose creation was refused, since the event loop had ended, has no half on the GUI thread. A later loop may
-// still bring it calls: they change nothing, and what they hand over goes.
 
 namespace DisplayAPI {
 
@@ -41,31 +37,25 @@ enum class PopupConfirm::Request : int {
 
 PopupConfirm::PopupConfirm(bool flag)
 {
-    if (isGuiThread())
-        create(flag);
-    else
-        postEvent(makeRequest(this, Request::Create, flag));
+    create(flag);
 }
 
 PopupConfirm::~PopupConfirm()
 {
-    if (isGuiThread())
-        destroy();
-    else
-        postEvent(makeRequest(this, Request::Destroy));
-    keepIfRefused(this, mPrivate);
+    destroy();
 }
 
-void PopupConfirm::create(bool)
+void PopupConfirm::create(bool flag)
 {
+    if (!Road::wait(this, Request::Create, flag))
+        return;
     mName = "PopupConfirm";
     mPrivate = std::make_unique<PopupConfirmPrivate>(this);
 }
 
 void PopupConfirm::destroy()
 {
-    retireScreen();
-    mPrivate.reset();
+    Road::end(this, mPrivate, Request::Destroy);
 }
 
 DisplayablePrivateIfc* PopupConfirm::getPrivateImpl()
@@ -77,74 +67,50 @@ DisplayablePrivateIfc* PopupConfirm::getPrivateImpl()
 
 void PopupConfirm::setLine1PrefixText(const std::string& text)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetLine1PrefixText, text));
-    if (mPrivate)
-        mPrivate->setLine1PrefixText(text);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetLine1PrefixText, text))
+        half->setLine1PrefixText(text);
 }
 
 void PopupConfirm::setLine1PrefixText(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        return postEvent(handingOver(makeRequest(this, Request::SetLine1PrefixTranslation, text), text));
-    if (mPrivate)
-        mPrivate->setLine1PrefixText(text);
-    else
-        delete text;
+    if (auto* half = Road::wait(this, mPrivate, Request::SetLine1PrefixTranslation, given(text)))
+        half->setLine1PrefixText(text);
 }
 
 void PopupConfirm::setText(const std::string& text)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetText, text));
-    if (mPrivate)
-        mPrivate->setText(text);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetText, text))
+        half->setText(text);
 }
 
 void PopupConfirm::setText(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        return postEvent(handingOver(makeRequest(this, Request::SetTranslation, text), text));
-    if (mPrivate)
-        mPrivate->setText(text);
-    else
-        delete text;
+    if (auto* half = Road::wait(this, mPrivate, Request::SetTranslation, given(text)))
+        half->setText(text);
 }
 
 void PopupConfirm::setLine2PrefixText(const std::string& text)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetLine2PrefixText, text));
-    if (mPrivate)
-        mPrivate->setLine2PrefixText(text);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetLine2PrefixText, text))
+        half->setLine2PrefixText(text);
 }
 
 void PopupConfirm::setLine2PrefixText(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        return postEvent(handingOver(makeRequest(this, Request::SetLine2PrefixTranslation, text), text));
-    if (mPrivate)
-        mPrivate->setLine2PrefixText(text);
-    else
-        delete text;
+    if (auto* half = Road::wait(this, mPrivate, Request::SetLine2PrefixTranslation, given(text)))
+        half->setLine2PrefixText(text);
 }
 
 void PopupConfirm::setLine2Text(const std::string& text)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetLine2Text, text));
-    if (mPrivate)
-        mPrivate->setLine2Text(text);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetLine2Text, text))
+        half->setLine2Text(text);
 }
 
 void PopupConfirm::setLine2Text(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        return postEvent(handingOver(makeRequest(this, Request::SetLine2Translation, text), text));
-    if (mPrivate)
-        mPrivate->setLine2Text(text);
-    else
-        delete text;
+    if (auto* half = Road::wait(this, mPrivate, Request::SetLine2Translation, given(text)))
+        half->setLine2Text(text);
 }
 
 void PopupConfirm::setPartyDetails(const CallPartyIdentifier& party, int)
@@ -158,110 +124,86 @@ void PopupConfirm::setPartyDetails(const CallPartyIdentifier& party, int)
 
 void PopupConfirm::setState(PopupState state)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetState, state));
-    if (mPrivate)
-        mPrivate->setState(state);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetState, state))
+        half->setState(state);
 }
 
 // Choices
 
 void PopupConfirm::addCommand(Command* command)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::AddCommand, command));
-    if (mPrivate)
-        mPrivate->addCommand(command);
+    if (auto* half = Road::wait(this, mPrivate, Request::AddCommand, command))
+        half->addCommand(command);
 }
 
 void PopupConfirm::addCommand(Command*, bool) { }
 
 void PopupConfirm::setDefaultCommand(Command* command)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetDefaultCommand, command));
-    if (mPrivate)
-        mPrivate->setDefaultCommand(command);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetDefaultCommand, command))
+        half->setDefaultCommand(command);
 }
 
 void PopupConfirm::removeCommand(Command* command)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::RemoveCommand, command));
-    if (mPrivate)
-        mPrivate->removeCommand(command);
+    if (auto* half = Road::wait(this, mPrivate, Request::RemoveCommand, command))
+        half->removeCommand(command);
 }
 
 void PopupConfirm::clearCommands()
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::ClearCommands));
-    if (mPrivate)
-        mPrivate->clearCommands();
+    if (auto* half = Road::wait(this, mPrivate, Request::ClearCommands))
+        half->clearCommands();
 }
 
 int PopupConfirm::getSelectedIndex() const
 {
     int index = 0;
-    if (!isGuiThread()) {
-        postEvent(makeRequest(this, Request::GetSelectedIndex, result(index)));
-        return index;
-    }
-    return mPrivate ? mPrivate->getSelectedIndex() : index;
+    if (auto* half = Road::wait(this, mPrivate, Request::GetSelectedIndex, result(index)))
+        index = half->getSelectedIndex();
+    return index;
 }
 
 bool PopupConfirm::selectionHasChanged() const
 {
     bool hasChanged = false;
-    if (!isGuiThread()) {
-        postEvent(makeRequest(this, Request::SelectionHasChanged, result(hasChanged)));
-        return hasChanged;
-    }
-    return mPrivate && mPrivate->selectionHasChanged();
+    if (auto* half = Road::wait(this, mPrivate, Request::SelectionHasChanged, result(hasChanged)))
+        hasChanged = half->selectionHasChanged();
+    return hasChanged;
 }
 
 // Life on the screen
 
 void PopupConfirm::show()
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::Show));
-    if (mPrivate)
-        mPrivate->show();
+    if (auto* half = Road::wait(this, mPrivate, Request::Show))
+        half->show();
 }
 
 void PopupConfirm::dismiss()
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::Dismiss));
-    if (mPrivate)
-        mPrivate->dismiss();
+    if (auto* half = Road::wait(this, mPrivate, Request::Dismiss))
+        half->dismiss();
 }
 
 void PopupConfirm::setTimeout(int milliseconds)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::SetTimeout, milliseconds));
-    if (mPrivate)
-        mPrivate->setTimeout(milliseconds);
+    if (auto* half = Road::wait(this, mPrivate, Request::SetTimeout, milliseconds))
+        half->setTimeout(milliseconds);
 }
 
 // Listeners
 
 void PopupConfirm::addCommandListener(CommandListener* listener)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::AddCommandListener, listener));
-    if (mPrivate)
-        mPrivate->addCommandListener(listener);
+    if (auto* half = Road::wait(this, mPrivate, Request::AddCommandListener, listener))
+        half->addCommandListener(listener);
 }
 
 void PopupConfirm::removeCommandListener(CommandListener* listener)
 {
-    if (!isGuiThread())
-        return postEvent(makeRequest(this, Request::RemoveCommandListener, listener));
-    if (mPrivate)
-        mPrivate->removeCommandListener(listener);
+    if (auto* half = Road::wait(this, mPrivate, Request::RemoveCommandListener, listener))
+        half->removeCommandListener(listener);
 }
 
 MenuCommand* PopupConfirm::HIDDEN_COMMAND()
@@ -307,8 +249,8 @@ void PopupConfirm::processGuiRequest(GuiRequestEvent& event)
     case Request::RemoveCommand: removeCommand(command); break;
     case Request::SetDefaultCommand: setDefaultCommand(command); break;
     case Request::ClearCommands: clearCommands(); break;
-    case Request::GetSelectedIndex: *event.intResult = getSelectedIndex(); break;
-    case Request::SelectionHasChanged: *event.boolResult = selectionHasChanged(); break;
+    case Request::GetSelectedIndex: answer(event.intResult, getSelectedIndex()); break;
+    case Request::SelectionHasChanged: answer(event.boolResult, selectionHasChanged()); break;
     case Request::SetTimeout: setTimeout(event.intParam1); break;
     case Request::AddCommandListener: addCommandListener(listener); break;
     case Request::RemoveCommandListener: removeCommandListener(listener); break;

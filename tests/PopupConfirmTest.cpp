@@ -5,6 +5,7 @@
 
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/DisplayablePrivateIfc.h>
+#include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/MenuCommand.h>
 #include <DisplayAPI/PopupConfirm.h>
@@ -275,6 +276,24 @@ TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTellsTheListeners)
     EXPECT_EQ(screenField("caption"), "Below");
     popup.dismiss();
     EXPECT_EQ(display->getCurrent(), &below) << "a popup that is down already changes nothing";
+}
+
+TEST_F(PopupConfirmTest, ARequestPostedByHandMayHaveNoSlotForItsAnswer)
+{
+    PopupConfirm popup(true);
+    popup.addCommand(&yes);
+    popup.addCommand(&no);
+    show(popup);
+    press(UGlobal::KeyDown);
+    int index = -2;
+    GuiRequestEvent selectedIndex(&popup, 17);
+    popup.processGuiRequest(selectedIndex);
+    selectedIndex.intResult = &index;
+    popup.processGuiRequest(selectedIndex);
+    EXPECT_EQ(index, 1);
+    GuiRequestEvent selectionHasChanged(&popup, 18);
+    popup.processGuiRequest(selectionHasChanged);
+    EXPECT_FALSE(popup.selectionHasChanged()) << "read once, answer or not";
 }
 
 TEST_F(PopupConfirmTest, OddTextsAreTakenAsTheyAre)

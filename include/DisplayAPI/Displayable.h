@@ -48,6 +48,8 @@ protected:
     void retireScreen();
 
 private:
+    friend class Road;
+
     std::unique_ptr<ListenerList<ItemStateListener>> mItemStateListeners;
 };
 

@@ -69,6 +69,7 @@ protected:
 
 private:
     friend class GuiRequestEvent;
+    friend class Road;
 
     GuiRequestEvent* requestWithoutArguments(int type) const;
 

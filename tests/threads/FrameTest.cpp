@@ -1,5 +1,5 @@
 #include "Disturbance.h"
-#include "MakeRequest.h"
+#include "Road.h"
 #include "TestScreen.h"
 #include "ThreadedPhoneTest.h"
 
