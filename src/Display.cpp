@@ -5,8 +5,8 @@
 
 #include "DisplayPrivate.h"
 #include "LivingSet.h"
-#include "MakeRequest.h"
 #include "PostToApplication.h"
+#include "Road.h"
 
 #include <Semaphore.h>
 
@@ -437,10 +437,7 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::Hide: hide(); break;
     case Event::Show: show(); break;
     case Event::SetCurrent: setCurrent(event.getDisplayable()); break;
-    case Event::GetCurrent:
-        if (Displayable** result = event.getCurrentDisplayable())
-            *result = getCurrent();
-        break;
+    case Event::GetCurrent: answer(event.getCurrentDisplayable(), getCurrent()); break;
     case Event::Shutdown: shutdown(); break;
     case Event::LocaleChanged: localeChanged(text); break;
     case Event::DateFormatChanged: dateFormatChanged(text); break;
@@ -468,10 +465,7 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::SetSoftwareType: mPrivate->setSoftwareType(text); break;
     case Event::SetStatusMessage: mPrivate->setStatusMessage(text, unsignedAt(number)); break;
     case Event::Copy: copy(text); break;
-    case Event::Paste:
-        if (std::string* result = event.getStringReturnValue())
-            *result = paste();
-        break;
+    case Event::Paste: answer(event.getStringReturnValue(), paste()); break;
     case Event::StartTimer: mPrivate->startTimer(text); break;
     case Event::ShowTimer: mPrivate->showTimer(); break;
     case Event::HideTimer: mPrivate->hideTimer(flag); break;
