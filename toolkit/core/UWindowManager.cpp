@@ -58,6 +58,13 @@ void UWindowManager::lowerPopup(UWidget* popup)
     repaint();
 }
 
+void UWindowManager::pushBackPopup(UWidget* popup)
+{
+    std::stable_partition(
+        mPopups.begin(), mPopups.end(), [popup](const Popup& entry) { return entry.widget == popup; });
+    repaint();
+}
+
 bool UWindowManager::isUp(const UWidget* popup) const
 {
     return std::any_of(mPopups.begin(), mPopups.end(), [popup](const Popup& entry) { return entry.widget == popup; });

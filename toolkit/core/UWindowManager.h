@@ -45,6 +45,9 @@ public:
     /// the screen that is on top now stays there.
     void raisePopup(UWidget* popup);
     void lowerPopup(UWidget* popup);
+
+    /// Puts a popup that is up behind all others that are up.
+    void pushBackPopup(UWidget* popup);
     bool isUp(const UWidget* popup) const;
 
     /// A widget outside the root's tree that is painted by its layer, such as the system window.
