@@ -206,6 +206,14 @@ void UPainter::bar(int line, int column, int columns, int minimum, int maximum, 
     }
 }
 
+void UPainter::rule(int line)
+{
+    if (!isLine(line))
+        return;
+    for (int x = 0; x < UScreenWE1::Width; ++x)
+        mScreen.setPixel(x, lineTop(line), true);
+}
+
 void UPainter::invert(int line, int firstColumn, int lastColumn)
 {
     if (!isLine(line))

@@ -43,6 +43,9 @@ public:
     /// Draws a bar of `columns` cells, filled for `value` of the range from `minimum` to `maximum`.
     void bar(int line, int column, int columns, int minimum, int maximum, int value);
 
+    /// Draws a rule along the upper edge of a line.
+    void rule(int line);
+
     /// Swaps black and white of a line between two columns, both included.
     void invert(int line, int firstColumn = 0, int lastColumn = Columns - 1);
 
