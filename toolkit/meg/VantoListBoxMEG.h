@@ -106,7 +106,7 @@ public:
     static UString deleteText();
 
     /// A label for the way back in this list alone; empty means the one of setBackText().
-    void translateBack(const UString& text);
+    virtual void translateBack(const UString& text);
     UString backText() const;
 
     // Screen text
