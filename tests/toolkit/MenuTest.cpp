@@ -1,0 +1,188 @@
+#include "ContextMenuMEG.h"
+#include "EventTypes.h"
+#include "GlassTest.h"
+#include "PopupCallMEG.h"
+#include "PopupProgressActualMEG.h"
+#include "TabScreenMEG.h"
+#include "VantoListBoxItemMEG.h"
+#include "VantoListBoxMEG.h"
+#include "VantoListBoxWithTitleMEG.h"
+
+#include <algorithm>
+#include <memory>
+#include <random>
+
+namespace {
+
+class MenuTest : public GlassTest {
+protected:
+    std::unique_ptr<ContextMenuMEG> menu(const std::string& backText = "Back")
+    {
+        auto menu = std::make_unique<ContextMenuMEG>(&root, true, 1, backText);
+        menu->setListener(&recorder);
+        return menu;
+    }
+
+    static std::vector<std::string> rows(const ContextMenuMEG& menu)
+    {
+        std::vector<std::string> texts;
+        for (int index = 0; index < menu.listBox->count(); ++index)
+            texts.push_back(menu.listBox->item(index)->getText().toUTF8());
+        return texts;
+    }
+
+    using Rows = std::vector<std::string>;
+
+    Recorder recorder;
+};
+
+}
+
+// The Back row
+
+TEST_F(MenuTest, TheBackRowStandsLastWhateverComesAndGoes)
+{
+    const auto menu = this->menu();
+    VantoListBoxMEG& list = *menu->listBox;
+    EXPECT_EQ(rows(*menu), Rows{});
+    menu->addCommand("Call", 2, false, false, 0);
+    list.addItem(new VantoListBoxItemMEG(text("Delete"), 3));
+    EXPECT_EQ(rows(*menu), (Rows{"Call", "Delete", "Back"}));
+
+    list.setCurrentIndex(2);
+    menu->addCommand("Edit", 4, false, false, 0);
+    menu->setItemText(3, "Other", false);
+    EXPECT_EQ(rows(*menu), (Rows{"Call", "Delete", "Edit", "Back"}));
+    EXPECT_EQ(list.currentItem(), menu->backRow());
+
+    // Without anything to lead back from it goes; with the text taken away, too.
+    while (list.count() > 1)
+        delete list.item(0);
+    EXPECT_EQ(rows(*menu), Rows{});
+    menu->addCommand("Call", 2, false, false, 0);
+    list.translateBack(UString());
+    EXPECT_EQ(rows(*menu), Rows{"Call"});
+    list.translateBack(text("Zurück"));
+    delete menu->backRow();
+    list.clear();
+    EXPECT_EQ(menu->backRow(), nullptr);
+}
+
+// Focus and painting
+
+TEST_F(MenuTest, TheFocusFollowsWhatIsUpInEveryOrder)
+{
+    std::mt19937 random(7);
+    const auto roll = [&random](int end) { return std::uniform_int_distribution(0, end - 1)(random); };
+    std::vector<std::unique_ptr<RaisedWidget>> widgets(4);
+    std::vector<RaisedWidget*> up; // the last has the focus
+    for (int count = 0; count < 5000; ++count) {
+        const auto index = static_cast<std::size_t>(roll(4));
+        std::unique_ptr<RaisedWidget>& widget = widgets[index];
+        if (!widget) {
+            widget = index < 2 ? std::unique_ptr<RaisedWidget>(menu())
+                               : std::make_unique<PopupProgressActualMEG>(PopupProgressActualMEG::ProgressType{4});
+            widget->setParent(&root);
+        }
+        auto* menu = dynamic_cast<ContextMenuMEG*>(widget.get());
+        auto* popup = dynamic_cast<PopupBaseMEG*>(widget.get());
+        const auto place = std::find(up.begin(), up.end(), widget.get());
+        const bool isUp = place != up.end();
+        switch (roll(5)) {
+        case 0: // down
+            menu ? menu->slideOut() : popup->dismiss();
+            std::erase(up, widget.get());
+            break;
+        case 1: // behind the others
+            if (menu)
+                menu->pushBack();
+            if (menu && isUp)
+                std::rotate(up.begin(), place, place + 1);
+            break;
+        case 2: // out of the tree, or dead
+            std::erase(up, widget.get());
+            roll(2) == 0 ? widget.reset() : widget->setParent(nullptr);
+            break;
+        default:
+            widget->setParent(&root);
+            menu ? menu->slideIn() : popup->popupAsCall();
+            std::erase(up, widget.get());
+            up.push_back(widget.get());
+        }
+        ASSERT_EQ(manager.focusWidget(), up.empty() ? static_cast<UWidget*>(this->below) : up.back()) << count;
+        if (menu && widget) {
+            ASSERT_EQ(menu->isVisible(), std::find(up.begin(), up.end(), menu) != up.end());
+            ASSERT_EQ(menu->getStartLinePosition(), menu->isVisible() ? 2 : 0);
+        }
+    }
+}
+
+TEST_F(MenuTest, AMenuLeavesTheFirstLineToTheScreen)
+{
+    const auto menu = this->menu();
+    menu->addCommand("Take headset?", 2, false, false, 90);
+    menu->setMuteStatus(true);
+    menu->addCommand("Hold?", 3, false, false, 0);
+    menu->slideIn();
+    EXPECT_EQ(line(0), whole("upper"));
+    EXPECT_EQ(line(1), "□□Take headset?         □□v");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "Hold?                   □□|");
+    menu->setHeight(2);
+    EXPECT_EQ(menu->getStartLinePosition(), 1);
+    EXPECT_EQ(line(0), "Hold?                    □□");
+    EXPECT_EQ(line(1), "Back                      ^");
+    menu->slideOut();
+    EXPECT_EQ(line(1), whole("lower"));
+}
+
+TEST_F(MenuTest, AListenerMayDeleteTheMenuOrTheRowInsideAnyEvent)
+{
+    for (const int key : {UGlobal::KeyDown, UGlobal::KeyOk, UGlobal::KeyLeft, UGlobal::KeyRight}) {
+        for (const bool isMenu : {true, false}) {
+            auto menu = this->menu();
+            menu->addCommand("Call", 2, false, false, 0);
+            menu->addCommand("Edit", 3, false, false, 0);
+            menu->slideIn();
+            recorder.onEvent = [&](UEvent&) {
+                if (isMenu)
+                    menu.reset();
+                else
+                    delete menu->listBox->currentItem();
+            };
+            press(key);
+            EXPECT_EQ(recorder.takeTypes().size(), 1U);
+            line(0);
+        }
+    }
+}
+
+// Tabs
+
+TEST_F(MenuTest, TheTitleOfATabStandsAboveEveryContent)
+{
+    auto tabs = std::make_unique<TabScreenMEG>();
+    root.addWidget(tabs.get());
+    tabs->setTitle(text("Missed calls"));
+    auto list = std::make_unique<VantoListBoxWithTitleMEG>();
+    list->setTitle(text("Calls"));
+    list->list()->addItem(new VantoListBoxItemMEG(text("Bob")));
+    auto screen = std::make_unique<PlainScreen>();
+    for (UWidget* content : {static_cast<UWidget*>(list.get()), static_cast<UWidget*>(screen.get())}) {
+        tabs->setCurrent(content);
+        EXPECT_EQ(line(0), whole("Missed calls"));
+        EXPECT_EQ(line(1), whole(content == screen.get() ? "lower" : "Bob"));
+        EXPECT_EQ(manager.focusWidget(), content->focusTarget());
+    }
+    EXPECT_EQ(list->parentWidget(), nullptr);
+
+    tabs->setTitle(UString());
+    tabs->setCurrent(list.get());
+    EXPECT_EQ(line(0), whole("Calls"));
+    // A content that dies leaves, and a widget around the tabs can't come in.
+    list.reset();
+    EXPECT_EQ(tabs->current(), nullptr);
+    tabs->setCurrent(&root);
+    EXPECT_EQ(tabs->current(), nullptr);
+    EXPECT_EQ(manager.focusWidget(), below);
+}
