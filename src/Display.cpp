@@ -95,9 +95,10 @@ Display::Display(std::string applicationName, std::string name, PhysDefs::hardwa
     : mDisplayName(name)
     , mSoftwareType(softwareType)
 {
+    // First, since a display that follows another one may reach screens from before, which ask for the thread.
+    Widget::setGuiThreadId();
     init(new DisplayPrivate(std::move(applicationName), server, std::move(name), std::move(softwareType),
         std::move(locale), std::move(dateFormat), std::move(timeFormat), area, nullptr));
-    Widget::setGuiThreadId();
 }
 
 Display::~Display()

@@ -8,6 +8,7 @@
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "LivingDisplays.h"
+#include "Road.h"
 #include "VantoUApplicationFactory.h"
 
 #include <HardwareVersion.h>
@@ -50,6 +51,7 @@ DisplayPrivate::DisplayPrivate(std::string applicationName, bool server, std::st
         VantoUApplication::HardwareVariant{},
         static_cast<VantoUApplication::SoftwareType>(softwareTypeNumber(softwareType)),
         static_cast<PhysDefs::hardwareSubVariant>(subVariant));
+    deleteKeptHalves();
     if (auto* application = VantoUApplication::getCurrentApplication()) {
         application->setHardwareVariant(VantoUApplication::HardwareVariant{});
         DisplayPrivate::setSoftwareType(softwareType);
@@ -221,6 +223,7 @@ void DisplayPrivate::exec()
         ~End() { isLoopRunning = false; }
     };
     const End end;
+    deleteKeptHalves();
     const unsigned long number = LivingDisplays::numberOf(this);
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->exec();

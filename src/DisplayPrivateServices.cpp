@@ -6,6 +6,7 @@
 #include "BuiltInTexts.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
+#include "Road.h"
 
 #include <StatusVolumeMEG.h>
 #include <VantoListBoxMEG.h>
@@ -45,6 +46,7 @@ void refreshListTexts(TranslatorIfc* translator)
 void DisplayPrivate::localeChanged(std::string locale)
 {
     mLocale = std::move(locale);
+    deleteKeptHalves();
     refreshListTexts(DisplayablePrivate::commonTranslator);
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->setLocale(mLocale);

@@ -9,17 +9,42 @@
 
 namespace DisplayAPI {
 
+namespace {
+
+struct Kept {
+    std::mutex mutex;
+    std::vector<void*> objects;
+    std::vector<std::shared_ptr<void>> halves;
+};
+
+// Never destroyed, so that what is kept stays reachable.
+Kept& kept()
+{
+    static Kept& instance = *new Kept;
+    return instance;
+}
+
+}
+
 void keepUntilExit(void* object)
 {
-    struct Kept {
-        std::mutex mutex;
-        std::vector<void*> objects;
-    };
-    static Kept& kept = *new Kept;
     if (!object)
         return;
-    std::lock_guard lock(kept.mutex);
-    kept.objects.push_back(object);
+    std::lock_guard lock(kept().mutex);
+    kept().objects.push_back(object);
+}
+
+void keepForGuiThread(std::shared_ptr<void> half)
+{
+    std::lock_guard lock(kept().mutex);
+    kept().halves.push_back(std::move(half));
+}
+
+void deleteKeptHalves()
+{
+    std::vector<std::shared_ptr<void>> halves; // they go behind the lock
+    std::lock_guard lock(kept().mutex);
+    halves.swap(kept().halves);
 }
 
 void RequestSlots::keepIfRefused(void* object)

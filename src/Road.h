@@ -57,6 +57,13 @@ GivenObject<T> given(T* object)
 /// kept and not as lost.
 void keepUntilExit(void* object);
 
+/// Keeps the half of a handle whose deletion was refused, until the GUI thread can delete it. Threads: any.
+void keepForGuiThread(std::shared_ptr<void> half);
+
+/// Deletes the halves that were kept, before anything can reach them that happens to a later loop or display: their
+/// owners have gone, and other screens may stand at the addresses. Threads: GUI thread.
+void deleteKeptHalves();
+
 /// Fills the slots of a request, each kind of argument in the order in which it comes.
 class RequestSlots {
 public:
@@ -188,7 +195,7 @@ public:
     }
 
     /// The end of a half, and all that a destructor does: on the GUI thread the handle is retired and the half
-    /// deleted. If the loop has ended the half stays until the process does, and nobody finds it any more.
+    /// deleted. If the loop has ended the half stays until there is another one, and nobody finds it any more.
     template <typename Handle, typename Half, typename Request>
     static void end(Handle* handle, std::unique_ptr<Half>& half, Request request)
     {
@@ -208,7 +215,12 @@ public:
         if (!half)
             return;
         leaveRegistry(*handle);
-        keepUntilExit(half.release());
+        keepForGuiThread(std::shared_ptr<void>(half.release(), [](Half* kept) {
+            // Whatever tree its widget stands in, nobody else will take it away.
+            if constexpr (requires { kept->gainOwnership(); })
+                kept->gainOwnership();
+            delete kept;
+        }));
     }
 
 private:

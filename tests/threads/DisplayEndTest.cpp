@@ -1,12 +1,19 @@
-#include "PhoneTest.h"
+#include "TestTranslator.h"
+#include "ThreadedPhoneTest.h"
 
 #include <DisplayAPI/Display.h>
+#include <DisplayAPI/List.h>
+#include <DisplayAPI/PopupConfirm.h>
 
 #include <Log.h>
+#include <TranslationInfo.h>
 #include <UApplication.h>
 #include <UEvent.h>
+#include <UWidget.h>
+#include <UWindowManager.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <thread>
 #include <utility>
@@ -72,4 +79,29 @@ TEST_F(DisplayEndTest, ExecIsRefusedOnAnotherThreadAndInsideItself)
     EXPECT_EQ(log.texts(),
         (std::vector<std::string>{"Display::exec() is refused: this is not the GUI thread.",
             "Display::exec() is refused: the loop runs already."}));
+}
+
+using KeptHalfTest = ThreadedPhoneTest;
+
+TEST_F(KeptHalfTest, HasGoneBeforeALaterDisplayCouldReachIt)
+{
+    TestTranslator translator;
+    auto list = std::make_unique<List>(0);
+    auto popup = std::make_unique<PopupConfirm>(true);
+    list->setTitle(new TranslationInfo("", "Title", "", &translator));
+    popup->setText(new TranslationInfo("", "Question", "", &translator));
+    display->setCurrent({list.get(), popup.get()});
+    endLoop();
+    list.reset(); // neither can be deleted off the GUI thread any more
+    popup.reset();
+    int asked = 0;
+    translator.whenAsked = [&asked](const std::string& key) {
+        ++asked;
+        return key;
+    };
+    UWidget* glass = UWindowManager::instance().root();
+    EXPECT_NE(glass->firstChild(), nullptr);
+    const Display next("Test", "de", "", "", false, nullptr);
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(glass->firstChild(), nullptr);
 }
