@@ -1,5 +1,6 @@
 #include "UString.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace {
@@ -158,6 +159,12 @@ int _template_UString<C>::find(const _template_UString& text, std::size_t start)
 {
     const std::size_t index = mUnits.find(text.mUnits, start);
     return index == std::u16string::npos ? -1 : static_cast<int>(index);
+}
+
+template <typename C>
+void _template_UString<C>::replace(std::size_t start, std::size_t count, const _template_UString& text)
+{
+    mUnits.replace(std::min(start, mUnits.size()), count, text.mUnits);
 }
 
 template <typename C>

@@ -34,6 +34,9 @@ public:
 
     void append(C unit) { mUnits.push_back(static_cast<char16_t>(unit)); }
 
+    /// Puts a text in the place of `count` units from `start` on. What lies behind the end is its end.
+    void replace(std::size_t start, std::size_t count, const _template_UString& text);
+
     /// Takes off the last character: a surrogate pair goes as one.
     void removeLast();
 
