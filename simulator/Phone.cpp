@@ -8,6 +8,7 @@
 #include <ULoop.h>
 #include <UWindowManager.h>
 
+#include <algorithm>
 #include <thread>
 
 namespace Simulator {
@@ -117,6 +118,13 @@ bool Phone::onGui(const std::function<void()>& function)
 
 void Phone::key(int code, UGlobal::KeyState state)
 {
+    const int functionKey = code - UGlobal::KeyFunction1 + 1;
+    const auto step = std::ranges::find(mSettings.steps, functionKey, &CustomStep::functionKey);
+    if (functionKey > 0 && step != mSettings.steps.end()) {
+        if (state == UGlobal::KeyPressed)
+            callStep(step->name, "");
+        return;
+    }
     UApplication::instance()->postKey(code, state);
 }
 
@@ -124,6 +132,16 @@ void Phone::tap(int code)
 {
     key(code, UGlobal::KeyPressed);
     key(code, UGlobal::KeyReleased);
+}
+
+bool Phone::callStep(const std::string& name, const std::string& argument)
+{
+    const auto step = std::ranges::find(mSettings.steps, name, &CustomStep::name);
+    if (step == mSettings.steps.end() || !finishPosted())
+        return false;
+    const std::lock_guard lock(mStepMutex);
+    step->function(argument);
+    return true;
 }
 
 bool Phone::advance(std::chrono::milliseconds time)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CustomStep.h"
 #include "FixedFont.h"
 #include "ScreenWatch.h"
 
@@ -13,7 +14,9 @@
 #include <chrono>
 #include <exception>
 #include <functional>
+#include <mutex>
 #include <string>
+#include <vector>
 
 namespace Simulator {
 
@@ -30,6 +33,7 @@ public:
         std::string fontFile; ///< Empty for the system's.
         HardwareVersion::Set hardware;
         ClockKind clock = ClockKind::Real;
+        std::vector<CustomStep> steps; ///< Of the phonelet, with their keys.
     };
 
     /// Works the telephone; the phonelet is told to end when it returns.
@@ -44,10 +48,16 @@ public:
 
     // For the driver; threads: any
 
+    /// Hands a key to the telephone. A function key that the phonelet has taken for a step calls the step when it
+    /// is pressed, on the calling thread, and is no key of the telephone.
     void key(int code, UGlobal::KeyState state);
 
     /// Presses the key and releases it.
     void tap(int code);
+
+    /// Calls a step of the phonelet's own, on the calling thread, once what was posted before has run. False when
+    /// the telephone did not answer in time, has ended, or has no such step. What the step throws comes out.
+    bool callStep(const std::string& name, const std::string& argument);
 
     /// Moves a manual clock. False when the telephone did not answer in time, or has ended.
     bool advance(std::chrono::milliseconds time);
@@ -78,6 +88,7 @@ private:
     DisplayAPI::Display* mDisplay = nullptr; // while run() lasts
     std::atomic<bool> mIsPublishPosted = false;
     std::exception_ptr mDriverError;
+    std::mutex mStepMutex; // held while a step of the phonelet's own runs
 };
 
 }

@@ -23,9 +23,12 @@ constexpr int Success = 0;
 constexpr int Failure = 1;
 constexpr int BadUsage = 2;
 
-Phone::Settings phoneSettings(const Options& options)
+using Steps = std::vector<CustomStep>;
+
+Phone::Settings phoneSettings(const Options& options, const Steps& steps)
 {
     Phone::Settings settings;
+    settings.steps = steps;
     settings.fontFile = options.font;
     settings.hardware = options.hardware;
     if (options.mode != Options::Mode::Terminal)
@@ -47,18 +50,35 @@ void end(Phone& phone)
     std::_Exit(Failure);
 }
 
-int runTerminal(const Options& options, const Phonelet& phonelet)
+void check(const Steps& steps)
+{
+    constexpr int functionKeys = 8;
+    for (const CustomStep& step : steps) {
+        if (!step.function || !canNameStep(step.name) || step.functionKey < 0 || step.functionKey > functionKeys)
+            throw UsageError("\"" + step.name + "\" can't be a step of the phonelet's own");
+    }
+}
+
+std::vector<std::string> namesOf(const Steps& steps)
+{
+    std::vector<std::string> names;
+    for (const CustomStep& step : steps)
+        names.push_back(step.name);
+    return names;
+}
+
+int runTerminal(const Options& options, const Steps& steps, const Phonelet& phonelet)
 {
     SignalWatch signals;
-    Phone phone(phoneSettings(options));
+    Phone phone(phoneSettings(options, steps));
     TerminalView view(phone, signals);
     phone.run(phonelet, [&view](Phone&) { view.run(); });
     return Success;
 }
 
-int runScript(const Options& options, const Script& script, const Phonelet& phonelet)
+int runScript(const Options& options, const Steps& steps, const Script& script, const Phonelet& phonelet)
 {
-    Phone phone(phoneSettings(options));
+    Phone phone(phoneSettings(options, steps));
     int failures = 0;
     phone.run(phonelet, [&](Phone& driven) {
         failures = ScriptRunner(driven, {options.patience, options.scale}, std::cout, std::cerr).run(script);
@@ -67,9 +87,9 @@ int runScript(const Options& options, const Script& script, const Phonelet& phon
     return failures == 0 ? Success : Failure;
 }
 
-int runOnce(const Options& options, const Phonelet& phonelet)
+int runOnce(const Options& options, const Steps& steps, const Phonelet& phonelet)
 {
-    Phone phone(phoneSettings(options));
+    Phone phone(phoneSettings(options, steps));
     phone.run(phonelet, [&options](Phone& driven) {
         driven.settle();
         const Snapshot snapshot = driven.watch().snapshot();
@@ -82,10 +102,10 @@ int runOnce(const Options& options, const Phonelet& phonelet)
     return Success;
 }
 
-int runTour(const Options& options, const std::string& tour, const Phonelet& phonelet)
+int runTour(const Options& options, const Steps& steps, const std::string& tour, const Phonelet& phonelet)
 {
     std::istringstream input(tour.empty() ? "show\n" : tour);
-    return runScript(options, parseScript(input, "tour"), phonelet);
+    return runScript(options, steps, parseScript(input, "tour", namesOf(steps)), phonelet);
 }
 
 bool hasTerminal()
@@ -93,21 +113,22 @@ bool hasTerminal()
     return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
 }
 
-int runAsAsked(const Options& options, const std::string& tour, const Phonelet& phonelet)
+int runAsAsked(const Options& options, const Steps& steps, const std::string& tour, const Phonelet& phonelet)
 {
+    check(steps);
     switch (options.mode) {
     case Options::Mode::Help: std::cout << options.help; return Success;
     case Options::Mode::Terminal:
         if (hasTerminal())
-            return runTerminal(options, phonelet);
+            return runTerminal(options, steps, phonelet);
         break;
-    case Options::Mode::Script: return runScript(options, readScript(options.script), phonelet);
-    case Options::Mode::Once: return runOnce(options, phonelet);
+    case Options::Mode::Script: return runScript(options, steps, readScript(options.script, namesOf(steps)), phonelet);
+    case Options::Mode::Once: return runOnce(options, steps, phonelet);
     case Options::Mode::Tour: break;
     }
     Options tourOptions = options;
     tourOptions.mode = Options::Mode::Tour;
-    return runTour(tourOptions, tour, phonelet);
+    return runTour(tourOptions, steps, tour, phonelet);
 }
 
 }
@@ -126,10 +147,20 @@ PhoneSimulator& PhoneSimulator::setTour(std::string script)
     return *this;
 }
 
+PhoneSimulator& PhoneSimulator::onStep(const std::string& name, StepFunction function, int functionKey)
+{
+    std::erase_if(mSteps, [&name](const OwnStep& step) { return step.name == name; });
+    mSteps.push_back({name, std::move(function), functionKey});
+    return *this;
+}
+
 int PhoneSimulator::run(const Phonelet& phonelet)
 {
+    Simulator::Steps steps;
+    for (const OwnStep& step : mSteps)
+        steps.push_back({step.name, step.function, step.functionKey});
     try {
-        return Simulator::runAsAsked(Simulator::parseOptions(mArgumentCount, mArguments), mTour, phonelet);
+        return Simulator::runAsAsked(Simulator::parseOptions(mArgumentCount, mArguments), steps, mTour, phonelet);
     } catch (const Simulator::UsageError& error) {
         std::cerr << "phone: " << error.what() << std::endl;
         return Simulator::BadUsage;

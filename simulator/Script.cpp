@@ -113,36 +113,50 @@ const std::map<std::string, Word>& words()
     return table;
 }
 
-std::string wordList()
+std::string wordList(const std::vector<std::string>& customSteps)
 {
     std::string list;
     for (const auto& entry : words())
         list += (list.empty() ? "" : ", ") + entry.first;
+    for (const std::string& name : customSteps)
+        list += ", " + name;
     return list;
 }
 
-Step parseStep(const std::string& line)
+Step parseStep(const std::string& line, const std::vector<std::string>& customSteps)
 {
     const auto end = std::min(line.find_first_of(" \t"), line.size());
     const std::string name = line.substr(0, end);
     const std::string argument = trimmed(line.substr(end));
+    Step step;
+    step.source = line;
+    if (std::ranges::find(customSteps, name) != customSteps.end()) {
+        step.kind = Step::Kind::Custom;
+        step.name = name;
+        step.text = argument;
+        return step;
+    }
     const auto word = words().find(name);
     if (word == words().end())
-        throw UsageError("no step is called \"" + name + "\"; the steps are " + wordList());
+        throw UsageError("no step is called \"" + name + "\"; the steps are " + wordList(customSteps));
     if (word->second.hasArgument && argument.empty())
         throw UsageError(name + " needs something behind it");
     if (!word->second.hasArgument && !argument.empty())
         throw UsageError(name + " takes nothing behind it");
-    Step step;
     step.kind = word->second.kind;
-    step.source = line;
     word->second.parse(step, argument);
     return step;
 }
 
 }
 
-Script parseScript(std::istream& input, const std::string& name)
+bool canNameStep(const std::string& word)
+{
+    return !word.empty() && word[0] != '#' && word.find_first_of(" \t\r\n") == std::string::npos
+        && !words().contains(word);
+}
+
+Script parseScript(std::istream& input, const std::string& name, const std::vector<std::string>& customSteps)
 {
     Script script{name, {}};
     std::string line;
@@ -151,7 +165,7 @@ Script parseScript(std::istream& input, const std::string& name)
         if (line.empty() || line[0] == '#')
             continue;
         try {
-            script.steps.push_back(parseStep(line));
+            script.steps.push_back(parseStep(line, customSteps));
             script.steps.back().line = lineNumber;
         } catch (const UsageError& error) {
             throw UsageError(name + ":" + std::to_string(lineNumber) + ": " + error.what());
@@ -160,12 +174,12 @@ Script parseScript(std::istream& input, const std::string& name)
     return script;
 }
 
-Script readScript(const std::string& file)
+Script readScript(const std::string& file, const std::vector<std::string>& customSteps)
 {
     std::ifstream input(file);
     if (!input || std::filesystem::is_directory(file))
         throw UsageError("cannot read the script " + file);
-    return parseScript(input, file);
+    return parseScript(input, file, customSteps);
 }
 
 }

@@ -20,11 +20,13 @@ struct Step {
         Show,      ///< Prints the screen, drawn and as text.
         Shot,      ///< Writes the screen to the file `text`.
         Say,       ///< Prints `text`.
+        Custom,    ///< Calls the phonelet's own step `name` with `text`.
     };
 
     Kind kind = Kind::Press;
     int line = 0;
     std::string source; ///< The step as it stands in the script.
+    std::string name;
     std::vector<int> keys;
     int count = 1;
     std::string text;
@@ -37,11 +39,14 @@ struct Script {
     std::vector<Step> steps;
 };
 
-/// Reads a script: one step a line; a line that starts with `#` is a comment. Throws UsageError, with the name
-/// and the line, for a step that is none.
-Script parseScript(std::istream& input, const std::string& name);
+/// Reads a script: one step a line; a line that starts with `#` is a comment. `customSteps` names the phonelet's
+/// own. Throws UsageError, with the name and the line, for a step that is none.
+Script parseScript(std::istream& input, const std::string& name, const std::vector<std::string>& customSteps = {});
 
 /// Reads a script file. Throws UsageError also when it can't be read.
-Script readScript(const std::string& file);
+Script readScript(const std::string& file, const std::vector<std::string>& customSteps = {});
+
+/// True for a word that can name a step of the phonelet's own.
+bool canNameStep(const std::string& word);
 
 }

@@ -5,8 +5,8 @@
 #include "Picture.h"
 #include "ScreenText.h"
 
+#include <exception>
 #include <ostream>
-#include <stdexcept>
 
 namespace Simulator {
 
@@ -29,7 +29,8 @@ int ScriptRunner::run(const Script& script)
 {
     int failures = 0;
     for (const Step& step : script.steps) {
-        const std::string reason = mPhone.watch().hasEnded() ? "the phonelet has ended before this step" : play(step);
+        const std::string reason
+            = mPhone.watch().hasEnded() ? "the phonelet has ended before this step" : playChecked(step);
         if (reason.empty())
             continue;
         ++failures;
@@ -38,6 +39,16 @@ int ScriptRunner::run(const Script& script)
             break;
     }
     return failures;
+}
+
+std::string ScriptRunner::playChecked(const Step& step)
+{
+    try {
+        return play(step);
+    } catch (const std::exception& error) {
+        // A step of the phonelet's own has failed, by its name or by its key; or a file.
+        return error.what();
+    }
 }
 
 std::string ScriptRunner::play(const Step& step)
@@ -59,7 +70,8 @@ std::string ScriptRunner::play(const Step& step)
     case Step::Kind::Advance: return mPhone.advance(step.time) ? "" : "the telephone does not answer";
     case Step::Kind::Text: mOutput << settledScreen().text << std::flush; return "";
     case Step::Kind::Show: Simulator::printScreen(settledScreen(), mOutput); return "";
-    case Step::Kind::Shot: return writeShot(step.text);
+    case Step::Kind::Shot: writePicture(drawPicture(settledScreen().screen, mSettings.scale), step.text); return "";
+    case Step::Kind::Custom: return mPhone.callStep(step.name, step.text) ? "" : "the telephone does not answer";
     case Step::Kind::Say: mOutput << step.text << std::endl; return "";
     }
     return "";
@@ -77,16 +89,6 @@ std::string ScriptRunner::expect(const Step& step)
         return "";
     return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text
         + "\", the screen has: " + inOneLine(mPhone.watch().snapshot().text);
-}
-
-std::string ScriptRunner::writeShot(const std::string& file)
-{
-    try {
-        writePicture(drawPicture(settledScreen().screen, mSettings.scale), file);
-        return "";
-    } catch (const std::runtime_error& error) {
-        return error.what();
-    }
 }
 
 Snapshot ScriptRunner::settledScreen()

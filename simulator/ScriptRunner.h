@@ -29,8 +29,8 @@ public:
 private:
     /// Plays the step; a failure's reason, or nothing.
     std::string play(const Step& step);
+    std::string playChecked(const Step& step);
     std::string expect(const Step& step);
-    std::string writeShot(const std::string& file);
     Snapshot settledScreen();
 
     Phone& mPhone;

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <sstream>
 #include <stdexcept>
+#include <thread>
 
 using namespace Simulator;
 using namespace std::chrono_literals;
@@ -34,8 +35,11 @@ protected:
     int play(const std::string& text, const Phonelet& phonelet = shortList)
     {
         std::istringstream input(text);
-        const Script script = parseScript(input, "test");
-        Phone phone({"", {}, Phone::ClockKind::Manual});
+        std::vector<std::string> names;
+        for (const CustomStep& step : mSteps)
+            names.push_back(step.name);
+        const Script script = parseScript(input, "test", names);
+        Phone phone({"", {}, Phone::ClockKind::Manual, mSteps});
         int failures = -1;
         phone.run(phonelet, [&](Phone& driven) {
             failures = ScriptRunner(driven, {mPatience, 2}, mOutput, mErrors).run(script);
@@ -43,6 +47,7 @@ protected:
         return failures;
     }
 
+    std::vector<CustomStep> mSteps;
     std::chrono::milliseconds mPatience = 20s;
     std::ostringstream mOutput;
     std::ostringstream mErrors;
@@ -115,6 +120,30 @@ TEST_F(ScriptRunnerTest, PicturesAndDrawingsShowWhatIsOnTheGlass)
     EXPECT_EQ(mOutput.str().find("first\n┌──"), 0U) << mOutput.str();
     EXPECT_NE(mOutput.str().find("▛"), std::string::npos) << "some letter is drawn";
     EXPECT_NE(mOutput.str().find("┘\nobject:\n"), std::string::npos);
+}
+
+TEST_F(ScriptRunnerTest, AStepOfThePhoneletsOwnIsCalledByItsNameAndByItsKey)
+{
+    std::vector<std::string> calls;
+    const std::thread::id guiThread = std::this_thread::get_id();
+    mSteps = {{"incoming",
+        [&](const std::string& party) {
+            EXPECT_NE(std::this_thread::get_id(), guiThread);
+            if (party == "nobody")
+                throw std::runtime_error("no such party");
+            calls.push_back(party);
+        },
+        2}};
+    EXPECT_EQ(play("incoming Bob 4712\n"
+                   "press F2\n"
+                   "press F3\n"
+                   "incoming nobody\n"
+                   "expect Speaker\n"),
+        1);
+    EXPECT_EQ(calls, (std::vector<std::string>{"Bob 4712", ""}));
+    EXPECT_EQ(mErrors.str(), "test:4: incoming nobody: no such party\n");
+    EXPECT_FALSE(canNameStep("press"));
+    EXPECT_FALSE(canNameStep("two words"));
 }
 
 TEST_F(ScriptRunnerTest, APhoneletThatEndsEarlyFailsTheSteps)

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace DisplayAPI {
 class Display;
@@ -30,6 +31,21 @@ public:
     /// screen. Returns the simulator itself.
     PhoneSimulator& setTour(std::string script);
 
+    /// What a step of the phonelet's own does; the argument is what stands behind its name in the script.
+    using StepFunction = std::function<void(const std::string& argument)>;
+
+    /// Adds a step to those of the scripts, for what reaches a telephone from outside: a line `NAME ARGUMENT` calls
+    /// the function, and pressing function key 1 to 8 too, with an empty argument. Without a key (0) it is for
+    /// scripts alone. A key that no step has taken stays a function key of the telephone. A second step of the same
+    /// name takes the place of the first. Returns the simulator itself.
+    ///
+    /// The function is called off the GUI thread, one call at a time, between the first turn of the phonelet's loop
+    /// and the end of run(); it should return soon. What it throws fails the script's step; in the terminal it ends
+    /// the telephone. So what it uses is made before run() and may find the phonelet's screens gone.
+    /// Errors: an empty function, a name that has blanks or that a step of every script has, and a key outside 0 to
+    /// 8 end run() with 2.
+    PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
+
     /// Runs the phonelet until the user or the script leaves, and gives the exit code of the program: 0, 1 after
     /// a failed step or a failed phonelet, 2 for an option, script, or font that can't be used.
     int run(const Phonelet& phonelet);
@@ -38,4 +54,10 @@ private:
     int mArgumentCount;
     const char* const* mArguments;
     std::string mTour;
+    struct OwnStep {
+        std::string name;
+        StepFunction function;
+        int functionKey;
+    };
+    std::vector<OwnStep> mSteps;
 };
