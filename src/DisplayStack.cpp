@@ -94,7 +94,9 @@ void DisplayStack::showAll()
     forEach([this](const StackScreen& screen) {
         if (isInContent(screen.widget()))
             return;
-        bringIn(screen);
+        screen.widget().setParent(nullptr);
+        screen->releaseOwnership();
+        screen.widget().setParent(mContent);
         screen.widget().setVisible(true);
     });
     if (const StackScreen screen{top()})
@@ -106,19 +108,14 @@ void DisplayStack::showWidget(const StackScreen& screen)
     if (!mIsVisible)
         return;
     if (!isInContent(screen.widget())) {
+        screen.widget().setParent(nullptr);
         mContent->setVisible(true);
-        bringIn(screen);
+        screen.widget().setParent(mContent);
+        screen->releaseOwnership();
     }
     screen.widget().show();
     screen.widget().refresh();
     screen->show();
-}
-
-void DisplayStack::bringIn(const StackScreen& screen)
-{
-    screen.widget().setParent(nullptr);
-    screen->releaseOwnership();
-    screen.widget().setParent(mContent);
 }
 
 // Going

@@ -86,7 +86,6 @@ private:
     void clear();
     void addNewCurrent(const StackScreen& screen);
     void showWidget(const StackScreen& screen);
-    void bringIn(const StackScreen& screen);
     Displayable* top();
     bool holds(const Displayable* displayable) const;
     bool isInContent(const UWidget& widget) const;
