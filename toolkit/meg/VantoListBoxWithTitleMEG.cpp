@@ -1,5 +1,6 @@
 #include "VantoListBoxWithTitleMEG.h"
 
+#include "TextCells.h"
 #include "UEvent.h"
 #include "UPainter.h"
 #include "VantoListBoxItemMEG.h"
@@ -105,8 +106,12 @@ void VantoListBoxWithTitleMEG::paint(UPainter& painter)
     // What the widget around this one has on the first line was painted before.
     const bool isLineKept = parentWidget() && parentWidget()->keepsFirstLine();
     painter.clearLines(isLineKept ? 1 : 0, 1);
-    if (mList->firstLine() > 0 && !isFirstLineTaken())
-        painter.rowText(0, 0, mTitle->text(), UPainter::Columns);
+    if (mList->firstLine() == 0 || isFirstLineTaken())
+        return;
+    const UString suffix = titleSuffix();
+    const int taken = TextCells::count(suffix, UPainter::Columns);
+    painter.textRight(0, UPainter::Columns - 1, suffix);
+    painter.rowText(0, 0, mTitle->text(), UPainter::Columns - (taken > 0 ? taken + 1 : 0));
 }
 
 // Radio buttons

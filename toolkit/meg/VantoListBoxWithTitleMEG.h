@@ -48,6 +48,9 @@ protected:
     /// Gives the list the second line, or both. A rectangle that somebody else has given to it stays.
     void placeList(bool isBelowFirstLine);
 
+    /// What stands at the right end of the title line; the title gives way to it.
+    virtual UString titleSuffix() const { return UString(); }
+
 private:
     ListTitleMEG* mTitle;
     VantoListBoxMEG* mList;
