@@ -130,7 +130,7 @@ TEST_F(MenuTest, AMenuLeavesTheFirstLineToTheScreen)
     EXPECT_EQ(line(1), "Hold?                   □□|");
     menu->setHeight(2);
     EXPECT_EQ(menu->getStartLinePosition(), 1);
-    EXPECT_EQ(line(0), "Hold?                    □□");
+    EXPECT_EQ(line(0), "Hold?                   □□ ");
     EXPECT_EQ(line(1), "Back                      ^");
     menu->slideOut();
     EXPECT_EQ(line(1), whole("lower"));
