@@ -71,6 +71,8 @@ INSTANTIATE_TEST_SUITE_P(PopupConfirm, EveryScreenTest,
             {"setDefaultCommand", [](auto& popup, auto& stage) { popup.setDefaultCommand(&stage.last); }},
             {"removeCommand", [](auto& popup, auto& stage) { popup.removeCommand(&stage.yes); }},
             {"clearCommands", [](auto& popup, auto&) { popup.clearCommands(); }},
+            {"time-out", [](auto&, auto& stage) { stage.advance(3000); }},
+            {"dismiss", [](auto& popup, auto&) { popup.dismiss(); }},
         },
         tell));
 
