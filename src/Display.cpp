@@ -466,7 +466,10 @@ void Display::runRequest(DisplayRequestEvent& event)
     case Event::SetSoftwareType: mPrivate->setSoftwareType(text); break;
     case Event::SetStatusMessage: mPrivate->setStatusMessage(text, unsignedAt(number)); break;
     case Event::Copy: copy(text); break;
-    case Event::Paste: answer(event.getStringReturnValue(), paste()); break;
+    case Event::Paste:
+        if (std::string* result = event.getStringReturnValue())
+            *result = paste();
+        break;
     case Event::StartTimer: mPrivate->startTimer(text); break;
     case Event::ShowTimer: mPrivate->showTimer(); break;
     case Event::HideTimer: mPrivate->hideTimer(flag); break;
