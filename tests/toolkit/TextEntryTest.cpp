@@ -77,7 +77,10 @@ TEST_F(TextEntryTest, TheFirstDigitBringsTheDialerUpAndTellsInOrder)
     EXPECT_EQ(line(0), whole("Dial: 12#_"));
     press(UGlobal::KeyUp);
     EXPECT_EQ(line(1).substr(0, 7), "Delete?");
-    for (int digit = 0; digit < 3; ++digit)
+    press('7');
+    EXPECT_EQ(line(1).substr(0, 5), "Call?") << "OK must not delete what was typed last";
+    press(UGlobal::KeyUp);
+    for (int digit = 0; digit < 4; ++digit)
         press(UGlobal::KeyOk);
     EXPECT_EQ(line(1), whole("Call?"));
     agent.takeTypes();

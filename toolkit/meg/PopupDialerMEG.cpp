@@ -325,6 +325,9 @@ void PopupDialerMEG::typed()
     if (isSwitched)
         showEditLine(true);
     updateDeleteRow();
+    // OK behind a digit must not delete it again.
+    if (mIsTyping && listBox && isDeleteRow(listBox->currentItem()))
+        listBox->setCurrentIndex(0);
 
     LifeNode life(this);
     if (!isUp())

@@ -14,7 +14,8 @@ class VantoTextEditMEG;
 /// came up (SearchTextChanged) and of every change (EditTextChanged), in this order. Left deletes; on an empty line
 /// it raises EmptyLineLeft, and a popup outside the tree of the screens then goes down by itself. Up and Down move
 /// in the list (RowMoved), OK chooses (RowChosen). A number that has been begun can also be deleted by a row, which
-/// is always the last one. RowMoved is raised too when the letters of a key give the second line back by themselves.
+/// is always the last one and gives the highlight back to the first as soon as the user types on. RowMoved is raised
+/// too when the letters of a key give the second line back by themselves.
 ///
 /// A key that the popup has no use for goes to its listener's keyEvent(), whose answer counts.
 /// Threads, Ownership: as PopupBaseMEG; edit line and list box are the popup's children.
