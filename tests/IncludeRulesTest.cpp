@@ -23,7 +23,8 @@ struct Rule {
 
 const Rule Rules[] = {
     // Since a signature or a base class needs the whole type; for anything else a forward declaration does.
-    {"include", std::regex("DisplayAPI/.*|[a-z_]+"), {"Rect.h", "Types.h", "UAgent.h", "UEvent.h", "UWidget.h"}},
+    {"include", std::regex("DisplayAPI/.*|[a-z_]+"),
+        {"Rect.h", "TranslationInfo.h", "Types.h", "UAgent.h", "UEvent.h", "UWidget.h"}},
     {"examples", std::regex("DisplayAPI/.*|PhoneSimulator/.*|[a-z_]+|\"[A-Za-z]+\\.h"), {}},
     {"src", std::regex("DisplayAPI/.*|[a-z_]+|\"?[A-Z][A-Za-z0-9]+\\.h"), {"pthread.h"}},
     {"toolkit", std::regex("[a-z_]+|\"?[A-Z][A-Za-z0-9]+\\.h"),
