@@ -16,6 +16,9 @@ public:
 
     void object(std::string_view name) { put("object:\nname:", name, "\n"); }
     void endObject() { mText += "end:\n"; }
+
+    /// An object whose name line is written as a field, or not at all.
+    void unnamedObject() { mText += "object:\n"; }
     void subitem(std::string_view name) { put("subitem:\nname:", name, "\n"); }
     void endSubitem() { mText += "endsubitem:\n"; }
 
