@@ -32,6 +32,13 @@ const LineRows& rowsOf(int line)
     return lineRows[std::clamp(line, 0, Lines - 1)];
 }
 
+/// The pixels inside the frame of a bar that can be filled.
+int barRoom(int columns)
+{
+    constexpr int frameAndGaps = 6;
+    return std::max(columns, 1) * UFont::CellWidth - frameAndGaps;
+}
+
 /// Where a row's text splits: its head ends before `headEnd`, its tail starts at `tailStart`.
 struct Split {
     std::size_t headEnd;
@@ -186,21 +193,33 @@ void UPainter::mark(int line, Icons::Mark mark, int column)
 
 void UPainter::bar(int line, int column, int columns, int minimum, int maximum, int value)
 {
+    const long long range = static_cast<long long>(maximum) - minimum;
+    const long long part = std::clamp<long long>(static_cast<long long>(value) - minimum, 0, std::max(range, 0LL));
+    barPart(line, column, columns, 0, static_cast<int>(range > 0 ? barRoom(columns) * part / range : 0));
+}
+
+void UPainter::blockBar(int line, int column, int columns, int positions, int position)
+{
+    const int room = barRoom(columns);
+    const int block = room / 4;
+    const int from = positions > 0 ? (room - block) * std::clamp(position, 0, positions) / positions : 0;
+    barPart(line, column, columns, from, from + block);
+}
+
+void UPainter::barPart(int line, int column, int columns, int from, int to)
+{
     if (!isLine(line) || columns <= 0)
         return;
-    // A frame two pixels inside the cells, filled up to the value behind a gap of one pixel.
+    // A frame two pixels inside the cells, filled behind a gap of one pixel.
     const int left = column * UFont::CellWidth + 1;
     const int right = (column + columns) * UFont::CellWidth - 2;
     const int top = rowsOf(line).cellTop + 2;
     const int bottom = rowsOf(line).cellTop + 10;
-    const long long range = static_cast<long long>(maximum) - minimum;
-    const long long part = std::clamp<long long>(static_cast<long long>(value) - minimum, 0, std::max(range, 0LL));
-    const long long room = right - left - 3;
-    const int filledTo = left + 1 + static_cast<int>(range > 0 ? room * part / range : 0);
     for (int y = top; y <= bottom; ++y) {
         for (int x = left; x <= right; ++x) {
             const bool isFrame = y == top || y == bottom || x == left || x == right;
-            const bool isFilled = y > top + 1 && y < bottom - 1 && x > left + 1 && x <= filledTo;
+            const int place = x - left - 2;
+            const bool isFilled = y > top + 1 && y < bottom - 1 && place >= from && place < to;
             mScreen.setPixel(x, y, isFrame || isFilled);
         }
     }

@@ -43,6 +43,10 @@ public:
     /// Draws a bar of `columns` cells, filled for `value` of the range from `minimum` to `maximum`.
     void bar(int line, int column, int columns, int minimum, int maximum, int value);
 
+    /// Draws a bar in which a block stands, a quarter long: at the left end for position 0, at the right end for
+    /// position `positions`.
+    void blockBar(int line, int column, int columns, int positions, int position);
+
     /// Draws a rule along the upper edge of a line.
     void rule(int line);
 
@@ -58,6 +62,7 @@ public:
 
 private:
     void cell(int line, int column, const std::uint8_t* rows);
+    void barPart(int line, int column, int columns, int from, int to);
     void character(int line, int column, const UString& character);
 
     UScreenWE1& mScreen;
