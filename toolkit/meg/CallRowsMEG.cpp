@@ -16,8 +16,8 @@ constexpr std::uint16_t SuccessIcon = 22;
 constexpr int PrivateNumber = 0;
 constexpr int MobileNumber = 3;
 
-constexpr unsigned long long BarInterval = 200;
-constexpr int BarSteps = 10;
+constexpr unsigned long long BarInterval = 110;
+constexpr int BarPositions = 10; // from one end to the other
 
 /// The states of a line, by the number of the state.
 constexpr std::uint16_t lineIcons[] = {91, Icons::ConnectedCall, 92, 93, 94, 95, 96, 97, 98, Icons::ConnectedCallHD};
@@ -208,7 +208,7 @@ void InfiniteBarItemMEG::timerEvent(UTimerEvent* event)
 {
     if (event->id() != mTimer.id())
         return;
-    mStep = (mStep + 1) % (BarSteps + 1);
+    mStep = (mStep + 1) % (2 * BarPositions);
     if (isShown())
         refresh();
 }
@@ -221,5 +221,6 @@ void InfiniteBarItemMEG::paintRow(UPainter& painter, int rowLine, int line, int 
     }
     const UString text = getDisplayedText();
     const int textColumns = text.isEmpty() ? 0 : painter.text(line, column, text, columns / 2) + 1;
-    painter.bar(line, column + textColumns, columns - textColumns, 0, BarSteps, mStep);
+    const int position = mStep <= BarPositions ? mStep : 2 * BarPositions - mStep;
+    painter.blockBar(line, column + textColumns, columns - textColumns, BarPositions, position);
 }

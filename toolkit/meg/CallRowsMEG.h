@@ -130,7 +130,7 @@ private:
     UString mPrefix;
 };
 
-/// A row with a bar that runs without an end, for work of unknown length.
+/// A row with a bar in which a block goes to and fro, for work of unknown length.
 class TOOLKIT_EXPORT InfiniteBarItemMEG : public VantoListBoxItemMEG {
 public:
     InfiniteBarItemMEG();
