@@ -197,7 +197,7 @@ int ContextMenuMEG::firstLine() const
 
 int ContextMenuMEG::getStartLinePosition() const
 {
-    return isUp() ? firstLine() + 1 : 0;
+    return isUp() && isVisible() ? firstLine() + 1 : 0;
 }
 
 void ContextMenuMEG::setDrawLineAtTop(bool drawn)
@@ -264,6 +264,6 @@ void ContextMenuMEG::paint(UPainter& painter)
     painter.clearLines(firstLine(), 1);
     if (listBox)
         listBox->paint(painter);
-    if (mIsLineDrawn)
+    if (mIsLineDrawn && firstLine() > 0)
         painter.rule(firstLine());
 }

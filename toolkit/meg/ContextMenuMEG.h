@@ -61,7 +61,7 @@ public:
     /// The line on which the menu begins, counted from 1; 0 while it is out.
     int getStartLinePosition() const;
 
-    /// Whether a rule parts the menu from what stands above it; true at first.
+    /// Whether a rule parts the menu from a line above it; true at first.
     void setDrawLineAtTop(bool drawn);
 
     /// Where the voice of the call is: a mark at the right end of the first line, unless the row there carries it
