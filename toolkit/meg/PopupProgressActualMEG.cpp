@@ -1,16 +1,32 @@
 #include "PopupProgressActualMEG.h"
 
+#include "TextCells.h"
 #include "UEvent.h"
 #include "UPainter.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
 constexpr unsigned long long TurnTime = 3000; // of the two status texts
 constexpr int NoBar = -1;
 constexpr int Complete = 100;
-constexpr int StatusColumns = 13; // beside a bar, at most
+constexpr int StatusColumns = 17; // beside a bar, at most
+
+/// What of a status text stands beside the bar: as many words as there is room for.
+UString besideBar(const UString& status)
+{
+    const UString head = status.mid(0, TextCells::forward(status, 0, 2 * StatusColumns));
+    const std::vector<UString> lines = TextCells::lines(head, StatusColumns);
+    return lines.empty() ? UString() : lines.front();
+}
+
+/// Where the bar beside a status text begins.
+int barColumn(const UString& status)
+{
+    return status.isEmpty() ? 0 : TextCells::count(besideBar(status)) + 1;
+}
 
 }
 
@@ -110,21 +126,13 @@ const UString& PopupProgressActualMEG::shownStatus() const
 void PopupProgressActualMEG::paint(UPainter& painter)
 {
     painter.clearLines(0, 1);
-    for (int line : {0, 1}) {
-        int column = 0;
-        for (unsigned short icon : iconsOfLine(line))
-            column += painter.icon(line, column, icon);
-        if (line == 0) {
-            painter.text(0, column, mText, UPainter::Columns - column);
-        } else if (mProgress == NoBar) {
-            painter.text(1, column, shownStatus(), UPainter::Columns - column);
-        } else {
-            const int taken = painter.text(1, column, shownStatus(), StatusColumns - column);
-            // The bar keeps its place while the two texts take turns.
-            const int widest = static_cast<int>(std::max(mStatusText1.length(), mStatusText2.length()));
-            if (taken > 0)
-                column += std::min(widest, StatusColumns - column) + 1;
-            painter.bar(1, column, UPainter::Columns - column, 0, Complete, mProgress);
-        }
+    paintLine(painter, 0, 0, {{}, {}, mText, {}}, UPainter::Columns);
+    if (mProgress == NoBar) {
+        painter.text(1, 0, shownStatus());
+        return;
     }
+    // The bar keeps its place while the two texts take turns.
+    const int left = std::max(barColumn(mStatusText1), barColumn(mStatusText2));
+    painter.text(1, 0, besideBar(shownStatus()));
+    painter.bar(1, left, UPainter::Columns - left, 0, Complete, mProgress);
 }
