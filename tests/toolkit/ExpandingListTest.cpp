@@ -163,3 +163,19 @@ TEST_F(ExpandingListTest, AListenerMayDeleteTheListOrItsRowsInsideAnyEvent)
         }
     }
 }
+
+TEST_F(ExpandingListTest, OddTextsTakeTwoBranchRowsAtMost)
+{
+    TopRow* row = add("All calls");
+    for (const std::string& odd : {std::string(1 << 20, 'x'), std::string(1 << 20, ' '), std::string(100, '\n'),
+             std::string("a\0b c", 5), std::string("\xF0\x9F\x98\x80\xCC\x81"), LongText + LongText}) {
+        row->setBranchText(text(odd));
+        row->setMainText(text(odd));
+        EXPECT_EQ(row->branchText(1), text(odd));
+        for (int count = 0; count < list->list()->count(); ++count) {
+            line(1);
+            press(UGlobal::KeyDown);
+        }
+        EXPECT_LE(row->branchCount(), 2);
+    }
+}

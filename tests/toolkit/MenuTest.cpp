@@ -9,6 +9,7 @@
 #include "VantoListBoxWithTitleMEG.h"
 
 #include <algorithm>
+#include <climits>
 #include <memory>
 #include <random>
 
@@ -185,4 +186,45 @@ TEST_F(MenuTest, TheTitleOfATabStandsAboveEveryContent)
     tabs->setCurrent(&root);
     EXPECT_EQ(tabs->current(), nullptr);
     EXPECT_EQ(manager.focusWidget(), below);
+}
+
+// Odd input
+
+TEST_F(MenuTest, OddTextsAndNumbersStayInTheirPlace)
+{
+    const std::string million(1 << 20, 'x');
+    const std::vector<std::string> texts = {million, std::string("a\0b", 3), "\xF0\x9F\x98\x80 \xED\xA0\x80",
+        "e\xCC\x81" + std::string(1000, '\xCC'), "\xE5\xAD\x97\xE5\xAD\x97", "\n\n"};
+    for (const std::string& odd : texts) {
+        auto menu = std::make_unique<ContextMenuMEG>(&root, true, 1, odd);
+        menu->addCommand(odd, 2, true, true, 0xFFFF);
+        menu->addCommand("Call", 3, false, false, 0);
+        for (const int index : {-1, 1, 2, 99})
+            menu->setItemText(index, odd, true);
+        menu->setMuteStatus(true);
+        for (const int height : {-1, 0, 1}) {
+            menu->setHeight(height);
+            menu->slideIn();
+            EXPECT_EQ(line(0), whole("upper"));
+        }
+        menu.reset();
+
+        PopupProgressActualMEG popup(PopupProgressActualMEG::ProgressType{99});
+        popup.setParent(&root);
+        popup.setText(text(odd));
+        popup.setStatusText1(text(odd));
+        popup.setStatusText2(text(odd));
+        for (const int percent : {INT_MIN, 50, INT_MAX})
+            popup.setProgress(percent);
+        popup.popupAsNotification();
+        EXPECT_EQ(line(1).find("lower"), std::string::npos);
+
+        auto* tabs = new TabScreenMEG;
+        root.addWidget(tabs);
+        tabs->setCurrent(new PlainScreen);
+        tabs->setTitle(text(odd));
+        popup.dismiss();
+        EXPECT_EQ(line(1), whole("lower"));
+        delete tabs;
+    }
 }

@@ -56,3 +56,21 @@ TEST_F(TwoLineDisplayTest, TheDisplayHandsOnEachKeyInTheStatesThatItIsMeantFor)
     EXPECT_EQ(manager.focusWidget(), below);
     EXPECT_EQ(handler->keys, "u1 ");
 }
+
+TEST_F(TwoLineDisplayTest, OddPiecesAreCutAtTheEndOfTheirLine)
+{
+    TwoLineDisplay display;
+    display.setParent(&root);
+    for (const int number : {-1, 0, 1, 2}) {
+        display.addText(number, text(std::string(1 << 20, 'x')));
+        display.addIcon(number, 0xFFFF);
+        for (int count = 0; count < 100000; ++count)
+            display.addText(number, text("y"));
+    }
+    display.setScrollIndication(true);
+    display.setArrowMode(99);
+    EXPECT_EQ(line(0), std::string(27, 'x'));
+    EXPECT_EQ(line(1), "  " + std::string(25, 'x'));
+    display.setArrowMode(TwoLineDisplay::ArrowBoth);
+    EXPECT_EQ(line(1), "  " + std::string(24, 'x') + "|");
+}
