@@ -3,13 +3,15 @@
 #include "ListItemPrivate.h"
 #include "Road.h"
 
+#include <utility>
+
 namespace DisplayAPI {
 
 enum class ListItem::Request : int {
     CreateFromText = 0,
     CreateFromTranslation = 1,
     CreateFromType = 2,
-    Delete = 3,
+    Destroy = 3,
     SetText = 4,
     SetRightText = 5,
     GetText = 8,
@@ -21,10 +23,19 @@ enum class ListItem::Request : int {
 
 namespace {
 
-VantoListBoxItemMEG* toolkitRow(ListItem& item)
+// Where the road finds what acts: a subclass may keep its half itself
+
+auto halfOf(ListItem& item)
 {
-    ListItemPrivateIfc* itemPrivate = item.getPrivateImplemetation();
-    return itemPrivate ? itemPrivate->getVantoListItem() : nullptr;
+    return [&item] { return item.getPrivateImplemetation(); };
+}
+
+auto rowOf(ListItem& item)
+{
+    return [&item] {
+        ListItemPrivateIfc* half = item.getPrivateImplemetation();
+        return half ? half->getVantoListItem() : nullptr;
+    };
 }
 
 std::string resolved(const TranslationInfo* text)
@@ -42,27 +53,21 @@ ListItem::ListItem()
 ListItem::ListItem(std::string text, bool flag)
 {
     mName = "ListItem";
-    if (!isGuiThread())
-        postEventAsync(makeRequest(this, Request::CreateFromText, std::move(text), flag));
-    else
+    if (Road::post(this, Request::CreateFromText, text, flag))
         setPrivate(new ListItemPrivate(text, flag));
 }
 
 ListItem::ListItem(TranslationInfo* text, bool flag)
 {
     mName = "ListItem";
-    if (!isGuiThread())
-        postEventAsync(makeRequest(this, Request::CreateFromTranslation, given(text), flag));
-    else
+    if (Road::post(this, Request::CreateFromTranslation, given(text), flag))
         setPrivate(new ListItemPrivate(text, flag));
 }
 
 ListItem::ListItem(ListItemType type)
 {
     mName = "ListItem";
-    if (!isGuiThread())
-        postEventAsync(makeRequest(this, Request::CreateFromType, type));
-    else
+    if (Road::post(this, Request::CreateFromType, type))
         setPrivate(new ListItemPrivate(type));
 }
 
@@ -73,10 +78,8 @@ ListItem::ListItem(ListItemPrivateIfc* rowPrivate)
 
 ListItem::~ListItem()
 {
-    if (isGuiThread())
-        destroyPrivate();
-    else
-        postEvent(makeRequest(this, Request::Delete));
+    if (Road::wait(this, Request::Destroy))
+        destroy();
     // Still there if the loop has ended.
     keepUntilExit(mPrivate);
 }
@@ -88,11 +91,11 @@ void ListItem::processGuiRequest(GuiRequestEvent& event)
     case Request::CreateFromText: setPrivate(new ListItemPrivate(event.stringParam1, event.boolParam1)); break;
     case Request::CreateFromTranslation: setPrivate(new ListItemPrivate(translation, event.boolParam1)); break;
     case Request::CreateFromType: setPrivate(new ListItemPrivate(static_cast<ListItemType>(event.intParam1))); break;
-    case Request::Delete: destroyPrivate(); break;
+    case Request::Destroy: destroy(); break;
     case Request::SetText: setText(translation ? resolved(translation) : event.stringParam1); break;
     case Request::SetRightText: setRightText(translation ? resolved(translation) : event.stringParam1); break;
-    case Request::GetText: *event.stringResult = getText(); break;
-    case Request::GetRightText: *event.stringResult = getRightText(); break;
+    case Request::GetText: answer(event.stringResult, getText()); break;
+    case Request::GetRightText: answer(event.stringResult, getRightText()); break;
     case Request::StartInfiniteProgressBar: startInfiniteProgressBar(); break;
     case Request::SetLeftIcon:
         if (event.intParam1 != 0)
@@ -110,60 +113,48 @@ ListItemPrivateIfc* ListItem::getPrivateImplemetation()
 
 void ListItem::setText(std::string text)
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::SetText, std::move(text)));
-    if (VantoListBoxItemMEG* row = toolkitRow(*this))
+    if (auto* row = Road::post(this, rowOf(*this), Request::SetText, text))
         row->setText(UString(text));
 }
 
 void ListItem::setText(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::SetText, text));
-    setText(resolved(text));
+    if (Road::post(this, Request::SetText, text))
+        setText(resolved(text));
 }
 
 std::string ListItem::getText()
 {
     std::string text;
-    if (!isGuiThread())
-        postEvent(makeRequest(this, Request::GetText, result(text)));
-    else if (VantoListBoxItemMEG* row = toolkitRow(*this))
+    if (auto* row = Road::wait(this, rowOf(*this), Request::GetText, result(text)))
         text = row->getText().toUTF8();
     return text;
 }
 
 void ListItem::setRightText(std::string text)
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::SetRightText, std::move(text)));
-    if (VantoListBoxItemMEG* row = toolkitRow(*this))
+    if (auto* row = Road::post(this, rowOf(*this), Request::SetRightText, text))
         row->setRightText(UString(text));
 }
 
 void ListItem::setRightText(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::SetRightText, text));
-    setRightText(resolved(text));
+    if (Road::post(this, Request::SetRightText, text))
+        setRightText(resolved(text));
 }
 
 std::string ListItem::getRightText()
 {
     std::string text;
-    if (!isGuiThread())
-        postEvent(makeRequest(this, Request::GetRightText, result(text)));
-    else if (VantoListBoxItemMEG* row = toolkitRow(*this))
+    if (auto* row = Road::wait(this, rowOf(*this), Request::GetRightText, result(text)))
         text = row->getRightText().toUTF8();
     return text;
 }
 
 void ListItem::setLeftIcon(Icons::IconType icon)
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::SetLeftIcon, icon));
-    if (ListItemPrivateIfc* itemPrivate = getPrivateImplemetation())
-        itemPrivate->setLeftIcon(icon);
+    if (auto* half = Road::post(this, halfOf(*this), Request::SetLeftIcon, icon))
+        half->setLeftIcon(icon);
 }
 
 Icons::IconType ListItem::getLeftIcon()
@@ -179,17 +170,13 @@ Icons::IconType ListItem::getRightIcon()
 
 void ListItem::startInfiniteProgressBar()
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::StartInfiniteProgressBar));
-    if (ListItemPrivateIfc* itemPrivate = getPrivateImplemetation())
-        itemPrivate->startInfiniteProgressBar();
+    if (auto* half = Road::post(this, halfOf(*this), Request::StartInfiniteProgressBar))
+        half->startInfiniteProgressBar();
 }
 
 void ListItem::clearBackground()
 {
-    if (!isGuiThread())
-        return postEventAsync(makeRequest(this, Request::ClearBackground));
-    if (VantoListBoxItemMEG* row = toolkitRow(*this))
+    if (auto* row = Road::post(this, rowOf(*this), Request::ClearBackground))
         row->clearBackground();
 }
 
@@ -218,7 +205,7 @@ void ListItem::retireRow(ListItemPrivateIfc* rowPrivate)
         mRowDies(*screen, *this, rowPrivate);
 }
 
-void ListItem::destroyPrivate()
+void ListItem::destroy()
 {
     retireRow(mPrivate);
     setPrivate(nullptr);

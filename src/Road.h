@@ -149,7 +149,7 @@ GuiRequestEvent* makeRequest(const Widget* requester, Request request, Arguments
 class Road {
 public:
     template <typename Half, typename Request, typename... Arguments>
-    requires std::is_enum_v<Request>
+    requires(std::is_enum_v<Request> && !std::is_enum_v<Half>)
     static auto wait(const Widget* handle, const Half& half, Request request, Arguments&&... arguments)
     {
         decltype(pointerTo(half)) taker = nullptr;
@@ -161,7 +161,7 @@ public:
     }
 
     template <typename Half, typename Request, typename... Arguments>
-    requires std::is_enum_v<Request>
+    requires(std::is_enum_v<Request> && !std::is_enum_v<Half>)
     static auto post(const Widget* handle, const Half& half, Request request, Arguments&&... arguments)
     {
         decltype(pointerTo(half)) taker = nullptr;

@@ -113,7 +113,7 @@ protected:
 private:
     enum class Request : int;
 
-    void destroyPrivate();
+    void destroy();
 
     // Another thread may read the icon while the GUI thread makes the private.
     std::atomic<ListItemPrivateIfc*> mPrivate = nullptr;
