@@ -64,7 +64,9 @@ void ListBoxPrivate::hide()
 
 void ListBoxPrivate::lostFocus()
 {
-    hide();
+    // Not hide(), which a subclass may have made its own.
+    if (list())
+        list()->disable();
     generateDisplayChangedEvent();
 }
 

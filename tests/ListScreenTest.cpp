@@ -203,6 +203,18 @@ TEST_F(ListScreenTest, AListOfCallsHasItsPlaceAndHearsTheDuration)
     EXPECT_EQ(screenField("string0"), "Bob  0:01");
 }
 
+TEST_F(ListScreenTest, ASubclassesOwnHideIsNotCalledWhenTheFocusGoes)
+{
+    struct OwnHide : ListBoxPrivate {
+        using ListBoxPrivate::ListBoxPrivate;
+        void hide() override { ADD_FAILURE(); }
+    } box(nullptr, new VantoListBoxWithTitleMEG);
+    box.show();
+    EXPECT_TRUE(box.getListWidget()->list()->isEnabled());
+    box.lostFocus();
+    EXPECT_FALSE(box.getListWidget()->list()->isEnabled());
+}
+
 // Dialer and stored settings
 
 TEST_F(ListScreenTest, ADialerGetsEveryKey)
