@@ -1,5 +1,6 @@
 #include "ListBoxPrivate.h"
 
+#include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
@@ -104,6 +105,7 @@ void ListBoxPrivate::append(ListItemPrivateIfc* row)
         listenTo(widget);
     }
     row->releaseOwnership();
+    comeBack();
     generateDisplayChangedEvent();
 }
 
@@ -159,6 +161,7 @@ void ListBoxPrivate::insertAt(ListItemPrivateIfc* row, int index)
     if (VantoListBoxItemMEG* widget = row->getVantoListItem())
         list()->insertItem(widget, index);
     row->releaseOwnership();
+    comeBack();
     generateDisplayChangedEvent();
 }
 
@@ -173,13 +176,30 @@ void ListBoxPrivate::remove(ListItemPrivateIfc* row)
 {
     if (!row)
         return;
-    takeOut(row);
-    if (list() && list()->count() == 0) {
-        mWidget->setParent(nullptr);
-        // Nobody else would delete the widget now.
-        mOwnsWidget = true;
-    }
+    if (takeOut(row) && list() && list()->count() == 0)
+        leaveScreen();
     generateDisplayChangedEvent();
+}
+
+void ListBoxPrivate::leaveScreen()
+{
+    mFormerParent = mWidget->parentWidget();
+    mWidget->setParent(nullptr);
+    // Nobody else would delete the widget now.
+    gainOwnership();
+}
+
+/// A list that had left the screen for want of rows is back with its first one, as if it were shown again.
+void ListBoxPrivate::comeBack()
+{
+    UWidget* parent = mFormerParent.get();
+    if (!parent || !parent->isVisible() || mWidget->parentWidget())
+        return;
+    DisplayPrivateIfc* on = display();
+    if (!on || on->getCurrent() != mOwner)
+        return;
+    mWidget->setParent(parent);
+    releaseOwnership();
 }
 
 void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow, int index)
@@ -196,16 +216,17 @@ void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow
     generateDisplayChangedEvent();
 }
 
-/// Gives a row of this list back to its private; a row that stands elsewhere stays there.
-void ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
+/// Gives a row of this list back to its private; a row that stands elsewhere stays there, and the answer is false.
+bool ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
 {
     assertGuiThread();
     VantoListBoxItemMEG* widget = row->getVantoListItem();
     if (widget && (!list() || widget->parentWidget() != list()))
-        return;
+        return false;
     if (widget)
         list()->removeItem(widget);
     row->gainOwnership();
+    return true;
 }
 
 // Title

@@ -98,7 +98,9 @@ protected:
 
 private:
     VantoListBoxMEG* list() const { return mWidget ? mWidget->list() : nullptr; }
-    void takeOut(ListItemPrivateIfc* row);
+    bool takeOut(ListItemPrivateIfc* row);
+    void leaveScreen();
+    void comeBack();
     void listenTo(VantoListBoxItemMEG* row);
     void showTitle(const std::string& title);
     void translateBack();
@@ -106,6 +108,7 @@ private:
 
     Displayable* mOwner;
     UPointer<VantoListBoxWithTitleMEG> mWidget;
+    UPointer<UWidget> mFormerParent; // where the list stood when its last row was removed
     bool mHasCaption = false;
     TranslationHolder mTitleInfo;
     bool mOwnsWidget = true;

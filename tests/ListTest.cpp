@@ -258,10 +258,46 @@ TEST_F(ListTest, TheLastRowTakesTheListOffTheScreenOnlyByRemove)
     list.remove(row.get());
     EXPECT_EQ(half(list).getWidget()->parentWidget(), nullptr);
     EXPECT_TRUE(half(list).hasOwnership());
+    display->hide();
     list.append("D");
-    show(list);
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), nullptr) << "hidden";
+    display->show();
     EXPECT_EQ(half(list).getWidget()->parentWidget(), parent) << "shown again";
     EXPECT_FALSE(half(list).hasOwnership());
+}
+
+TEST_F(ListTest, ACurrentListComesBackWithItsFirstRow)
+{
+    List list(0);
+    const std::pair<const char*, std::function<void()>> table[] = {
+        {"append", [&] { list.append(new CountedItem("append")); }},
+        {"insertAt", [&] { list.insertAt(new CountedItem("insertAt"), 0); }},
+        {"replace", [&] { list.replace(nullptr, new CountedItem("replace")); }},
+    };
+    fill(list, "A");
+    show(list);
+    for (const auto& [name, comeBack] : table) {
+        std::unique_ptr<ListItem> last(list.getItems()[0]);
+        list.remove(last.get());
+        pump();
+        EXPECT_EQ(glassLine(0), std::string(27, ' '));
+        std::string seen;
+        changes.onNextNotice = [&] {
+            pump();
+            seen = glassLine(0);
+        };
+        comeBack();
+        EXPECT_TRUE(seen.starts_with(name)) << seen;
+        EXPECT_FALSE(half(list).hasOwnership());
+    }
+    UWidget tab;
+    half(list).getWidget()->setParent(&tab);
+    display->setCurrent(nullptr);
+    half(list).getWidget()->setParent(&tab);
+    std::unique_ptr<ListItem> last(list.getItems()[0]);
+    list.remove(last.get());
+    list.append(last.release());
+    EXPECT_EQ(half(list).getWidget()->parentWidget(), nullptr) << "not on the display";
 }
 
 TEST_F(ListTest, ARowDeletedInAListLeavesItFirst)
