@@ -37,9 +37,6 @@ ListBoxPrivate::ListBoxPrivate(Displayable* owner, VantoListBoxWithTitleMEG* wid
 ListBoxPrivate::~ListBoxPrivate()
 {
     assertGuiThread();
-    if (mOwnsWidget)
-        delete mWidget.get();
-    mTitleInfo.forget();
     leaveApplication(this);
 }
 
@@ -83,7 +80,7 @@ std::string ListBoxPrivate::serialise(const std::vector<Rect>& rects)
     for (const Rect& rect : rects)
         widgetRects.emplace_back(rect.left(), rect.top(), rect.right(), rect.bottom());
     Serialiser serialiser;
-    std::string text = serialiser.serialiseVantoListBox(std::move(widgetRects), mWidget.get());
+    std::string text = serialiser.serialiseVantoListBox(std::move(widgetRects), mWidget);
     mHasCaption = serialiser.hasCaption();
     return text;
 }

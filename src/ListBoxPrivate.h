@@ -3,6 +3,7 @@
 #include <DisplayAPI/ListBoxPrivateIfc.h>
 #include <DisplayAPI/PopupDialerPrivateIfc.h>
 
+#include "OwnershipDelegate.h"
 #include "TranslationHolder.h"
 
 #include <UAgent.h>
@@ -30,11 +31,11 @@ public:
 
     // Screen
 
-    UWidget* getWidget() override { return mWidget.get(); }
-    VantoListBoxWithTitleMEG* getListWidget() const { return mWidget.get(); }
-    void releaseOwnership() override { mOwnsWidget = false; }
-    void gainOwnership() override { mOwnsWidget = true; }
-    bool hasOwnership() const { return mOwnsWidget; }
+    UWidget* getWidget() override { return mWidget; }
+    VantoListBoxWithTitleMEG* getListWidget() const { return mWidget; }
+    void releaseOwnership() override { mOwnership.releaseOwnership(); }
+    void gainOwnership() override { mOwnership.gainOwnership(); }
+    bool hasOwnership() const { return mOwnership.hasOwnership(); }
     Displayable* getParent() override { return mOwner; }
     void show() override;
     void hide() override;
@@ -107,11 +108,11 @@ private:
     void tellOwner(Command* command);
 
     Displayable* mOwner;
-    UPointer<VantoListBoxWithTitleMEG> mWidget;
+    VantoListBoxWithTitleMEG* mWidget; // null once a tree that owned it has deleted it
     UPointer<UWidget> mFormerParent; // where the list stood when its last row was removed
     bool mHasCaption = false;
     TranslationHolder mTitleInfo;
-    bool mOwnsWidget = true;
+    OwnershipDelegate<VantoListBoxWithTitleMEG> mOwnership{&mWidget};
     UPointer<PopupDialerPrivateIfc> mDialerPrivate;
     bool mDialerActive = false;
     bool mShowDialerOnKey = false;

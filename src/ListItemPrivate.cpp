@@ -47,8 +47,6 @@ ListItemPrivate::ListItemPrivate(ListItem::ListItemType type)
 ListItemPrivate::~ListItemPrivate()
 {
     assertGuiThread();
-    if (mOwnsWidget)
-        delete mWidget.get();
 }
 
 void ListItemPrivate::localeChanged(std::string)
@@ -84,7 +82,7 @@ void ListItemPrivate::setRightText(TranslationInfo* text)
 void ListItemPrivate::startInfiniteProgressBar()
 {
     if (mIsProgressRow && mWidget)
-        static_cast<InfiniteBarItemMEG*>(mWidget.get())->startInfiniteProgressBar();
+        static_cast<InfiniteBarItemMEG*>(mWidget)->startInfiniteProgressBar();
 }
 
 void ListItemPrivate::setLeftIcon(Icons::IconType icon)

@@ -3,6 +3,7 @@
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
+#include "OwnershipDelegate.h"
 #include "TranslationHolder.h"
 
 #include <VantoListBoxItemMEG.h>
@@ -29,9 +30,9 @@ public:
 
     /// Reads the text's translation again, not the right text's.
     void localeChanged(std::string locale) override;
-    void releaseOwnership() override { mOwnsWidget = false; }
-    void gainOwnership() override { mOwnsWidget = true; }
-    bool hasOwnership() const { return mOwnsWidget; }
+    void releaseOwnership() override { mOwnership.releaseOwnership(); }
+    void gainOwnership() override { mOwnership.gainOwnership(); }
+    bool hasOwnership() const { return mOwnership.hasOwnership(); }
 
     // Content. The forms with a translation take it over.
 
@@ -39,7 +40,7 @@ public:
     void setText(TranslationInfo* text) override;
     void setRightText(std::string text) override;
     void setRightText(TranslationInfo* text) override;
-    VantoListBoxItemMEG* getVantoListItem() override { return mWidget.get(); }
+    VantoListBoxItemMEG* getVantoListItem() override { return mWidget; }
     void startInfiniteProgressBar() override;
     void setLeftIcon(Icons::IconType icon) override;
 
@@ -50,10 +51,10 @@ private:
     void showText(const std::string& text);
     void showRightText(const std::string& text);
 
-    UPointer<VantoListBoxItemMEG> mWidget; // a list that holds the row may delete it
+    VantoListBoxItemMEG* mWidget; // null once a list that held the row has deleted it
     TranslationHolder mTextInfo;
     TranslationHolder mRightTextInfo;
-    bool mOwnsWidget = true;
+    OwnershipDelegate<VantoListBoxItemMEG> mOwnership{&mWidget};
     bool mIsProgressRow = false;
     std::atomic<Icons::IconType> mLeftIcon = {};
 };
