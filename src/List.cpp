@@ -1,6 +1,6 @@
+#include "ListRows.h"
+
 #include <DisplayAPI/Command.h>
-#include <DisplayAPI/List.h>
-#include <DisplayAPI/ListItem.h>
 
 #include "ListBoxPrivate.h"
 #include "ListTrace.h"
@@ -13,7 +13,7 @@ namespace DisplayAPI {
 
 enum class List::Request : int {
     Create = 0,
-    Delete = 1,
+    Destroy = 1,
     AppendText = 5,
     AppendTranslation = 6,
     AppendItem = 7,
@@ -69,27 +69,27 @@ Command* lastingCommand(Command::Type type)
 }
 
 List::List(int kind)
-    : mHasBackItem(kind == 1 || kind == 3)
+    : List(kind == 1 || kind == 3)
 {
     mName = "List";
     postEventHelper(Async, makeRequest(this, Request::Create, hasBackItem()));
 }
 
 List::List(bool hasBackItem)
-    : mHasBackItem(hasBackItem)
+    : mItems(std::make_unique<Rows>(*this))
+    , mHasBackItem(hasBackItem)
 {
 }
 
 List::~List()
 {
-    if (isGuiThread()) {
-        List::cleanup();
+    if (Road::wait(this, Request::Destroy)) {
+        cleanup();
         return;
     }
-    postEvent(makeRequest(this, Request::Delete));
     // Both still there if the loop has ended.
     Road::keepIfRefused(this, mPrivate);
-    deleteItems();
+    mItems->end();
 }
 
 void List::processGuiRequest(GuiRequestEvent& event)
@@ -102,27 +102,25 @@ void List::processGuiRequest(GuiRequestEvent& event)
     auto* listener = static_cast<CommandListener*>(event.ptrParam1);
     const std::string& text = event.stringParam1;
     const int number = event.intParam1;
+    mItems->forgetDead();
     switch (static_cast<Request>(event.getType())) {
-    case Request::Create:
-        mHasBackItem = event.boolParam1;
-        mPrivate = std::make_unique<ListBoxPrivate>(this, event.boolParam1);
-        break;
-    case Request::Delete: cleanup(); break;
+    case Request::Create: create(event.boolParam1); break;
+    case Request::Destroy: cleanup(); break;
     case Request::AppendText: createAndAppendItem(new ListItem(text, true)); break;
     case Request::AppendTranslation: createAndAppendItem(new ListItem(translation, true)); break;
     case Request::AppendItem: privateAppend(item); break;
     case Request::Clear: privateClear(); break;
-    case Request::GetSelected: *event.ptrResult = findSelectedItem(); break;
+    case Request::GetSelected: answer(event.ptrResult, findSelectedItem()); break;
     case Request::SetSelected: privateSetSelected(item); break;
-    case Request::GetSelectedIndex: *event.intResult = box ? box->getSelectedIndex() : -1; break;
+    case Request::GetSelectedIndex: answer(event.intResult, box ? box->getSelectedIndex() : -1); break;
     case Request::SetSelectedIndex: tell(box, &Box::setSelectedIndex, number); break;
     case Request::InsertAt: privateInsertAt(item, number); break;
-    case Request::RemoveAt: *event.ptrResult = privateRemoveAt(number); break;
+    case Request::RemoveAt: answer(event.ptrResult, privateRemoveAt(number)); break;
     case Request::Remove: privateRemove(item); break;
     case Request::Move: privateMove(item, second, number); break;
     case Request::RemoveAll: privateRemoveAll(); break;
     case Request::Replace: privateReplace(item, second); break;
-    case Request::Size: *event.intResult = box ? box->size() : -1; break;
+    case Request::Size: answer(event.intResult, box ? box->size() : -1); break;
     case Request::Hide: tell(box, &Box::hide); break;
     case Request::SetTicker: mTicker = static_cast<Ticker*>(event.ptrParam1); break;
     case Request::GetTicker: answer(event.ptrResult, mTicker); break;
@@ -186,7 +184,7 @@ std::vector<ListItem*> List::getItems()
 {
     TRACE_LIST("DAPI::List::getItems() this: %p\n", static_cast<void*>(this));
     if (isGuiThread())
-        return mItems;
+        return mItems->all();
     // Copied on the GUI thread, since others may be changing the list.
     std::vector<ListItem*> items;
     postEvent(makeRequest(this, Request::GetItems, &items));

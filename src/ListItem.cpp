@@ -1,8 +1,10 @@
 #include <DisplayAPI/ListItem.h>
 
+#include "HeldRows.h"
 #include "ListItemPrivate.h"
 #include "Road.h"
 
+#include <memory>
 #include <utility>
 
 namespace DisplayAPI {
@@ -80,8 +82,13 @@ ListItem::~ListItem()
 {
     if (Road::wait(this, Request::Destroy))
         destroy();
-    // Still there if the loop has ended.
-    keepUntilExit(mPrivate);
+    if (!exists(this))
+        return;
+    // Refused, since the loop has ended: a list that has the row finds out when it asks.
+    leave();
+    HeldRows::noteRefusedDeath();
+    std::unique_ptr<ListItemPrivateIfc> half(mPrivate.exchange(nullptr));
+    Road::keepIfRefused(this, half);
 }
 
 void ListItem::processGuiRequest(GuiRequestEvent& event)
@@ -182,33 +189,33 @@ void ListItem::clearBackground()
 
 void ListItem::enableContextMenuArrow(bool) { }
 
-void ListItem::joinScreen(Displayable& screen, RowDies rowDies)
-{
-    mScreen = &screen;
-    mRowDies = rowDies;
-}
-
-void ListItem::leaveScreen()
-{
-    mScreen = nullptr;
-}
-
 void ListItem::setPrivate(ListItemPrivateIfc* rowPrivate)
 {
-    delete mPrivate.exchange(rowPrivate);
+    const std::unique_ptr<ListItemPrivateIfc> before(mPrivate.exchange(rowPrivate));
+    if (before)
+        privateChanged(before.get());
+}
+
+void ListItem::privateChanged(ListItemPrivateIfc* before)
+{
+    if (mHolder)
+        mHolder->rowChanged(*this, before);
 }
 
 void ListItem::retireRow(ListItemPrivateIfc* rowPrivate)
 {
     retire();
-    if (Displayable* screen = std::exchange(mScreen, nullptr))
-        mRowDies(*screen, *this, rowPrivate);
+    // Dead for everybody, before the holder tells of it.
+    const Living<ListItem> self(this);
+    leave();
+    if (RowHolder* holder = std::exchange(mHolder, nullptr))
+        holder->rowDies(self, rowPrivate);
 }
 
 void ListItem::destroy()
 {
     retireRow(mPrivate);
-    setPrivate(nullptr);
+    delete mPrivate.exchange(nullptr);
 }
 
 }

@@ -1,45 +1,89 @@
-#include <DisplayAPI/List.h>
-#include <DisplayAPI/ListItem.h>
+#include "ListRows.h"
+
 #include <DisplayAPI/ListItemPrivateIfc.h>
 #include <DisplayAPI/PopupDialer.h>
 
 #include "ExistingDisplayables.h"
 #include "ListBoxPrivate.h"
 #include "ListTrace.h"
-
-#include <VantoListBoxItemMEG.h>
+#include "Road.h"
 
 #include <algorithm>
+#include <climits>
 
-// What the requests of a list do on the GUI thread. The toolkit's list changes first and the vector after it. In
+// What the requests of a list do on the GUI thread. The toolkit's list changes first and getItems() after it. In
 // between the display tells its subscriber, who may delete the list: then nothing of it may be touched.
 
 namespace DisplayAPI {
 
-namespace {
+// The rows
 
-ListItemPrivateIfc* privateOf(ListItem* item)
+void List::Rows::exchange(int index, ListItemPrivateIfc* before, const Row& row)
 {
-    return item ? item->getPrivateImplemetation() : nullptr;
+    const Step step(*this);
+    ListBoxPrivateIfc* box = mList.mPrivate.get();
+    const bool wasCurrent = box && box->getSelectedIndex() == index;
+    // Not remove(), which takes a list without rows off the screen.
+    if (box)
+        box->removeAt(index, before);
+    if (!step)
+        return;
+    bringIn(row, [this, box, &row, wasCurrent, &step](ListItemPrivateIfc* half) {
+        if (!box)
+            return;
+        box->insertAt(half, indexOf(row));
+        if (step && wasCurrent && indexOf(row) >= 0)
+            box->setSelected(half);
+    });
 }
 
+void List::Rows::rowChanged(ListItem& row, ListItemPrivateIfc* before)
+{
+    const Row changed(&row);
+    const int index = indexOf(changed);
+    if (index < 0)
+        return;
+    expect(row, index);
+    exchange(index, before, changed);
+}
+
+void List::Rows::takeOut(int index, ListItemPrivateIfc* half)
+{
+    if (mList.mPrivate)
+        mList.mPrivate->removeAt(index, half);
+}
+
+void List::Rows::forgetDead()
+{
+    // With the halves go their rows of the toolkit.
+    if (HeldRows::forgetDead())
+        deleteKeptHalves();
+}
+
+// The steps of the requests
+
+void List::create(bool hasBackItem)
+{
+    mHasBackItem = hasBackItem;
+    if (!mPrivate)
+        mPrivate = std::make_unique<ListBoxPrivate>(this, hasBackItem);
 }
 
 void List::cleanup()
 {
     TRACE_LIST("DAPI::List::cleanup() this: %p\n", static_cast<void*>(this));
     retireScreen();
-    // The widget deletes the toolkit's rows: the handles below only forget them.
+    // The widget deletes the toolkit's rows: the handles behind it only forget them.
     mPrivate.reset();
-    deleteItems();
+    mItems->end();
 }
 
 void List::localeChanged(std::string locale)
 {
-    for (std::size_t i = 0; i < mItems.size(); ++i) {
-        if (ListItemPrivateIfc* itemPrivate = privateOf(mItems[i]))
-            itemPrivate->localeChanged(locale);
-    }
+    mItems->forEach([&locale](ListItem& row) {
+        if (ListItemPrivateIfc* half = row.getPrivateImplemetation())
+            half->localeChanged(locale);
+    });
 }
 
 void List::createAndAppendItem(ListItem* item)
@@ -51,84 +95,78 @@ void List::createAndAppendItem(ListItem* item)
 void List::privateAppend(ListItem* item)
 {
     TRACE_LIST("privateAppend() this: %p\n", static_cast<void*>(this));
-    if (!isAcceptable(item))
+    if (!Rows::isFree(item))
         return;
-    Arrival arrival{item, mArrivals};
-    item->joinScreen(*this, &List::itemDies);
-    if (mPrivate) {
-        mArrivals = &arrival;
-        mPrivate->append(item->getPrivateImplemetation());
-    }
-    if (hasArrived(this, arrival))
-        mItems.push_back(item);
+    bringToEnd(item);
+}
+
+void List::bringToEnd(ListItem* item)
+{
+    mItems->expect(*item, INT_MAX);
+    mItems->bringIn(Rows::Row(item), [this](ListItemPrivateIfc* half) {
+        if (mPrivate)
+            mPrivate->append(half);
+    });
 }
 
 void List::privateInsertAt(ListItem* item, int index)
 {
     TRACE_LIST("privateInsertAt() this: %p\n", static_cast<void*>(this));
-    if (!isAcceptable(item))
+    if (!Rows::isFree(item))
         return;
-    Arrival arrival{item, mArrivals};
-    item->joinScreen(*this, &List::itemDies);
-    if (mPrivate) {
-        mArrivals = &arrival;
-        mPrivate->insertAt(item->getPrivateImplemetation(), index);
-    }
-    if (hasArrived(this, arrival))
-        mItems.insert(position(index), item);
+    mItems->expect(*item, index);
+    mItems->bringIn(Rows::Row(item), [this, index](ListItemPrivateIfc* half) {
+        if (mPrivate)
+            mPrivate->insertAt(half, index);
+    });
 }
 
 ListItem* List::privateRemoveAt(int index)
 {
     TRACE_LIST("privateRemoveAt() this: %p\n", static_cast<void*>(this));
     const int place = std::max(index, 0);
-    if (place >= static_cast<int>(mItems.size())) {
+    ListItem* item = mItems->at(place);
+    if (!item) {
         LOG_LIST(3, "removeAt() this %p, cannot remove item at index %d", static_cast<void*>(this), index);
         return nullptr;
     }
-    ListItem* item = mItems[static_cast<std::size_t>(place)];
-    if (mPrivate)
-        mPrivate->removeAt(place, privateOf(item));
-    // Inside the notice somebody else may have taken the row, or deleted the list with it.
-    const int left = displayableExists(this) ? indexOf(item) : -1;
-    if (left < 0)
-        return nullptr;
-    takeOffVector(left);
-    return item;
+    const bool isGiven = mItems->giveBack(Rows::Row(item), [this, place, item] {
+        if (mPrivate)
+            mPrivate->removeAt(place, Rows::halfOf(item));
+    });
+    return isGiven ? item : nullptr;
 }
 
 void List::privateRemove(ListItem* item)
 {
     TRACE_LIST("privateRemove() this: %p\n", static_cast<void*>(this));
-    if (mPrivate && privateOf(item))
-        mPrivate->remove(privateOf(item));
-    if (!displayableExists(this))
-        return;
-    // Also a row that is still on its way in, which a subscriber takes back inside its notice.
-    if (forgetArrival(item))
-        item->leaveScreen();
-    takeOffVector(indexOf(item));
+    mItems->giveBack(Rows::Row(item), [this, item] {
+        if (mPrivate)
+            mPrivate->remove(Rows::halfOf(item));
+    });
 }
 
 void List::privateRemoveAll()
 {
-    for (std::size_t i = 0; i < mItems.size(); ++i) {
-        if (mPrivate && privateOf(mItems[i]))
-            mPrivate->remove(privateOf(mItems[i]));
-        if (!displayableExists(this))
-            return;
-    }
-    for (ListItem* item : mItems)
-        item->leaveScreen();
-    mItems.clear();
+    mItems->giveBackAll([this](ListItemPrivateIfc* half) {
+        if (mPrivate)
+            mPrivate->remove(half);
+    });
 }
 
 void List::privateClear()
 {
+    const Rows::Step step(*mItems);
+    mItems->loseToolkitRows();
     if (mPrivate)
         mPrivate->clear();
-    if (displayableExists(this))
-        deleteItems();
+    if (!step)
+        return;
+    // A row that has come in the notice goes with the rest, and so does what the glass has of it.
+    const bool haveCome = mItems->at(0) != nullptr;
+    mItems->deleteAll();
+    if (step && haveCome && mPrivate)
+        mPrivate->generateDisplayChangedEvent();
 }
 
 void List::privateReplace(ListItem* old, ListItem* replacement)
@@ -137,80 +175,65 @@ void List::privateReplace(ListItem* old, ListItem* replacement)
         return;
     if (!old)
         return privateAppend(replacement);
-    if (!isAcceptable(replacement))
+    if (!Rows::isFree(replacement))
         return;
 
-    const int index = indexOf(old);
-    if (index < 0)
-        return appendInsteadOf(old, replacement);
-    if (mPrivate) {
-        // Not remove(), which takes a list without rows off the screen.
-        mPrivate->removeAt(index, privateOf(old));
-        if (isDeletedWith(this, replacement))
-            return;
-        mPrivate->insertAt(replacement->getPrivateImplemetation(), index);
-        if (isDeletedWith(this, replacement))
-            return;
+    const Rows::Row leaving(old);
+    const Rows::Row coming(replacement);
+    const int index = mItems->indexOf(leaving);
+    const Rows::Step step(*mItems);
+    mItems->startLeaving(leaving);
+    // Held from here on: the notice of what leaves must not give it to somebody else.
+    mItems->expect(*replacement, index < 0 ? INT_MAX : index);
+    if (index >= 0) {
+        mItems->exchange(index, Rows::halfOf(old), coming);
+    } else {
+        if (mPrivate)
+            mPrivate->remove(Rows::halfOf(old));
+        if (step && mItems->isExpected(coming))
+            bringToEnd(replacement);
     }
-    takeOffVector(indexOf(old));
-    replacement->joinScreen(*this, &List::itemDies);
-    mItems.insert(position(index), replacement);
-}
-
-void List::appendInsteadOf(ListItem* foreign, ListItem* replacement)
-{
-    UPointer<UWidget> widget = mPrivate ? mPrivate->getWidget() : nullptr;
-    UPointer<UWidget> parent = widget ? widget->parentWidget() : nullptr;
-    if (mPrivate && privateOf(foreign))
-        mPrivate->remove(privateOf(foreign));
-    if (isDeletedWith(this, replacement))
-        return;
-    // An empty list has left the screen by this; it is about to get a row.
-    if (widget && parent && !widget->parentWidget()) {
-        widget->setParent(parent.get());
-        mPrivate->releaseOwnership();
-    }
-    privateAppend(replacement);
+    if (step)
+        mItems->finishLeaving(leaving);
 }
 
 void List::privateMove(ListItem* old, ListItem* replacement, int index)
 {
-    ListItemPrivateIfc* oldPrivate = privateOf(old);
-    ListItemPrivateIfc* newPrivate = privateOf(replacement);
+    ListItemPrivateIfc* oldPrivate = Rows::halfOf(old);
+    ListItemPrivateIfc* newPrivate = Rows::halfOf(replacement);
     if (!oldPrivate || !newPrivate) {
         LOG_LIST(2, "oldListItemPrivate[%p] newListItemPrivate[%p]", static_cast<void*>(oldPrivate),
             static_cast<void*>(newPrivate));
     }
-    const bool stood = replacement && replacement->screen() == this;
-    if (!stood && !isAcceptable(replacement))
+    if (!mItems->holds(replacement) && !Rows::isFree(replacement))
         return;
-    replacement->joinScreen(*this, &List::itemDies);
-    if (mPrivate)
-        mPrivate->move(oldPrivate, newPrivate, index);
-    if (isDeletedWith(this, stood ? nullptr : replacement))
-        return;
-    takeOffVector(indexOf(old));
-    takeOffVector(indexOf(replacement));
-    replacement->joinScreen(*this, &List::itemDies);
-    mItems.insert(position(index), replacement);
+    const Rows::Row leaving(old);
+    const Rows::Step step(*mItems);
+    if (old != replacement)
+        mItems->startLeaving(leaving);
+    mItems->expect(*replacement, index);
+    mItems->bringIn(Rows::Row(replacement), [this, oldPrivate, index](ListItemPrivateIfc* half) {
+        if (mPrivate)
+            mPrivate->move(oldPrivate, half, index);
+    });
+    if (step && old != replacement)
+        mItems->finishLeaving(leaving);
 }
 
 ListItem* List::findSelectedItem()
 {
-    const int index = mPrivate ? mPrivate->getSelectedIndex() : -1;
-    if (index < 0 || index >= static_cast<int>(mItems.size())) {
+    ListItem* item = mPrivate ? mItems->at(mPrivate->getSelectedIndex()) : nullptr;
+    if (item)
+        TRACE_LIST("findSelectedItem() this: %p returns %p\n", static_cast<void*>(this), static_cast<void*>(item));
+    else
         TRACE_LIST("findSelectedItem() this: %p returns NULL\n", static_cast<void*>(this));
-        return nullptr;
-    }
-    ListItem* item = mItems[static_cast<std::size_t>(index)];
-    TRACE_LIST("findSelectedItem() this: %p returns %p\n", static_cast<void*>(this), static_cast<void*>(item));
     return item;
 }
 
 void List::privateSetSelected(ListItem* item)
 {
-    if (mPrivate && privateOf(item))
-        mPrivate->setSelected(privateOf(item));
+    if (mPrivate)
+        mPrivate->setSelected(Rows::halfOf(item));
 }
 
 void List::privateClearSelectedBackground()
@@ -236,99 +259,7 @@ PopupDialer* List::livingDialer() const
 void List::copyItemsTo(std::vector<ListItem*>* copy) const
 {
     if (copy)
-        *copy = mItems;
-}
-
-/// False for a row that is not ready, or that a screen or a toolkit list holds already.
-bool List::isAcceptable(ListItem* item) const
-{
-    ListItemPrivateIfc* itemPrivate = privateOf(item);
-    if (!itemPrivate)
-        return false;
-    VantoListBoxItemMEG* row = itemPrivate->getVantoListItem();
-    if (!item->screen() && !(row && row->parentWidget()))
-        return true;
-    TRACE_LIST("refused, stands in a list already: this: %p item %p\n", static_cast<const void*>(this),
-        static_cast<void*>(item));
-    return false;
-}
-
-int List::indexOf(const ListItem* item) const
-{
-    auto found = std::find(mItems.begin(), mItems.end(), item);
-    return found == mItems.end() ? -1 : static_cast<int>(found - mItems.begin());
-}
-
-std::vector<ListItem*>::iterator List::position(int index)
-{
-    return mItems.begin() + std::clamp(index, 0, static_cast<int>(mItems.size()));
-}
-
-void List::takeOffVector(int index)
-{
-    if (index < 0)
-        return;
-    mItems[static_cast<std::size_t>(index)]->leaveScreen();
-    mItems.erase(mItems.begin() + index);
-}
-
-void List::deleteItems()
-{
-    for (Arrival* arrival = mArrivals; arrival; arrival = arrival->outer)
-        delete arrival->item; // which leaves the list, and so the arrival
-    while (!mItems.empty()) {
-        ListItem* item = mItems.back();
-        mItems.pop_back();
-        item->leaveScreen();
-        delete item;
-    }
-}
-
-/// After the notice of a row on its way in: false if the row has been taken back or has died there, or if the list
-/// has, which takes the row with it.
-bool List::hasArrived(List* list, const Arrival& arrival)
-{
-    if (isDeletedWith(list, arrival.item))
-        return false;
-    list->mArrivals = arrival.outer;
-    return arrival.item != nullptr;
-}
-
-bool List::forgetArrival(const ListItem* item)
-{
-    for (Arrival* arrival = mArrivals; arrival; arrival = arrival->outer) {
-        if (item && arrival->item == item) {
-            arrival->item = nullptr;
-            return true;
-        }
-    }
-    return false;
-}
-
-/// After a notice: true if the list has gone meanwhile. Then the row on its way in, which was the list's already,
-/// goes too.
-bool List::isDeletedWith(const List* list, ListItem* item)
-{
-    if (displayableExists(list))
-        return false;
-    if (item) {
-        item->leaveScreen();
-        delete item;
-    }
-    return true;
-}
-
-void List::itemDies(Displayable& screen, ListItem& item, ListItemPrivateIfc* itemPrivate)
-{
-    auto& list = static_cast<List&>(screen);
-    const bool wasArriving = list.forgetArrival(&item);
-    const int index = list.indexOf(&item);
-    if (index < 0 && !wasArriving)
-        return;
-    // Off the vector first: the notice may delete the list, which deletes the rows that it still has.
-    list.takeOffVector(index);
-    if (list.mPrivate)
-        list.mPrivate->removeAt(index, itemPrivate);
+        *copy = mItems->all();
 }
 
 // Without effect on this telephone: the interface of a richer list

@@ -1,5 +1,6 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/ItemStateListener.h>
+#include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
 
 #include "LivingSet.h"
@@ -47,5 +48,6 @@ std::vector<T*> Numbered<T>::all()
 
 template class Numbered<CommandListener>;
 template class Numbered<ItemStateListener>;
+template class Numbered<ListItem>;
 
 }

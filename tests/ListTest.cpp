@@ -150,11 +150,11 @@ TEST_F(ListTest, RowsThatAreGivenBackStayWhole)
     EXPECT_EQ(list.removeAt(0), items[1]);
     list.replace(items[2], f);
     list.move(items[3], g, 0);
-    EXPECT_EQ(both(list), "GF[E]");
+    EXPECT_EQ(both(list), "G[F]E") << "what replaces the current row is current";
     list.removeAll();
     EXPECT_EQ(CountedItem::living, 7);
     for (ListItem* item : {items[0], items[1], items[2], items[3], items[4], (ListItem*)f, (ListItem*)g}) {
-        EXPECT_EQ(item->screen(), nullptr);
+        EXPECT_EQ(item->holder(), nullptr);
         EXPECT_EQ(item->getText().size(), 1u) << "the row's widget lives";
         delete item;
     }
@@ -363,34 +363,111 @@ TEST_F(ListTest, AFailedRemoveAtIsLogged)
     EXPECT_EQ(both(list), "[A]");
 }
 
-TEST_F(ListTest, ASubscriberMayTakeTheRowThatHasJustCome)
+/// Each change of the rows, with one thing that the subscriber does inside one of its notices.
+TEST_F(ListTest, GlassAndHandlesAgreeWhateverHappensInANotice)
+{
+    struct Scene {
+        std::unique_ptr<List> list = std::make_unique<List>(0);
+        List other{0};
+        ListItem* a = nullptr; // the first row
+        ListItem* b = nullptr; // the second
+        ListItem* x = nullptr; // a new one
+    };
+    using Act = std::function<void(Scene&)>;
+    const auto removeAndGive = [](Scene& scene, ListItem* row) {
+        if (!ListItem::exists(row))
+            return;
+        scene.list->remove(row);
+        scene.other.append(row);
+    };
+    const std::pair<const char*, Act> changesOf[] = {
+        {"append", [](Scene& s) { s.list->append(s.x); }},
+        {"insertAt", [](Scene& s) { s.list->insertAt(s.x, 0); }},
+        {"removeAt", [](Scene& s) { s.list->removeAt(0); }},
+        {"remove", [](Scene& s) { s.list->remove(s.a); }},
+        {"removeAll", [](Scene& s) { s.list->removeAll(); }},
+        {"clear", [](Scene& s) { s.list->clear(); }},
+        {"move", [](Scene& s) { s.list->move(s.a, s.x, 1); }},
+        {"move within", [](Scene& s) { s.list->move(s.a, s.b, 0); }},
+        {"replace", [](Scene& s) { s.list->replace(s.a, s.x); }},
+        {"replace a foreign row", [](Scene& s) { s.list->replace(s.other.getItems()[0], s.x); }},
+        {"death", [](Scene& s) { delete s.b; }},
+    };
+    const std::pair<const char*, Act> actions[] = {
+        {"delete the new row", [](Scene& s) { delete std::exchange(s.x, nullptr); }},
+        {"delete the first row", [](Scene& s) { delete s.a; }},
+        {"give the new row away", [&](Scene& s) { removeAndGive(s, s.x); }},
+        {"give the first row away", [&](Scene& s) { removeAndGive(s, s.a); }},
+        {"hand the first row on", [](Scene& s) { s.other.insertAt(s.a, 0); }},
+        {"append the first row", [](Scene& s) { s.list->append(s.a); }},
+        {"append another", [](Scene& s) { s.list->append(new CountedItem("Y")); }},
+        {"insert another", [](Scene& s) { s.list->insertAt(new CountedItem("Y"), 0); }},
+        {"take out by index", [](Scene& s) { s.list->removeAt(1); }},
+        {"replace the second", [](Scene& s) { s.list->replace(s.b, new CountedItem("Z")); }},
+        {"move to the end", [](Scene& s) { s.list->move(s.a, s.b, 9); }},
+        {"remove all", [](Scene& s) { s.list->removeAll(); }},
+        {"clear", [](Scene& s) { s.list->clear(); }},
+        {"delete the list", [](Scene& s) { s.list.reset(); }},
+    };
+    for (const auto& [changeName, change] : changesOf) {
+        for (const auto& [actionName, action] : actions) {
+            for (int turn = 1; turn <= 3; ++turn) {
+                SCOPED_TRACE(changeName + std::string(", in notice ") + std::to_string(turn) + ": " + actionName);
+                Scene scene;
+                fill(*scene.list, "ABC");
+                fill(scene.other, "O");
+                scene.a = scene.list->getItems()[0];
+                scene.b = scene.list->getItems()[1];
+                scene.x = new CountedItem("X");
+                show(*scene.list);
+                int notices = 0;
+                changes.onNotice = [&] {
+                    // A row that has gone can't be named again.
+                    const bool isThere = ListItem::exists(scene.a) && ListItem::exists(scene.b) && scene.list;
+                    if (++notices == turn && isThere)
+                        action(scene);
+                };
+                change(scene);
+                changes.onNotice = nullptr;
+                if (scene.list)
+                    both(*scene.list);
+                both(scene.other);
+                for (ListItem* row : ListItem::all()) {
+                    if (!row->holder())
+                        delete row; // the application has it back
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ListTest, AListThatIsMadeAtADeadOnesAddressIsNotTakenForIt)
+{
+    alignas(List) char place[sizeof(List)];
+    auto* list = new (place) List(0);
+    fill(*list, "AB");
+    show(*list);
+    changes.onNextNotice = [&] {
+        list->~List();
+        list = new (place) List(0);
+    };
+    list->replace(list->getItems()[0], new CountedItem("X"));
+    EXPECT_EQ(CountedItem::living, 0) << "the dead list's rows, and the one on its way there";
+    EXPECT_EQ(both(*list), "");
+    list->~List();
+}
+
+TEST_F(ListTest, ARowMadeAgainBySomebodysRequestKeepsItsPlace)
 {
     List list(0);
-    show(list);
-    CountedItem* row = nullptr;
-    std::unique_ptr<ListItem> taken;
-    const std::pair<const char*, std::function<void()>> table[] = {
-        {"deleted", [&] { delete row; }},
-        {"taken back",
-            [&] {
-                list.remove(row);
-                taken.reset(row);
-            }},
-        {"cleared away", [&] { list.clear(); }},
-    };
-    for (const auto& [name, action] : table) {
-        SCOPED_TRACE(name);
-        changes.onNextNotice = action;
-        row = new CountedItem("X");
-        list.append(row);
-        taken.reset();
-        EXPECT_TRUE(list.getItems().empty());
-        EXPECT_EQ(CountedItem::living, 0);
-        show(list);
-        list.append(new CountedItem("next"));
-        EXPECT_EQ(both(list), "[next]");
-        list.clear();
-    }
+    fill(list, "ABC");
+    ListItem* b = list.getItems()[1];
+    list.setSelected(b);
+    auto* again = new GuiRequestEvent(b, 0);
+    again->stringParam1 = "B2";
+    UApplication::instance()->postEvent(again);
+    pump();
+    EXPECT_EQ(both(list), "A[B2]C");
 }
 
 TEST_F(ListTest, OddTextsComeThrough)
@@ -405,14 +482,49 @@ TEST_F(ListTest, OddTextsComeThrough)
     }
 }
 
+TEST_F(ListTest, AnApplicationsOwnAppendRunsOnceForEachRow)
+{
+    struct OwnAppend : List {
+        OwnAppend()
+            : List(Plain)
+        {
+        }
+        using List::append;
+        void append(ListItem* item) override
+        {
+            ++count;
+            List::append(item);
+        }
+        int count = 0;
+    } list;
+    list.append(new CountedItem("A"));
+    list.append("B");
+    EXPECT_EQ(list.count, 2);
+    auto* append = new GuiRequestEvent(&list, 7);
+    append->ptrParam1 = static_cast<ListItem*>(new CountedItem("C"));
+    UApplication::instance()->postEvent(append);
+    pump();
+    EXPECT_EQ(list.count, 2) << "a request runs the step alone";
+    EXPECT_EQ(both(list), "[A]BC");
+}
+
 TEST_F(ListTest, RequestsPostedByHandAndUnknownNumbersAreServed)
 {
     List list(0);
     auto* append = new GuiRequestEvent(&list, 5);
     append->stringParam1 = "posted";
     UApplication::instance()->postEvent(append);
-    for (const int number : {23, 37, 38, -1, 2, 90, 1000})
+    for (const int number : {10, 12, 20, 23, 37, 38, -1, 2, 90, 1000})
         UApplication::instance()->postEvent(new GuiRequestEvent(&list, number));
+    ListItem row("A", true);
+    for (const int number : {8, 9})
+        UApplication::instance()->postEvent(new GuiRequestEvent(&row, number));
     pump();
     EXPECT_EQ(both(list), "[posted]");
+    std::unique_ptr<ListItem> first(list.getItems()[0]);
+    auto* remove = new GuiRequestEvent(&list, 15);
+    remove->intParam1 = 0;
+    UApplication::instance()->postEvent(remove);
+    pump();
+    EXPECT_EQ(both(list), "") << "without a slot for the row";
 }

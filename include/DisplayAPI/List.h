@@ -33,12 +33,24 @@ class Ticker;
 /// removeAll(), and for the old row replace() and move(), give it back to the application. clear() and
 /// deleting the list delete the rows. Titles given as a translation become the list's; listeners, dialer and
 /// ticker stay the application's.
-/// Errors: null, and rows that are not in this list, change nothing. A new row that stands in a list already is
-/// refused. Out of range, an index means the first row or the end; only removeAt() answers null behind the end.
+/// Errors: null, and rows that are not in this list, change nothing. A row that a list or a conference holds already is
+/// refused, and so is one that was made while there was no event loop; it stays whose it is. Once the loop has
+/// ended, calls from other threads than the GUI thread change nothing and answer what stands at each as the default.
+/// A row that is deleted then, as at any other time, leaves the list.
 /// Screen text: an object VantoListBox with the title and the current row.
+///
+/// The subscriber is told of a change while it happens. getItems() still names the rows from before then, and a row
+/// on its way out is still the list's: a subscriber who clears or deletes the list inside the notice of a removal
+/// deletes it too, unless he has handed it to another list.
 class DISPLAYAPI_EXPORT List : public Displayable {
 public:
-    /// Kinds 1 and 3 are lists that lead back; see hasBackItem().
+    /// The kinds of lists, which differ in hasBackItem() alone.
+    enum Kind : int {
+        Plain = 0,
+        LeadingBack = 1,
+    };
+
+    /// A list of a kind. 3 counts as LeadingBack too, and every other number as Plain.
     explicit List(int kind);
 
     /// Deletes the rows too, and waits until they have gone from the GUI thread.
@@ -74,43 +86,52 @@ public:
     virtual void appendItems(const std::string& text);
     virtual void appendItems(TranslationInfo* text);
 
-    /// Deletes all rows.
+    /// Deletes all rows, from the last to the first, and those that the subscriber adds while he is told.
     virtual void clear();
 
-    /// A copy of the rows in their order.
+    /// A copy of the rows in their order. Off the GUI thread, once the loop has ended: empty.
     virtual std::vector<ListItem*> getItems();
 
-    /// The current row, or null.
+    /// The current row; null without one, and off the GUI thread once the loop has ended.
     virtual ListItem* getSelected();
+
+    /// Makes a row of this list current.
     virtual void setSelected(ListItem* item);
 
-    /// Makes the row at an index current; -1 leaves the list without a current row.
+    /// Makes the row at an index current; -1 leaves the list without a current row, any other index outside the list
+    /// changes nothing. It gives no notice.
     virtual void setSelectedIndex(int index);
 
-    /// The index of the current row, -1 without one.
+    /// The index of the current row; -1 without one, and off the GUI thread once the loop has ended.
     virtual int getSelectedIndex();
 
     /// Always -1.
     virtual int getDisplayIndexForItem(ListItem* item);
+
+    /// Puts a row in front of the one at an index: at the front for 0 and below, at the end for size() and above.
     virtual void insertAt(ListItem* item, int index);
 
-    /// Takes a row out and gives it to the caller; null behind the end of the list.
+    /// Takes the row at an index out and gives it to the caller. An index below 0 means the first row; from size() on
+    /// the answer is null and a message is logged. Null too off the GUI thread once the loop has ended, and if the
+    /// subscriber has handed the row on, or has deleted it or the list, while he was told.
     virtual ListItem* removeAt(int index);
 
     /// Takes a row out. The row must live until the request has run: deleting it from the same thread is safe.
-    /// A list that is left without rows leaves the screen, until it is made current again.
+    /// A list that is left without rows leaves the screen, until it gets a row or is made current again.
     virtual void remove(ListItem* item);
 
-    /// Takes `old` out and puts `replacement`, which may stand in this list, at `index`.
+    /// Takes `old` out and puts `replacement`, which may stand in this list, at `index`, counted without the two;
+    /// outside the list as insertAt() has it.
     virtual void move(ListItem* old, ListItem* replacement, int index);
 
     /// Takes all rows out and deletes none.
     virtual void removeAll();
 
-    /// Puts `replacement` in the place of `old`; at the end if `old` is null or not here.
+    /// Puts `replacement` in the place of `old`, and makes it current if that was; at the end if `old` is null or
+    /// not here.
     virtual void replace(ListItem* old, ListItem* replacement);
 
-    /// The number of rows; -1 if there is no answer any more.
+    /// The number of rows; -1 off the GUI thread once the loop has ended.
     virtual int size();
 
     // Title
@@ -170,13 +191,13 @@ public:
 
     // State
 
-    /// Lets the list take no more keys; it stays where it is.
+    /// Lets the list take no more keys, until it is shown again; it stays where it is.
     virtual void hide();
 
     /// Reads the rows' translations again. Threads: GUI thread.
     virtual void localeChanged(std::string locale);
 
-    /// True for the kinds 1 and 3.
+    /// True for LeadingBack. It is stored, and changes nothing that can be seen.
     bool hasBackItem() const { return mHasBackItem; }
 
     /// Takes the highlight bar off the current row until the user moves.
@@ -199,7 +220,7 @@ public:
     /// Hands every key that the list gets to the dialer from now on; null ends that.
     void addDialer(PopupDialer* dialer);
 
-    /// The dialer; null when it has been deleted.
+    /// The dialer; null when it has been deleted, and off the GUI thread once the loop has ended.
     PopupDialer* getDialer();
 
     /// Stored, and without effect.
@@ -207,6 +228,8 @@ public:
 
     /// The ticker is stored and handed back, and not used.
     void setTicker(Ticker* ticker);
+
+    /// Null before setTicker(), and off the GUI thread once the loop has ended.
     Ticker* getTicker();
 
     // What the listeners are told. The commands last as long as the process and are told apart by address.
@@ -229,43 +252,28 @@ protected:
 
 private:
     enum class Request : int;
+    class Rows;
 
     // The steps of the requests, on the GUI thread
+    void create(bool hasBackItem);
     void createAndAppendItem(ListItem* item);
     void privateAppend(ListItem* item);
     void privateClear();
     ListItem* findSelectedItem();
     void privateSetSelected(ListItem* item);
+    void bringToEnd(ListItem* item);
     void privateInsertAt(ListItem* item, int index);
     ListItem* privateRemoveAt(int index);
     void privateRemove(ListItem* item);
     void privateMove(ListItem* old, ListItem* replacement, int index);
     void privateRemoveAll();
     void privateReplace(ListItem* old, ListItem* replacement);
-    void appendInsteadOf(ListItem* foreign, ListItem* replacement);
     void privateSetDialer(PopupDialer* dialer);
     void privateClearSelectedBackground();
     void copyItemsTo(std::vector<ListItem*>* copy) const;
     PopupDialer* livingDialer() const;
 
-    bool isAcceptable(ListItem* item) const;
-    int indexOf(const ListItem* item) const;
-    std::vector<ListItem*>::iterator position(int index);
-    void takeOffVector(int index);
-    void deleteItems();
-
-    /// A row on its way into the list, while the display tells of it.
-    struct Arrival {
-        ListItem* item; // null once it has been taken back or has died
-        Arrival* outer; // the one inside whose notice this one came
-    };
-    static bool hasArrived(List* list, const Arrival& arrival);
-    bool forgetArrival(const ListItem* item);
-    static bool isDeletedWith(const List* list, ListItem* item);
-    static void itemDies(Displayable& list, ListItem& item, ListItemPrivateIfc* itemPrivate);
-
-    std::vector<ListItem*> mItems;
-    Arrival* mArrivals = nullptr;
+    std::unique_ptr<Rows> mItems;
     PopupDialer* mDialer = nullptr;
     Ticker* mTicker = nullptr;
     std::atomic<bool> mHasBackItem;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <DisplayAPI/Icons.h>
+#include <DisplayAPI/Numbered.h>
 #include <DisplayAPI/Widget.h>
 
 #include <atomic>
@@ -10,8 +11,8 @@ class TranslationInfo;
 
 namespace DisplayAPI {
 
-class Displayable;
 class ListItemPrivateIfc;
+class RowHolder;
 
 /// One row of a list: a text, a second text at the right edge, an icon at the left.
 ///
@@ -19,8 +20,10 @@ class ListItemPrivateIfc;
 /// return at once. An application's own subclass is made on the GUI thread, or its base would run before it is whole.
 /// Ownership: a row belongs to the application until a list takes it; then to the list, until the list gives it
 /// back. A row that is deleted while it stands in a list leaves that list first.
-/// Errors: a call on a row whose half on the GUI thread has gone changes nothing and answers an empty text or 0.
-class DISPLAYAPI_EXPORT ListItem : public Widget {
+/// Errors: a call on a row without a half on the GUI thread changes nothing and answers an empty text or 0: one whose
+/// half has gone, and one that was made off the GUI thread once the event loop had ended. The latter never gets a half,
+/// and no list takes it, also under a later loop: it stays the caller's.
+class DISPLAYAPI_EXPORT ListItem : public Widget, public Numbered<ListItem> {
 public:
     /// What a row shows beside its text.
     enum ListItemType : int {
@@ -87,38 +90,36 @@ public:
     /// Without effect in this class.
     void enableContextMenuArrow(bool enabled);
 
-    // For the screens that hold rows. Threads: GUI thread
-
-    /// Tells a screen that one of its rows is about to be deleted.
-    using RowDies = void (*)(Displayable& screen, ListItem& row, ListItemPrivateIfc* rowPrivate);
-
-    void joinScreen(Displayable& screen, RowDies rowDies);
-    void leaveScreen();
-
-    /// The screen among whose rows this one is, or null.
-    Displayable* screen() const { return mScreen; }
+    /// Who holds the row; null while it is the application's. Threads: GUI thread.
+    RowHolder* holder() const { return mHolder; }
 
 protected:
     /// For rows with a private of their own: makes no request and sets no name. Null if the subclass makes the
     /// private later, see setPrivate().
     explicit ListItem(ListItemPrivateIfc* rowPrivate);
 
-    /// Takes the private over.
+    /// Takes the private over, and deletes an earlier one.
     void setPrivate(ListItemPrivateIfc* rowPrivate);
 
-    /// The deletion of a row's private on the GUI thread: retires the handle and takes the row out of its
-    /// screen. What is left is to delete the private, which the caller names: a destructor reaches no override.
+    /// The row has another private than `before`, which still lives: whoever holds the row shows it anew. The display
+    /// tells of it, so the row itself may have gone behind this. For rows that keep their private themselves.
+    void privateChanged(ListItemPrivateIfc* before);
+
+    /// The deletion of a row's private on the GUI thread: retires the handle and takes the row from its holder. What is
+    /// left is to delete the private, which the caller names: a destructor reaches no override.
     void retireRow(ListItemPrivateIfc* rowPrivate);
 
 private:
     enum class Request : int;
 
+    friend class HeldRows;
+
     void destroy();
 
     // Another thread may read the icon while the GUI thread makes the private.
     std::atomic<ListItemPrivateIfc*> mPrivate = nullptr;
-    Displayable* mScreen = nullptr;
-    RowDies mRowDies = nullptr;
+    RowHolder* mHolder = nullptr;
+    bool mIsLeaving = false; // on its way out of the holder: another may have it
 };
 
 }

@@ -102,3 +102,47 @@ TEST_F(ThreadedListTest, AListThatIsDeletedBehindTheLoopStaysQuiet)
     List unborn(0);
     EXPECT_EQ(unborn.getPrivateImpl(), nullptr);
 }
+
+TEST_F(ThreadedListTest, RowsThatDieBehindTheLoopAreForgotten)
+{
+    // Made at one address, the second row is not the first one.
+    alignas(ListItem) char place[sizeof(ListItem)];
+    auto* first = new (place) ListItem("A", true);
+    auto list = std::make_unique<List>(0);
+    auto* second = new ListItem("B", true);
+    auto* third = new ListItem("C", true);
+    list->append(first);
+    list->append(second);
+    list->append(third);
+    display->setCurrent(list.get());
+    EXPECT_EQ(list->size(), 3);
+    endLoop();
+    first->~ListItem();
+    auto* later = new (place) ListItem("D", true);
+    list->remove(second);
+    delete second;
+    list.reset();
+    EXPECT_FALSE(ListItem::exists(third));
+    EXPECT_TRUE(ListItem::exists(later));
+    later->~ListItem();
+}
+
+TEST_F(ThreadedListTest, TheNextLoopFindsNoRowThatDiedBehindTheLast)
+{
+    List list(0);
+    auto* row = new ListItem("A", true);
+    list.append(row);
+    list.append("B");
+    EXPECT_EQ(list.size(), 2);
+    endLoop();
+    delete row;
+    auto* late = new ListItem("late", true);
+    Widget::setGuiThreadId(); // the work goes over to this thread
+    EXPECT_EQ(list.size(), 1);
+    EXPECT_EQ(list.getItems().size(), 1u);
+    EXPECT_EQ(list.getSelected(), list.getItems()[0]);
+    list.append(late);
+    EXPECT_EQ(list.size(), 1) << "it has no half";
+    EXPECT_TRUE(ListItem::exists(late)) << "and stays the caller's";
+    delete late;
+}
