@@ -6,6 +6,8 @@
 #include "ListTrace.h"
 #include "Road.h"
 
+#include <utility>
+
 // Every operation builds its request, on the GUI thread too; there it runs at once. A case below therefore calls
 // the step behind the operation and never the operation itself.
 
@@ -83,10 +85,15 @@ List::List(bool hasBackItem)
 
 List::~List()
 {
-    if (Road::wait(this, Request::Destroy)) {
-        cleanup();
+    end();
+}
+
+void List::end()
+{
+    if (std::exchange(mHasEnded, true))
         return;
-    }
+    if (Road::wait(this, Request::Destroy))
+        return cleanup();
     // Both still there if the loop has ended.
     Road::keepIfRefused(this, mPrivate);
     mItems->end();

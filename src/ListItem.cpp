@@ -80,7 +80,12 @@ ListItem::ListItem(ListItemPrivateIfc* rowPrivate)
 
 ListItem::~ListItem()
 {
-    if (Road::wait(this, Request::Destroy))
+    end();
+}
+
+void ListItem::end()
+{
+    if (exists(this) && Road::wait(this, Request::Destroy))
         destroy();
     if (!exists(this))
         return;

@@ -248,6 +248,11 @@ protected:
     /// For lists with a private of their own: makes no request. The subclass sets mPrivate on the GUI thread.
     explicit List(bool hasBackItem);
 
+    /// What the destructor does, on any thread: the half and the rows are deleted on the GUI thread, by cleanup(), and
+    /// the caller waits. A subclass calls it first in its own destructor, so that no earlier request meets an object
+    /// that is half gone; behind that it does nothing.
+    void end();
+
     std::unique_ptr<ListBoxPrivateIfc> mPrivate;
 
 private:
@@ -277,6 +282,7 @@ private:
     PopupDialer* mDialer = nullptr;
     Ticker* mTicker = nullptr;
     std::atomic<bool> mHasBackItem;
+    bool mHasEnded = false;
 };
 
 }

@@ -98,6 +98,11 @@ protected:
     /// private later, see setPrivate().
     explicit ListItem(ListItemPrivateIfc* rowPrivate);
 
+    /// What the destructor does, on any thread: the half is deleted on the GUI thread, and the caller waits. A
+    /// subclass calls it first in its own destructor, so that no earlier request meets an object that is half gone;
+    /// behind that, and behind retireRow(), it does nothing.
+    void end();
+
     /// Takes the private over, and deletes an earlier one.
     void setPrivate(ListItemPrivateIfc* rowPrivate);
 
