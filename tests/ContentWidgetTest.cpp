@@ -69,17 +69,6 @@ TEST_F(ContentWidgetTest, TheCallViewOfAThreeLineTelephoneShowsItsFunctionKeys)
     bar->hide();
     display->callShowFPKBarMethodFromAdminPhonelet();
     EXPECT_TRUE(bar->isVisible());
-    display->setFPKLabel(1, "Line 1");
-    display->setFPKStatus(1, FPKBarMEG::On);
-    display->setAlternateLabel(1, "Other");
-    const std::string plain = bar->serialise().toUTF8();
-    EXPECT_NE(plain.find("icon0:On\nstring0:Line 1\n"), std::string::npos) << plain;
-    display->shiftChangeEventForCertainFPKey(true, 1);
-    EXPECT_NE(bar->serialise().toUTF8().find("string0:Other\n"), std::string::npos);
-    display->shiftFPKLabel(1);
-    EXPECT_EQ(bar->serialise().toUTF8(), plain);
-    display->shiftFPKBar(true);
-    EXPECT_NE(bar->serialise().toUTF8(), plain);
 
     ContentWidget neverShown; // its bar has no parent and goes with it
     EXPECT_NE(neverShown.getFPKBar(), nullptr);

@@ -135,3 +135,16 @@ bool lineIsInverse(const UScreenWE1& screen, int line, int column)
     // Icons leave the edge of their line free, so there the ground shows.
     return pixels(screen, column, UPainter::lineTop(line)) == FullRow;
 }
+
+bool screenHasIcon(const UScreenWE1& screen, int line, int column, std::uint16_t number)
+{
+    UScreenWE1 sample(screen.height());
+    UPainter(sample, nullptr).icon(line, column, number);
+    for (int y = UPainter::lineTop(line); y <= UPainter::lineBottom(line); ++y) {
+        for (int x = 6 * column; x < 6 * column + 12; ++x) {
+            if (screen.pixel(x, y) != sample.pixel(x, y))
+                return false;
+        }
+    }
+    return true;
+}

@@ -30,5 +30,8 @@ private:
 /// with anything else in it, half of an icon for instance, is U+25A1.
 std::string lineText(const UScreenWE1& screen, int line);
 
+/// True when the icon with this number stands on the line from this column on.
+bool screenHasIcon(const UScreenWE1& screen, int line, int column, std::uint16_t number);
+
 /// True when the cell is painted white on black.
 bool lineIsInverse(const UScreenWE1& screen, int line, int column = 0);

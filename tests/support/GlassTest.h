@@ -125,15 +125,7 @@ protected:
     bool hasIcon(int line, int column, std::uint16_t number)
     {
         manager.paintIfNeeded();
-        UScreenWE1 sample(glass.height());
-        UPainter(sample, nullptr).icon(line, column, number);
-        for (int y = UPainter::lineTop(line); y <= UPainter::lineBottom(line); ++y) {
-            for (int x = 6 * column; x < 6 * column + 12; ++x) {
-                if (glass.pixel(x, y) != sample.pixel(x, y))
-                    return false;
-            }
-        }
-        return true;
+        return screenHasIcon(glass, line, column, number);
     }
 
     UWindowManager& manager = UWindowManager::instance();

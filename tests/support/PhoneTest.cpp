@@ -129,3 +129,9 @@ std::string PhoneTest::glassLine(int line)
     pump();
     return lineText(*UWindowManager::instance().screen(), line);
 }
+
+bool PhoneTest::hasIcon(int line, int column, std::uint16_t number)
+{
+    pump();
+    return screenHasIcon(*UWindowManager::instance().screen(), line, column, number);
+}

@@ -21,7 +21,7 @@ struct PhoneSetup {
     std::string applicationName = "TestPhonelet";
     std::string softwareType = "Zelmark SIP";
     bool server = false;
-    HardwareVersion::Set hardware;
+    HardwareVersion::Set hardware = {};
 };
 
 /// The whole glass as one rectangle.
@@ -57,6 +57,9 @@ protected:
 
     /// A line of the painted glass, read back as text of 27 characters.
     std::string glassLine(int line);
+
+    /// Whether the icon with this number stands there.
+    bool hasIcon(int line, int column, std::uint16_t number);
 
     /// Runs a function on another thread, while this one is the loop.
     void elsewhere(const std::function<void()>& function);
