@@ -158,6 +158,7 @@ TEST_F(DisplayStackTest, AHiddenDisplayOnlyBuildsTheStackAndShowsItsTopLater)
     middle->screen().dismiss();
     top->screen().dismiss();
     EXPECT_EQ(takeLog(), Lines{});
+    EXPECT_TRUE(middle->screen().isOwner && top->screen().isOwner) << "what is dismissed is given back";
     display->setCurrent(top.get());
     EXPECT_EQ(subscriber.takeNotices(), 3) << "of two that leave and one that comes";
 

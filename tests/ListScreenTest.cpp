@@ -104,6 +104,19 @@ TEST_F(ListScreenTest, TitleAndCurrentRowAreWrittenAndPainted)
     EXPECT_FALSE(half(list).hasCaption());
 }
 
+TEST_F(ListScreenTest, AListStaysOnTheGlassUntilItsLastRowIsRemoved)
+{
+    List list(0);
+    fill(list, "AB");
+    show(list);
+    for (const char* left : {"B", ""}) {
+        ListItem* first = list.getItems()[0];
+        list.remove(first);
+        delete first;
+        EXPECT_EQ(glassLine(0).substr(0, 1), *left ? left : " ");
+    }
+}
+
 TEST_F(ListScreenTest, ChangesThatCanBeSeenAreTold)
 {
     List list(0);

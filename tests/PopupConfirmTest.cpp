@@ -115,11 +115,13 @@ TEST_F(PopupConfirmTest, EachStateHasItsIconWord)
         int state;
         const char* word;
         const char* wordWithRects;
+        std::uint16_t icon;
     };
-    const Case cases[] = {{0, "Info", "Info"}, {1, "Question", "Question"}, {5, "Recall", "Recall"},
-        {6, "(no such field)", "(no such field)"}, {7, "Mobile User Changes", "(no such field)"},
-        {99, "(no such field)", "(no such field)"}};
+    const Case cases[] = {{0, "Info", "Info", 21}, {1, "Question", "Question", 19}, {5, "Recall", "Recall", 53},
+        {6, "(no such field)", "(no such field)", 16}, {7, "Mobile User Changes", "(no such field)", 85},
+        {99, "(no such field)", "(no such field)", 85}};
     PopupConfirm popup(true);
+    popup.addCommand(&yes);
     show(popup);
     EXPECT_EQ(screenField("icon"), "Info") << "before a state is set";
     for (const Case& row : cases) {
@@ -127,6 +129,7 @@ TEST_F(PopupConfirmTest, EachStateHasItsIconWord)
         EXPECT_EQ(screenField("icon"), row.word) << "state " << row.state;
         EXPECT_EQ(fieldOf(half(popup).serialise(std::vector<URect>{URect(0, 0, 161, 30)}), "icon"), row.wordWithRects)
             << "state " << row.state;
+        EXPECT_TRUE(hasIcon(0, 0, row.icon)) << "state " << row.state;
     }
 }
 
@@ -249,6 +252,29 @@ TEST_F(PopupConfirmTest, AChoiceWhoseCommandHasDiedPostsNothing)
     press(UGlobal::KeyDown);
     press(UGlobal::KeyOk);
     EXPECT_EQ(listener.commands(1), std::vector<Command*>{&yes});
+}
+
+TEST_F(PopupConfirmTest, NobodyIsToldOfAPopupThatHasDied)
+{
+    struct Deleter : CommandListener {
+        void commandAction(Command*, Displayable*) override { }
+        void postCommandAction(Command*, Displayable*) override { popup.reset(); }
+        std::unique_ptr<PopupConfirm> popup;
+    } deleter;
+    struct Counter : CommandListener {
+        void commandAction(Command*, Displayable*) override { }
+        void postCommandAction(Command*, Displayable*) override { ++posts; }
+        int posts = 0;
+    } counter;
+    deleter.popup = std::make_unique<PopupConfirm>(true);
+    deleter.popup->addCommand(&yes);
+    for (CommandListener* each : {static_cast<CommandListener*>(&counter), static_cast<CommandListener*>(&deleter)}) {
+        deleter.popup->addCommandListener(each);
+        deleter.popup->addCommandListener(&counter);
+    }
+    show(*deleter.popup);
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(counter.posts, 2);
 }
 
 TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTellsTheListeners)

@@ -82,13 +82,23 @@ TEST_F(CallRowsTest, ALineShowsItsNameAndItsIdentity)
     EXPECT_EQ(row->getText(), text("HD Sales 4711"));
 }
 
-TEST_F(CallRowsTest, APausedCallBackShowsItself)
+TEST_F(CallRowsTest, ACallBackShowsItsStateWhoAndWhen)
 {
-    auto* row = new CallBackListItemMEG(text("Bob"), CallBackListItemMEG::Busy, CallBackListItemMEG::Paused,
-        static_cast<CallBackListItemMEG::IconType>(4), text("2001-02-03 10:42"));
-    list.addItem(row);
-    EXPECT_EQ(line(0), "\u25A1\u25A1Bob            2001-02-03");
-    EXPECT_EQ(row->getItemType(), VantoListBoxItemMEG::CallBackRow);
+    const auto add = [this](CallBackListItemMEG::CallBackState state, const char* date) {
+        auto* row = new CallBackListItemMEG(text("Bob"), CallBackListItemMEG::Busy, state,
+            static_cast<CallBackListItemMEG::IconType>(4), text(date));
+        list.addItem(row);
+        return row;
+    };
+    auto* active = add(CallBackListItemMEG::Active, "Monday");
+    add(CallBackListItemMEG::Paused, "2001-02-03 10:42");
+    EXPECT_EQ(line(0), "\u25A1\u25A1Bob                Monday");
+    EXPECT_EQ(line(1), "\u25A1\u25A1Bob            2001-02-03");
+    list.hideHighlightBar();
+    EXPECT_TRUE(hasIcon(0, 0, 6));
+    EXPECT_TRUE(hasIcon(1, 0, Icons::HeldCall));
+    active->setIcon(50);
+    EXPECT_TRUE(hasIcon(0, 0, 50)) << "an icon of its own goes before";
 }
 
 TEST_F(CallRowsTest, TheEndlessBarRunsWhileItIsOnTheGlass)
