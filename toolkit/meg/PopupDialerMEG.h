@@ -100,6 +100,7 @@ private:
     bool move(UKeyEvent& key);
     void goBack();
     void typed();
+    void letterStands();
     void eraseByRow();
     void showEditLine(bool shown);
     void updateDeleteRow();

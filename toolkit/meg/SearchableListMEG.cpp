@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int CellWidth = 6;
 constexpr int LeastTextColumns = 8; // counters that leave less are not shown
 
 UString ratio(int part, int whole)
@@ -212,8 +211,7 @@ void SearchableListMEG::paintField(UPainter& painter, int line)
     const UString counts = counters();
     const int countsStart = UPainter::Columns - TextCells::count(counts);
     const bool isRoom = countsStart - 1 - first >= LeastTextColumns;
-    const int end = isRoom ? countsStart - 1 : UPainter::Columns;
-    mEdit->setCoordinates(first * CellWidth, line * 15, end * CellWidth - 1, line == 0 ? 14 : 30);
+    mEdit->setCells(line, first, isRoom ? countsStart - 1 : UPainter::Columns);
     mEdit->paint(painter);
     if (isRoom)
         painter.textRight(line, UPainter::Columns - 1, counts);

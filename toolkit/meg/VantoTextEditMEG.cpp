@@ -129,7 +129,12 @@ bool VantoTextEditMEG::deleteCharacter()
     return true;
 }
 
-// Cursor
+// Place and cursor
+
+void VantoTextEditMEG::setCells(int line, int first, int end)
+{
+    setCoordinates(first * CellWidth, UPainter::lineTop(line), end * CellWidth - 1, UPainter::lineBottom(line));
+}
 
 bool VantoTextEditMEG::moveCursor(int step)
 {
