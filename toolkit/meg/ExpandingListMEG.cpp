@@ -99,22 +99,6 @@ public:
 protected:
     void currentChanged() override { settle(); }
 
-    void rowAdded(VantoListBoxItemMEG* row) override
-    {
-        if (mIsSettling || !mUnfolded)
-            return;
-        const int distance = indexOf(row) - indexOf(mUnfolded);
-        if (distance <= 0 || distance > unfoldedCount())
-            return;
-        // It came between a row and its branches.
-        const VantoListBoxItemMEG* current = currentItem();
-        mIsSettling = true;
-        fold();
-        unfold();
-        setCurrentIndex(indexOf(current));
-        mIsSettling = false;
-    }
-
 private:
     bool isHere(const ExpandingListChildBaseMEG* branch) const { return branch && branch->parentWidget() == this; }
 

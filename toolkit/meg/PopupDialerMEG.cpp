@@ -14,6 +14,7 @@
 
 namespace {
 
+constexpr int CellWidth = 6;
 constexpr int LeastEditColumns = 10; // a longer prefix is cut
 constexpr int MostModeColumns = 8;
 
@@ -303,23 +304,17 @@ void PopupDialerMEG::goBack()
 
 void PopupDialerMEG::event(UEvent* event)
 {
-    const auto* row = dynamic_cast<VantoListBoxItemMEG*>(event->source());
-    if (editArea && event->source() == editArea) {
-        if (event->type == EventType::EditTextChanged)
-            typed();
-        else
-            letterStands();
+    auto* row = dynamic_cast<VantoListBoxItemMEG*>(event->source());
+    if (event->type == EventType::EditTextChanged) {
+        typed();
+    } else if (event->type == EventType::ContentChanged) {
+        VantoListBoxItemMEG* current = listBox ? listBox->currentItem() : nullptr;
+        emit(EventType::RowMoved, current, current);
     } else if (event->type == EventType::RowChosen && isDeleteRow(row)) {
         eraseByRow();
     } else {
         relay(*event);
     }
-}
-
-void PopupDialerMEG::letterStands()
-{
-    VantoListBoxItemMEG* row = listBox ? listBox->currentItem() : nullptr;
-    emit(EventType::RowMoved, row, row);
 }
 
 void PopupDialerMEG::typed()
@@ -399,9 +394,9 @@ void PopupDialerMEG::paintEditLine(UPainter& painter)
 {
     const UString mode = modePrompt();
     const int modeColumns = static_cast<int>(std::min<std::size_t>(mode.length(), MostModeColumns));
-    const int end = UPainter::Columns - (modeColumns > 0 ? modeColumns + 1 : 0);
-    const int first = paintLine(painter, 0, 0, {{}, {}, editHead(), {}}, end - LeastEditColumns);
-    editArea->setCells(0, first, end);
+    const int last = UPainter::Columns - (modeColumns > 0 ? modeColumns + 1 : 0);
+    const int first = paintLine(painter, 0, 0, {{}, {}, editHead(), {}}, last - LeastEditColumns);
+    editArea->setCoordinates(first * CellWidth, 0, last * CellWidth - 1, 14);
     editArea->paint(painter);
     painter.textRight(0, UPainter::Columns - 1, mode, modeColumns);
 }

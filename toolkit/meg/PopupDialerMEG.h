@@ -100,7 +100,6 @@ private:
     bool move(UKeyEvent& key);
     void goBack();
     void typed();
-    void letterStands();
     void eraseByRow();
     void showEditLine(bool shown);
     void updateDeleteRow();

@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr int CellWidth = 6;
 constexpr int LeastTextColumns = 8; // counters that leave less are not shown
 
 UString ratio(int part, int whole)
@@ -211,7 +212,8 @@ void SearchableListMEG::paintField(UPainter& painter, int line)
     const UString counts = counters();
     const int countsStart = UPainter::Columns - TextCells::count(counts);
     const bool isRoom = countsStart - 1 - first >= LeastTextColumns;
-    mEdit->setCells(line, first, isRoom ? countsStart - 1 : UPainter::Columns);
+    const int end = isRoom ? countsStart - 1 : UPainter::Columns;
+    mEdit->setCoordinates(first * CellWidth, line * 15, end * CellWidth - 1, line == 0 ? 14 : 30);
     mEdit->paint(painter);
     if (isRoom)
         painter.textRight(line, UPainter::Columns - 1, counts);

@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr int CellWidth = 6;
 constexpr int MostModeColumns = 8;
 
 struct RowText {
@@ -237,7 +238,7 @@ void SpellerMEG::paint(UPainter& painter)
     painter.clearLines(0, 1);
     const UString mode = mEdit->modeText();
     const int modeColumns = static_cast<int>(std::min<std::size_t>(mode.length(), MostModeColumns));
-    mEdit->setCells(0, 0, UPainter::Columns - modeColumns - 1);
+    mEdit->setCoordinates(0, 0, (UPainter::Columns - modeColumns - 1) * CellWidth - 1, 14);
     mEdit->paint(painter);
     painter.textRight(0, UPainter::Columns - 1, mode, modeColumns);
     if (mEdit->getKeyPadShown())

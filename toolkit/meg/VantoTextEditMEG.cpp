@@ -129,12 +129,7 @@ bool VantoTextEditMEG::deleteCharacter()
     return true;
 }
 
-// Place and cursor
-
-void VantoTextEditMEG::setCells(int line, int first, int end)
-{
-    setCoordinates(first * CellWidth, UPainter::lineTop(line), end * CellWidth - 1, UPainter::lineBottom(line));
-}
+// Cursor
 
 bool VantoTextEditMEG::moveCursor(int step)
 {

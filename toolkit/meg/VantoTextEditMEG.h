@@ -66,12 +66,6 @@ public:
     /// Deletes the character before the cursor. Returns whether there was one.
     bool deleteCharacter();
 
-    // Place
-
-    /// Gives the line the cells of a line of the glass from column `first` up to the one in front of `end`; none where
-    /// `end` is not behind `first`.
-    void setCells(int line, int first, int end);
-
     // Cursor
 
     /// The number of characters before the cursor.
