@@ -62,28 +62,11 @@ protected:
 
     void take(TopRow* row) { std::erase(tops, row); }
 
-    /// Inserts a row in front of any other, also of a branch; it then goes before the branches.
-    void insertAnywhere()
-    {
-        auto* row = new TopRow(text("inserted"));
-        row->setBranchText(anyBranchText());
-        const auto index = static_cast<int>(below(rows().size() + 1));
-        const std::vector<Row*> all = rows();
-        const auto place = static_cast<std::size_t>(
-            std::count_if(all.begin(), all.begin() + index, [](Row* there) { return dynamic_cast<TopRow*>(there); }));
-        list->list()->insertItem(row, index);
-        tops.insert(tops.begin() + static_cast<std::ptrdiff_t>(place), row);
-    }
-
-    /// One thing that may happen to the list.
+    /// One thing that may happen to the list. Returns the row that loses its place by it, if one does.
     void step()
     {
         if (tops.size() < 2 || below(5) == 0) {
             tops.push_back(add("row"));
-            return;
-        }
-        if (below(10) == 0) {
-            insertAnywhere();
             return;
         }
         TopRow* row = any();

@@ -117,7 +117,7 @@ protected:
         below->hide();
         root.addWidget(edit);
         edit->setListener(&recorder);
-        edit->setCells(0, 6, 16);
+        edit->setCoordinates(36, 0, 95, 14);
     }
 
     unsigned below100() { return static_cast<unsigned>(random() % 100); }
@@ -171,7 +171,7 @@ TEST_P(TextEditTest, RandomKeysMakeTheTextOfAPlainModel)
             model.limit = 1 + random() % 30;
             edit->setMaxLength(static_cast<int>(model.limit));
         } else {
-            edit->setCells(0, 6, 6 + static_cast<int>(random() % 22));
+            edit->setCoordinates(36, 0, 35 + 6 * static_cast<int>(random() % 21), 14);
             edit->refresh();
         }
         ASSERT_EQ(edit->getText().toUTF8(), joined(model.text)) << "step " << step;
