@@ -27,7 +27,7 @@ public:
 VantoTextEditMEG* addLine(Stage& stage, int columns)
 {
     VantoTextEditMEG* edit = stage.add<Line>()->edit;
-    edit->setCells(0, 0, columns);
+    edit->setCoordinates(0, 0, columns * 6 - 1, 14);
     edit->setListener(stage.listener());
     return edit;
 }
