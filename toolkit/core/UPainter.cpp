@@ -36,7 +36,7 @@ const LineRows& rowsOf(int line)
 int barRoom(int columns)
 {
     constexpr int frameAndGaps = 6;
-    return std::max(columns, 1) * UFont::CellWidth - frameAndGaps;
+    return std::clamp(columns, 1, UPainter::Columns) * UFont::CellWidth - frameAndGaps;
 }
 
 /// Where a row's text splits: its head ends before `headEnd`, its tail starts at `tailStart`.
@@ -92,10 +92,8 @@ void UPainter::clearLine(int line)
 {
     if (!isLine(line))
         return;
-    for (int y = lineTop(line); y <= lineBottom(line); ++y) {
-        for (int x = 0; x < UScreenWE1::Width; ++x)
-            mScreen.setPixel(x, y, false);
-    }
+    for (int y = lineTop(line); y <= lineBottom(line); ++y)
+        mScreen.fill(y, 0, UScreenWE1::Width - 1, false);
 }
 
 void UPainter::clearLines(int first, int last)
@@ -110,10 +108,8 @@ void UPainter::cell(int line, int column, const std::uint8_t* rows)
         return;
     const int left = column * UFont::CellWidth;
     const int top = rowsOf(line).cellTop;
-    for (int y = 0; y < UFont::CellHeight; ++y) {
-        for (int x = 0; x < UFont::CellWidth; ++x)
-            mScreen.setPixel(left + x, top + y, (rows[y] >> (UFont::CellWidth - 1 - x) & 1) != 0);
-    }
+    for (int y = 0; y < UFont::CellHeight; ++y)
+        mScreen.setPixels(left, top + y, rows[y], UFont::CellWidth);
 }
 
 int UPainter::text(int line, int column, const UString& text, int columns)
@@ -178,10 +174,8 @@ int UPainter::icon(int line, int column, std::uint16_t number)
     constexpr int size = static_cast<int>(std::tuple_size_v<Icons::Picture>);
     const int left = column * UFont::CellWidth + 1;
     const int top = rowsOf(line).cellTop + 1;
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < size; ++x)
-            mScreen.setPixel(left + x, top + y, ((*picture)[static_cast<std::size_t>(y)] >> (size - 1 - x) & 1) != 0);
-    }
+    for (int y = 0; y < size; ++y)
+        mScreen.setPixels(left, top + y, (*picture)[static_cast<std::size_t>(y)], size);
     return 2;
 }
 
@@ -202,12 +196,14 @@ void UPainter::blockBar(int line, int column, int columns, int positions, int po
 {
     const int room = barRoom(columns);
     const int block = room / 4;
-    const int from = positions > 0 ? (room - block) * std::clamp(position, 0, positions) / positions : 0;
+    const long long way = static_cast<long long>(room - block) * std::clamp(position, 0, std::max(positions, 0));
+    const int from = positions > 0 ? static_cast<int>(way / positions) : 0;
     barPart(line, column, columns, from, from + block);
 }
 
 void UPainter::barPart(int line, int column, int columns, int from, int to)
 {
+    columns = std::min(columns, Columns - column);
     if (!isLine(line) || columns <= 0)
         return;
     // A frame two pixels inside the cells, filled behind a gap of one pixel.
@@ -216,12 +212,12 @@ void UPainter::barPart(int line, int column, int columns, int from, int to)
     const int top = rowsOf(line).cellTop + 2;
     const int bottom = rowsOf(line).cellTop + 10;
     for (int y = top; y <= bottom; ++y) {
-        for (int x = left; x <= right; ++x) {
-            const bool isFrame = y == top || y == bottom || x == left || x == right;
-            const int place = x - left - 2;
-            const bool isFilled = y > top + 1 && y < bottom - 1 && place >= from && place < to;
-            mScreen.setPixel(x, y, isFrame || isFilled);
-        }
+        mScreen.fill(y, left, right, true);
+        if (y == top || y == bottom)
+            continue;
+        mScreen.fill(y, left + 1, right - 1, false);
+        if (y > top + 1 && y < bottom - 1)
+            mScreen.fill(y, left + 2 + from, std::min(left + 2 + to, right - 1) - 1, true);
     }
 }
 
@@ -229,8 +225,7 @@ void UPainter::rule(int line)
 {
     if (!isLine(line))
         return;
-    for (int x = 0; x < UScreenWE1::Width; ++x)
-        mScreen.setPixel(x, lineTop(line), true);
+    mScreen.fill(lineTop(line), 0, UScreenWE1::Width - 1, true);
 }
 
 void UPainter::invert(int line, int firstColumn, int lastColumn)
@@ -239,10 +234,8 @@ void UPainter::invert(int line, int firstColumn, int lastColumn)
         return;
     const int left = std::max(firstColumn, 0) * UFont::CellWidth;
     const int right = std::min(lastColumn, Columns - 1) * UFont::CellWidth + UFont::CellWidth - 1;
-    for (int y = lineTop(line); y <= lineBottom(line); ++y) {
-        for (int x = left; x <= right; ++x)
-            mScreen.setPixel(x, y, !mScreen.pixel(x, y));
-    }
+    for (int y = lineTop(line); y <= lineBottom(line); ++y)
+        mScreen.invert(y, left, right);
 }
 
 void UPainter::embolden(int line, int firstColumn, int lastColumn)
