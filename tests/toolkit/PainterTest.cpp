@@ -1,3 +1,4 @@
+#include "TextCells.h"
 #include "UFont.h"
 #include "UPainter.h"
 #include "UScreenWE1.h"
@@ -5,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -41,6 +43,17 @@ private:
     const Glyph mI = letter(Left, Left);
     const Glyph mL = letter(Left, Whole);
     const Glyph mT = letter(Whole, Left);
+};
+
+/// A font of black cells, also for what stands over a character.
+class BlackFont : public UFont {
+public:
+    BlackFont() { mGlyph.fill(0x3F); }
+
+    const Glyph* glyph(std::uint16_t) const override { return &mGlyph; }
+
+private:
+    Glyph mGlyph;
 };
 
 class PainterTest : public testing::Test {
@@ -117,6 +130,38 @@ TEST_F(PainterTest, WhatTheFontLacksTakesItsSpaceAndLeavesWhatIsThere)
     mPainter.text(0, 0, UString("LLL"));
     EXPECT_EQ(mPainter.text(0, 0, UString("Tx ")), 3);
     EXPECT_EQ(letters(0), cells("TL")) << "a blank wipes its cell, an unknown letter does not";
+}
+
+TEST_F(PainterTest, OddTextsStayInTheirPlace)
+{
+    const BlackFont black;
+    UPainter painter(mScreen, &black);
+    const unsigned short units[] = {'a', ' ', ' ', '\n', 0, 0x301, 0x4E2D, 0xD83D, 0xDCDE, 0xE000, 0xFFFF};
+    std::mt19937 random(5);
+    for (int round = 0; round < 3000; ++round) {
+        UString text;
+        for (auto length = random() % 60; length > 0; --length)
+            text.append(units[random() % std::size(units)]);
+        const int column = static_cast<int>(random() % UPainter::Columns);
+        const int columns = static_cast<int>(random() % 34) - 3;
+        mScreen.clear();
+        switch (random() % 3) {
+        case 0: EXPECT_LE(painter.text(0, column, text, columns), std::max(columns, 0)); break;
+        case 1: painter.textRight(0, column + columns - 1, text, columns); break;
+        case 2: painter.rowText(0, column, text, columns); break;
+        }
+        for (int x = 0; x < UScreenWE1::Width; ++x) {
+            const bool isInside = x >= 6 * column && x < 6 * (column + columns);
+            ASSERT_FALSE(!isInside && mScreen.pixel(x, 7)) << "round " << round << " at " << x;
+        }
+    }
+    for (const unsigned short unit : units) {
+        UString text;
+        for (int count = 0; count < 1'000'000; ++count)
+            text.append(unit);
+        painter.rowText(1, 0, text, UPainter::Columns);
+        EXPECT_FALSE(TextCells::lines(text, UPainter::Columns).empty());
+    }
 }
 
 TEST_F(PainterTest, ARunOfThreeBlanksSplitsARow)
