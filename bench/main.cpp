@@ -14,6 +14,7 @@ int main(int argc, char** argv)
         registerDeliveryBenchmarks(mode);
         registerScreenBenchmarks(mode);
         registerMemoryBenchmarks(mode);
+        registerWidgetBenchmarks(mode);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

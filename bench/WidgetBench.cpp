@@ -1,0 +1,174 @@
+#include "Benchmarks.h"
+#include "Phone.h"
+
+#include <ContextMenuMEG.h>
+#include <PopupCallMEG.h>
+#include <SpellerMEG.h>
+#include <TreeItemMEG.h>
+#include <Types.h>
+#include <UEvent.h>
+#include <UFont.h>
+#include <UScreenWE1.h>
+#include <UWindowManager.h>
+#include <VantoListBoxItemMEG.h>
+#include <VantoListBoxMEG.h>
+#include <VantoListBoxWithTitleMEG.h>
+#include <VantoTextBoxMEG.h>
+
+#include <array>
+#include <vector>
+
+namespace {
+
+/// What one key may cost, from the press to the finished frame, in the yardstick of the run.
+constexpr double MostForAKey = 10;
+
+/// A widget on the glass and the keys that work it, in turn. A new widget is an entry in cases().
+struct Case {
+    const char* name;
+    std::function<void(UWidget& root)> build;
+    std::vector<int> keys;
+};
+
+/// A font whose glyphs are all ink and no two alike, so that every cell is drawn.
+class InkFont : public UFont {
+public:
+    InkFont()
+    {
+        for (std::size_t unit = 0; unit < mGlyphs.size(); ++unit)
+            mGlyphs[unit].fill(static_cast<std::uint8_t>(unit & 0x3F));
+    }
+
+    const Glyph* glyph(std::uint16_t unit) const override { return &mGlyphs[unit % mGlyphs.size()]; }
+
+private:
+    std::array<Glyph, 128> mGlyphs;
+};
+
+UString text(const std::string& utf8)
+{
+    return UString(utf8);
+}
+
+void addRows(VantoListBoxMEG& list, int count)
+{
+    for (int row = 0; row < count; ++row) {
+        auto* item = new VantoListBoxItemMEG(text("Row number " + std::to_string(row)), row + 1);
+        item->setRightText(text("10:42"));
+        list.addItem(item);
+    }
+}
+
+template <typename Widget>
+Widget* put(UWidget& root)
+{
+    auto* widget = new Widget;
+    root.addWidget(widget);
+    return widget;
+}
+
+void buildList(UWidget& root, int rows)
+{
+    addRows(*put<VantoListBoxWithTitleMEG>(root)->list(), rows);
+}
+
+void buildConference(UWidget& root)
+{
+    auto* conference = new TreeItemMEG(BranchMEG::CallActive, text("Conference"), true, true);
+    for (const char* member : {"Bob 4712", "Carol 4713", "Dave 4714"})
+        conference->addChildItem(new TreeItemMEG(BranchMEG::CallActive, text(member), false, false));
+    put<VantoListBoxWithTitleMEG>(root)->list()->addItem(conference);
+}
+
+void buildDialog(UWidget& root)
+{
+    buildList(root, 100);
+    auto* dialog = put<PopupDialogMEG>(root);
+    dialog->setText(text("Delete the entry of this caller?"));
+    addRows(*dialog->listBox, 3);
+    dialog->popupAsCall();
+}
+
+void buildMenu(UWidget& root)
+{
+    buildList(root, 100);
+    auto* menu = new ContextMenuMEG(nullptr, false, 0, "");
+    for (const char* command : {"Do not disturb?", "Forwarding?", "Ringer off?"})
+        menu->addCommand(command, 0, false, false, 0);
+    root.addWidget(menu);
+    menu->slideIn();
+}
+
+void buildTextBox(UWidget& root, int paragraphs)
+{
+    UString text;
+    for (int paragraph = 0; paragraph < paragraphs; ++paragraph)
+        text += UString(std::string("Press OK to start the call. Left goes back to where you came from.\n"));
+    put<VantoTextBoxMEG>(root)->setText(text, false);
+}
+
+void buildSpeller(UWidget& root, std::size_t length)
+{
+    put<SpellerMEG>(root)->setText(UString(std::string(length, 'a')));
+}
+
+const std::vector<Case>& cases()
+{
+    using namespace UGlobal;
+    static const std::vector<Case> all = {
+        {"list of 10 rows", [](UWidget& root) { buildList(root, 10); }, {KeyDown}},
+        {"list of 10,000 rows", [](UWidget& root) { buildList(root, 10'000); }, {KeyDown}},
+        {"members of a conference", buildConference, {KeyDown}},
+        {"dialog over a list", buildDialog, {KeyDown, KeyUp}},
+        {"context menu over a list", buildMenu, {KeyDown}},
+        {"text box of 10 paragraphs", [](UWidget& root) { buildTextBox(root, 10); }, {KeyDown, KeyDown, KeyUp, KeyUp}},
+        {"text box of 10,000 paragraphs", [](UWidget& root) { buildTextBox(root, 10'000); },
+            {KeyDown, KeyDown, KeyUp, KeyUp}},
+        {"typing into a speller", [](UWidget& root) { buildSpeller(root, 5); }, {'2', '3', KeyLeft, KeyLeft}},
+        {"typing behind 10,000 characters", [](UWidget& root) { buildSpeller(root, 10'000); },
+            {'2', '3', KeyLeft, KeyLeft}},
+    };
+    return all;
+}
+
+/// Presses and releases the keys of a case. Returns the nanoseconds of one key, from the press to the frame.
+double pressKeys(const Case& measured, long presses)
+{
+    UScreenWE1 glass;
+    const InkFont font;
+    UWidget root;
+    UWindowManager& manager = UWindowManager::instance();
+    manager.setScreen(&glass);
+    manager.setFont(&font);
+    manager.setRoot(&root);
+    manager.setEnabled(true);
+    measured.build(root);
+    manager.paintIfNeeded();
+
+    const double begin = nowInNanoseconds();
+    for (long press = 0; press < presses; ++press) {
+        const int key = measured.keys[static_cast<std::size_t>(press) % measured.keys.size()];
+        for (const int state : {UGlobal::KeyPressed, UGlobal::KeyReleased}) {
+            UKeyEvent event(key, state);
+            manager.dispatchKey(event);
+        }
+        manager.paintIfNeeded();
+    }
+    const double time = (nowInNanoseconds() - begin) / static_cast<double>(presses);
+
+    manager.setRoot(nullptr);
+    manager.setFont(nullptr);
+    manager.setScreen(nullptr);
+    return time;
+}
+
+}
+
+void registerWidgetBenchmarks(const std::string& mode)
+{
+    constexpr long presses = 5000;
+    for (const Case& measured : cases()) {
+        const std::string name = std::string("key to frame, ") + measured.name;
+        registerRatio(mode, name, presses, MostForAKey, [&measured] { return pressKeys(measured, presses); });
+    }
+}
