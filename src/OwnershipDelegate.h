@@ -7,16 +7,17 @@
 namespace DisplayAPI {
 
 /// Owns a private's toolkit widget while nobody else does. It is a member of the private, which forwards its
-/// ownership operations to it.
+/// ownership operations to it. As the last of the members it goes first, while the others are still there for the
+/// widget's farewell.
 ///
-/// It works on the private's own pointer. While a tree owns the widget, the widget's death makes that pointer
-/// null; while this owns it, its own death deletes the widget.
+/// It works on the private's own pointer. Whoever deletes the widget, that pointer becomes null.
 template <typename T>
 class OwnershipDelegate final : public OwnershipIfc {
 public:
     explicit OwnershipDelegate(T** widget)
         : mLife(widget)
     {
+        watch();
     }
     ~OwnershipDelegate() override
     {
@@ -29,12 +30,12 @@ public:
     void releaseOwnership() override
     {
         mIsOwned = false;
-        mLife.watch(*mLife.widget, &Life::clear);
+        watch();
     }
     void gainOwnership() override
     {
         mIsOwned = true;
-        mLife.watch(nullptr);
+        watch();
     }
     bool hasOwnership() const override { return mIsOwned; }
 
@@ -48,6 +49,9 @@ private:
 
         T** widget;
     };
+
+    // The private may have made its widget only after this, or another one.
+    void watch() { mLife.watch(*mLife.widget, &Life::clear); }
 
     Life mLife;
     bool mIsOwned = true;

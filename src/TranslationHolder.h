@@ -10,15 +10,38 @@ namespace DisplayAPI {
 /// The translation behind one line of a screen, kept so that the line can be read again in another locale.
 class TranslationHolder {
 public:
-    /// The line has got a literal text.
-    void forget() { mInfo.reset(); }
+    // What the line shows from now on; each answers the text of it
 
-    /// Takes the translation over, and deletes the one that it replaces unless it is the same. Null is allowed.
+    /// A literal text.
+    const std::string& show(const std::string& text)
+    {
+        forget();
+        return text;
+    }
+
+    /// A translation with its prefix and suffix. It is taken over, and the one that it replaces deleted unless it is
+    /// the same. Null is an empty text.
+    std::string show(TranslationInfo* info)
+    {
+        take(info);
+        return completeString();
+    }
+
+    /// The same without prefix and suffix.
+    std::string showBare(TranslationInfo* info)
+    {
+        take(info);
+        return string();
+    }
+
     void take(TranslationInfo* info)
     {
         if (info != mInfo.get())
             mInfo.reset(info);
     }
+    void forget() { mInfo.reset(); }
+
+    // The translation in today's locale
 
     explicit operator bool() const { return mInfo != nullptr; }
 
