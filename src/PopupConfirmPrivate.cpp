@@ -6,7 +6,7 @@
 #include "ApplicationListener.h"
 #include "AssertGuiThread.h"
 #include "BuiltInTexts.h"
-#include "CommandText.h"
+#include "CommandRow.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>
@@ -66,27 +66,14 @@ PopupConfirmPrivate::PopupConfirmPrivate(bool)
 PopupConfirmPrivate::~PopupConfirmPrivate()
 {
     assertGuiThread();
-    if (mOwnsWidget)
-        delete mWidget.get();
-    mBackCommand.reset();
-    for (TranslationHolder* line : {&mLine1PrefixInfo, &mTextInfo, &mLine2PrefixInfo, &mLine2Info})
-        line->forget();
-    leaveApplication(this);
 }
 
 void PopupConfirmPrivate::create()
 {
     assertGuiThread();
-    mWidget = new PopupDialogMEG;
-    mBackCommand = std::make_unique<Command>("", Command::Back);
     mWidget->setListener(this);
     mWidget->setDownArrowDisplayable(true);
     joinApplication(this);
-}
-
-UWidget* PopupConfirmPrivate::getWidget()
-{
-    return mWidget.get();
 }
 
 VantoListBoxMEG* PopupConfirmPrivate::list() const
@@ -98,50 +85,42 @@ VantoListBoxMEG* PopupConfirmPrivate::list() const
 
 void PopupConfirmPrivate::setLine1PrefixText(const std::string& text)
 {
-    mLine1PrefixInfo.forget();
-    write(&PopupNotificationMEG::setLine1PrefixText, text);
+    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.show(text));
 }
 
 void PopupConfirmPrivate::setLine1PrefixText(TranslationInfo* text)
 {
-    mLine1PrefixInfo.take(text);
-    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.string());
+    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.showBare(text));
 }
 
 void PopupConfirmPrivate::setText(const std::string& text)
 {
-    mTextInfo.forget();
-    write(&PopupNotificationMEG::setText, text);
+    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
 }
 
 void PopupConfirmPrivate::setText(TranslationInfo* text)
 {
-    mTextInfo.take(text);
-    write(&PopupNotificationMEG::setText, mTextInfo.completeString());
+    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
 }
 
 void PopupConfirmPrivate::setLine2PrefixText(const std::string& text)
 {
-    mLine2PrefixInfo.forget();
-    write(&PopupNotificationMEG::setLine2PrefixText, text);
+    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
 }
 
 void PopupConfirmPrivate::setLine2PrefixText(TranslationInfo* text)
 {
-    mLine2PrefixInfo.take(text);
-    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.completeString());
+    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
 }
 
 void PopupConfirmPrivate::setLine2Text(const std::string& text)
 {
-    mLine2Info.forget();
-    appendToText(text);
+    appendToText(mLine2Info.show(text));
 }
 
 void PopupConfirmPrivate::setLine2Text(TranslationInfo* text)
 {
-    mLine2Info.take(text);
-    appendToText(mLine2Info.completeString());
+    appendToText(mLine2Info.show(text));
 }
 
 // The second line belongs to the list, so its text goes behind the question.
@@ -155,7 +134,7 @@ void PopupConfirmPrivate::appendToText(const std::string& text)
 void PopupConfirmPrivate::write(Field field, const std::string& text)
 {
     if (mWidget)
-        (mWidget.get()->*field)(fromUTF8(text));
+        (mWidget->*field)(fromUTF8(text));
     generateDisplayChangedEvent();
 }
 
@@ -169,16 +148,18 @@ void PopupConfirmPrivate::setState(PopupConfirm::PopupState state)
 
 void PopupConfirmPrivate::localeChanged(std::string)
 {
-    if (!mWidget || !mWidget->listBox)
+    if (!list())
         return;
-    if (mLine1PrefixInfo)
-        mWidget->setLine1PrefixText(fromUTF8(mLine1PrefixInfo.completeString()));
-    if (mTextInfo)
-        mWidget->setText(fromUTF8(mTextInfo.completeString()));
-    if (mLine2PrefixInfo)
-        mWidget->setLine2PrefixText(fromUTF8(mLine2PrefixInfo.completeString()));
-    if (mLine2Info)
-        mWidget->setLine2Text(fromUTF8(mLine2Info.completeString()));
+    const std::pair<Field, const TranslationHolder&> lines[] = {
+        {&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo},
+        {&PopupNotificationMEG::setText, mTextInfo},
+        {&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo},
+        {&PopupNotificationMEG::setLine2Text, mLine2Info},
+    };
+    for (const auto& [field, line] : lines) {
+        if (line)
+            (mWidget->*field)(fromUTF8(line.completeString()));
+    }
     updateRows();
 }
 
@@ -187,18 +168,22 @@ void PopupConfirmPrivate::updateRows()
     TranslatorIfc* translator = nullptr;
     {
         CriticalSection section(Command::commandListMutex());
-        for (Command* command : mCommands) {
-            if (!Command::exists(command))
+        // By command: a removed one has left its row behind, so positions may differ.
+        for (int i = 0; i < list()->numItems(); ++i) {
+            auto* row = dynamic_cast<CommandRow*>(list()->item(i));
+            if (!row || std::find(mCommands.begin(), mCommands.end(), row->command()) == mCommands.end())
                 continue;
-            // By handle: a removed command has left its row behind, so positions may differ.
-            for (int row = 0; row < list()->numItems(); ++row) {
-                if (list()->item(row)->getHandle() == reinterpret_cast<long>(command))
-                    list()->item(row)->setText(fromUTF8(command->getText()));
-            }
-            if (command == mCommands.front() && command->getTranslationInfo())
-                translator = command->getTranslationInfo()->translator();
+            if (const auto shown = readCommand(row->command()))
+                row->setText(fromUTF8(shown->text));
         }
+        if (const auto first = mCommands.empty() ? std::nullopt : readCommand(mCommands.front()))
+            translator = first->translator;
     }
+    translateBack(translator);
+}
+
+void PopupConfirmPrivate::translateBack(TranslatorIfc* translator)
+{
     list()->translateBack(translator ? backText(translator) : UString());
 }
 
@@ -206,30 +191,22 @@ void PopupConfirmPrivate::updateRows()
 
 void PopupConfirmPrivate::addCommand(Command* command)
 {
-    const std::optional<std::string> text = livingCommandText(command);
-    if (!text || !list())
+    const std::optional<CommandText> shown = readCommand(command);
+    if (!shown || !list())
         return;
-    if (command->getType() == Command::Menu) {
-        const auto handle = reinterpret_cast<long>(command);
-        list()->addItem(new VantoListBoxItemMEG(fromUTF8(*text), handle, false));
-        mCommands.push_back(command);
-        if (mCommands.size() == 1)
-            setBackTranslator(command);
+    if (shown->type == Command::Menu) {
+        list()->addItem(new CommandRow(command, *shown));
+        mCommands.push_back(shown->command);
+        if (mCommands.size() == 1 && shown->isTranslated)
+            translateBack(shown->translator);
     }
     generateDisplayChangedEvent();
-}
-
-void PopupConfirmPrivate::setBackTranslator(Command* command)
-{
-    if (const TranslationInfo* info = command->getTranslationInfo())
-        list()->translateBack(info->translator() ? backText(info->translator()) : UString());
 }
 
 void PopupConfirmPrivate::setDefaultCommand(Command* command)
 {
     mDefaultIndex = -1;
-    auto found = std::find(mCommands.begin(), mCommands.end(), command);
-    if (found != mCommands.end()) {
+    if (const auto found = find(command); found != mCommands.end()) {
         mDefaultIndex = static_cast<int>(found - mCommands.begin());
     } else {
         // The notice of the new choice may delete this object.
@@ -245,10 +222,17 @@ void PopupConfirmPrivate::setDefaultCommand(Command* command)
 
 void PopupConfirmPrivate::removeCommand(Command* command)
 {
-    auto found = std::find(mCommands.begin(), mCommands.end(), command);
-    if (found != mCommands.end())
+    if (const auto found = find(command); found != mCommands.end())
         mCommands.erase(found);
     generateDisplayChangedEvent();
+}
+
+/// A command that has died is still found by its address, unless another one lives there.
+std::vector<Living<Command>>::iterator PopupConfirmPrivate::find(Command* command)
+{
+    const Living<Command> living(command);
+    return std::find_if(mCommands.begin(), mCommands.end(),
+        [&](const Living<Command>& entry) { return living ? entry == living : entry.isAt(command); });
 }
 
 void PopupConfirmPrivate::clearCommands()
@@ -311,8 +295,8 @@ void PopupConfirmPrivate::event(UEvent* event)
             selectionMoved();
         break;
     case EventType::RowChosen:
-        if (auto* item = dynamic_cast<VantoListBoxItemMEG*>(event->source()))
-            listItemSelected(item);
+        if (auto* row = dynamic_cast<CommandRow*>(event->source()))
+            rowChosen(*row);
         break;
     case EventType::LeftPressed: backSelected(); break;
     case EventType::LocaleChanged: localeChanged(""); break;
@@ -327,7 +311,7 @@ void PopupConfirmPrivate::popupCameUp()
         return;
     application->requestFullScreen();
     application->windowManager()->releaseFocus();
-    application->windowManager()->requestFocus(mWidget.get());
+    application->windowManager()->requestFocus(mWidget);
     application->refreshPopup();
 }
 
@@ -358,12 +342,11 @@ void PopupConfirmPrivate::selectionMoved()
     generateDisplayChangedEvent();
 }
 
-void PopupConfirmPrivate::listItemSelected(VantoListBoxItemMEG* item)
+void PopupConfirmPrivate::rowChosen(const CommandRow& row)
 {
     // A listener that overrides the posting may delete this object.
     LifeNode life(this);
-    auto* command = reinterpret_cast<Command*>(item->getHandle());
-    if (Command::exists(command))
+    if (Command* command = row.command().get())
         postCommand(command, mParent);
     if (life.isAlive())
         generateDisplayChangedEvent();
@@ -371,7 +354,7 @@ void PopupConfirmPrivate::listItemSelected(VantoListBoxItemMEG* item)
 
 void PopupConfirmPrivate::backSelected()
 {
-    postCommand(mBackCommand.get(), mParent);
+    postCommand(&mBackCommand, mParent);
 }
 
 // Screen text

@@ -1,22 +1,23 @@
 #pragma once
 
 #include <DisplayAPI/Command.h>
+#include <DisplayAPI/Living.h>
 #include <DisplayAPI/PopupConfirmPrivateIfc.h>
 
+#include "OwnershipDelegate.h"
 #include "TranslationHolder.h"
 
+#include <PopupCallMEG.h>
 #include <UString.h>
 
 #include <vector>
 
-class PopupDialogMEG;
-class PopupNotificationMEG;
-class URect;
-class VantoListBoxItemMEG;
+class UEvent;
 class VantoListBoxMEG;
 
 namespace DisplayAPI {
 
+class CommandRow;
 class ScreenTextWriter;
 
 /// The question popup on the GUI thread: a PopupDialogMEG with its texts and a row for each choice.
@@ -66,10 +67,10 @@ public:
 
     // Life on the screen
 
-    UWidget* getWidget() override;
-    void releaseOwnership() override { mOwnsWidget = false; }
-    void gainOwnership() override { mOwnsWidget = true; }
-    bool hasOwnership() const { return mOwnsWidget; }
+    UWidget* getWidget() override { return mWidget; }
+    void releaseOwnership() override { mOwnership.releaseOwnership(); }
+    void gainOwnership() override { mOwnership.gainOwnership(); }
+    bool hasOwnership() const { return mOwnership.hasOwnership(); }
     void show() override;
     void lostFocus() override { }
     void dismiss() override;
@@ -93,28 +94,29 @@ private:
     VantoListBoxMEG* list() const;
     void write(Field field, const std::string& text);
     void appendToText(const std::string& text);
-    void setBackTranslator(Command* command);
+    void translateBack(TranslatorIfc* translator);
+    std::vector<Living<Command>>::iterator find(Command* command);
     void popupCameUp();
     void popupWentDown();
     void windowHiddenAfterTimeout();
     void selectionMoved();
-    void listItemSelected(VantoListBoxItemMEG* item);
+    void rowChosen(const CommandRow& row);
     void backSelected();
     void updateRows();
     void writeText(ScreenTextWriter& writer, const char* key) const;
 
     bool mSelectionChanged = false;
     Displayable* mParent;
-    UPointer<PopupDialogMEG> mWidget;
-    std::vector<Command*> mCommands; // one for each row, in the order of the rows, until one is removed
-    bool mOwnsWidget = true;
+    PopupDialogMEG* mWidget = new PopupDialogMEG;
+    std::vector<Living<Command>> mCommands; // one for each row, in the order of the rows, until one is removed
     int mDefaultIndex = 0;
-    std::unique_ptr<Command> mBackCommand;
+    Command mBackCommand{"", Command::Back};
     PopupConfirm::PopupState mState = PopupConfirm::Information;
     TranslationHolder mLine1PrefixInfo;
     TranslationHolder mTextInfo;
     TranslationHolder mLine2PrefixInfo;
     TranslationHolder mLine2Info;
+    OwnershipDelegate<PopupDialogMEG> mOwnership{&mWidget};
 };
 
 }

@@ -1,3 +1,4 @@
+#include "Disturbance.h"
 #include "EveryScreen.h"
 #include "PhoneTest.h"
 #include "RecordingListener.h"
@@ -14,7 +15,10 @@
 
 #include <UApplication.h>
 
+#include <cstddef>
 #include <memory>
+#include <new>
+#include <thread>
 
 using namespace DisplayAPI;
 
@@ -240,18 +244,29 @@ TEST_F(PopupConfirmTest, ChoiceBackAndRemovedRowsReachTheListenersInOrder)
 
 TEST_F(PopupConfirmTest, AChoiceWhoseCommandHasDiedPostsNothing)
 {
+    // The allocator gives addresses away again.
+    alignas(MenuCommand) std::byte memory[sizeof(MenuCommand)];
+    auto* cancel = new (memory) MenuCommand("Cancel?", 5);
     PopupConfirm popup(true);
-    auto shortLived = std::make_unique<MenuCommand>("Gone?", 5);
     popup.addCommandListener(&listener);
-    popup.addCommand(shortLived.get());
+    popup.addCommand(cancel);
     popup.addCommand(&yes);
     show(popup);
-    shortLived.reset();
+    std::destroy_at(cancel);
+    press(UGlobal::KeyOk);
+    auto* deleteAll = new (memory) MenuCommand("Delete all?", 6);
     press(UGlobal::KeyOk);
     display->localeChanged("fr");
-    press(UGlobal::KeyDown);
+    EXPECT_EQ(screenField("string0"), "Cancel?") << "the user must not see one thing and choose another";
     press(UGlobal::KeyOk);
-    EXPECT_EQ(listener.commands(1), std::vector<Command*>{&yes});
+    popup.setDefaultCommand(deleteAll);
+    EXPECT_EQ(popup.getSelectedIndex(), 2) << "another choice than the one at its address";
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(listener.commands(1), std::vector<Command*>{deleteAll});
+    std::destroy_at(deleteAll);
+    popup.removeCommand(deleteAll);
+    popup.setDefaultCommand(&yes);
+    EXPECT_EQ(popup.getSelectedIndex(), 0) << "a dead command can be removed: the first that had its address";
 }
 
 TEST_F(PopupConfirmTest, NobodyIsToldOfAPopupThatHasDied)
@@ -277,15 +292,48 @@ TEST_F(PopupConfirmTest, NobodyIsToldOfAPopupThatHasDied)
     EXPECT_EQ(counter.posts, 2);
 }
 
-TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTellsTheListeners)
+TEST_F(PopupConfirmTest, ACommandMayDieWhileItIsAdded)
+{
+    PopupConfirm popup(true);
+    underDisturbance([&popup] {
+        auto* command = new MenuCommand("Short-lived?", 5);
+        std::thread owner([command] { delete command; });
+        popup.addCommand(command);
+        owner.join();
+    });
+    EXPECT_LE(popup.getSelectedIndex(), 0);
+}
+
+TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTells)
 {
     List below(0);
     below.setTitle("Below");
+    List other(0);
+    other.setTitle("Other");
     PopupConfirm popup(true);
     popup.addCommandListener(&listener);
     popup.addCommand(&yes);
     popup.setTimeout(3000);
-    show(below);
+    std::string seen;
+    changes.onNotice = [&] { seen += screenField("caption") + ";"; };
+    const auto seenOn = [&](const std::function<void()>& change) {
+        show(below);
+        show(popup);
+        seen.clear();
+        change();
+        return seen;
+    };
+
+    EXPECT_EQ(seenOn([&] { popup.dismiss(); }), "Below;");
+    EXPECT_EQ(seenOn([&] { advance(3000); }), "Below;");
+    EXPECT_EQ(listener.commands(2), std::vector<Command*>(2, PopupConfirm::HIDDEN_COMMAND()));
+    EXPECT_EQ(seenOn([&] { display->setCurrent(&other); }), "Other;");
+    display->setCurrent(&below);
+    seen.clear();
+    popup.dismiss();
+    advance(3000);
+    EXPECT_EQ(seen, "") << "it is down already";
+    EXPECT_EQ(display->getCurrent(), &below);
 
     show(popup);
     advance(2000);
@@ -295,15 +343,7 @@ TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTellsTheListeners)
     EXPECT_EQ(display->getCurrent(), &popup);
     advance(500);
     EXPECT_EQ(display->getCurrent(), &below);
-    EXPECT_EQ(listener.commands(1), std::vector<Command*>{PopupConfirm::HIDDEN_COMMAND()});
-
-    show(popup);
-    popup.dismiss();
-    EXPECT_EQ(display->getCurrent(), &below);
-    EXPECT_EQ(listener.commands(2).size(), 2u);
-    EXPECT_EQ(screenField("caption"), "Below");
-    popup.dismiss();
-    EXPECT_EQ(display->getCurrent(), &below) << "a popup that is down already changes nothing";
+    changes.onNotice = nullptr;
 }
 
 TEST_F(PopupConfirmTest, ARequestPostedByHandMayHaveNoSlotForItsAnswer)
