@@ -119,3 +119,40 @@ TEST_P(EveryRowTest, LosesNothingWhenTheLoopHasEnded)
     changeAll(held);
     changeAll(*free);
 }
+
+TEST_P(EveryRowTest, DiesInEveryOrderOnEveryThread)
+{
+    for (int way = 0; way < 16; ++way) {
+        for (const Moment moment : Moments) {
+            SCOPED_TRACE(testing::Message() << "way " << way << " moment " << moment);
+            makeDisplay();
+            stage.hasLoop = true;
+            Screen holder;
+            Row row;
+            Widget* held = nullptr;
+            run(way & 1, [&] {
+                holder = makeHolder();
+                display->setCurrent(holder.get());
+                held = &put(*holder, make());
+                if (way & 2)
+                    row = take(*holder, *held);
+            });
+            comeTo(moment);
+            run(way & 4, [&] {
+                changeAll(*held); // so that work is pending
+                if (way & 8) {
+                    if (!row)
+                        row.reset(held);
+                    row.reset();
+                }
+                holder.reset();
+                row.reset();
+            });
+            if (moment == BehindTheDisplay)
+                makeDisplay();
+            display->setCurrent(&below);
+            press(UGlobal::KeyOk);
+            EXPECT_EQ(screenText(), below.screen().text);
+        }
+    }
+}

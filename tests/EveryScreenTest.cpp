@@ -32,6 +32,43 @@ TEST_P(EveryScreenTest, MayDieInAnyNotice)
     }
 }
 
+TEST_P(EveryScreenTest, BearsEveryActionInEveryNotice)
+{
+    TestScreen other("other", log);
+    auto actions = everyChange();
+    actions.push_back({"darken", [this](Displayable&, Stage&) { display->setCurrent(nullptr); }});
+    actions.push_back({"show another", [&](Displayable&, Stage&) { display->setCurrent(&other); }});
+    actions.push_back({"hide", [this](Displayable&, Stage&) {
+                           display->hide();
+                           display->show();
+                       }});
+    actions.push_back({"new locale", [this](Displayable&, Stage&) { display->localeChanged("de"); }});
+    actions.push_back({"read", [this](Displayable&, Stage&) { screenText(); }});
+    for (const auto& change : everyChange()) {
+        for (const auto& action : actions) {
+            SCOPED_TRACE(std::string(action.name) + " inside " + change.name);
+            for (int number = 1, last = 1; number <= last; ++number) {
+                const Screen screen = makeShown();
+                actInNotice(number, [&] {
+                    last = number + 1;
+                    action.make(*screen, stage);
+                });
+                change.make(*screen, stage);
+                changes.onNotice = nullptr;
+                screenText();
+                GetParam().tell(*screen);
+
+                show(*screen);
+                EXPECT_EQ(display->getCurrent(), screen.get());
+                press(UGlobal::KeyDown);
+                press(UGlobal::KeyOk);
+                screenText();
+                GetParam().tell(*screen);
+            }
+        }
+    }
+}
+
 TEST_P(EveryScreenTest, IsQuietWhenItsWidgetHasGone)
 {
     for (const bool isShown : {false, true}) {

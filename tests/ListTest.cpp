@@ -35,9 +35,12 @@ ListItem* at(List& list, std::size_t index)
     return index < items.size() ? items[index] : nullptr;
 }
 
-/// The rows and the current one.
+/// The rows and the current one; handles and toolkit rows must agree.
 std::string tell(List& list)
 {
+    if (Widget::isGuiThread() && list.getPrivateImpl() && half(list).getListWidget()) {
+        EXPECT_EQ(rows(list), toolkitRows(list));
+    }
     return rows(list) + " " + std::to_string(list.size());
 }
 
