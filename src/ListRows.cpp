@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <memory>
 
 // What the requests of a list do on the GUI thread. The toolkit's list changes first and getItems() after it. In
 // between the display tells its subscriber, who may delete the list: then nothing of it may be touched.
@@ -246,14 +247,16 @@ void List::privateSetDialer(PopupDialer* dialer)
 {
     if (dialer && !displayableExists(dialer))
         return;
-    mDialer = dialer;
+    mDialer = std::make_unique<HeldDialer>();
+    mDialer->handle = dialer;
+    mDialer->half = dialer ? dynamic_cast<UAgent*>(dialer->getPrivateImpl()) : nullptr;
     if (mPrivate)
         mPrivate->setDialler(dialer);
 }
 
 PopupDialer* List::livingDialer() const
 {
-    return displayableExists(mDialer) ? mDialer : nullptr;
+    return mDialer && mDialer->half && displayableExists(mDialer->handle) ? mDialer->handle : nullptr;
 }
 
 void List::copyItemsTo(std::vector<ListItem*>* copy) const

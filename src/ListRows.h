@@ -4,6 +4,8 @@
 
 #include "HeldRows.h"
 
+#include <UAgent.h>
+
 namespace DisplayAPI {
 
 /// The rows of a list, and what they ask of its half. Threads: GUI thread.
@@ -28,6 +30,12 @@ protected:
 
 private:
     List& mList;
+};
+
+/// The dialer of a list, which its application may delete. Its half tells it from a later one at its address.
+struct List::HeldDialer {
+    PopupDialer* handle;
+    UPointer<UAgent> half;
 };
 
 }

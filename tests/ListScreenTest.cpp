@@ -264,3 +264,16 @@ TEST_F(ListScreenTest, ADialerGetsEveryKey)
     EXPECT_EQ(list.getSelectedIndex(), 0);
     EXPECT_EQ(listener.count(), 0u);
 }
+
+TEST_F(ListScreenTest, ADialerAtADeadOnesAddressIsNotTheLists)
+{
+    List list(List::Plain);
+    alignas(TestDialer) char place[sizeof(TestDialer)];
+    auto* dialer = new (place) TestDialer;
+    list.addDialer(dialer);
+    EXPECT_EQ(list.getDialer(), dialer);
+    dialer->~TestDialer();
+    dialer = new (place) TestDialer;
+    EXPECT_EQ(list.getDialer(), nullptr);
+    dialer->~TestDialer();
+}

@@ -444,6 +444,26 @@ TEST_F(ListTest, GlassAndHandlesAgreeWhateverHappensInANotice)
     }
 }
 
+TEST_F(ListTest, TheEndOfARowMayBeTheEndOfItsList)
+{
+    auto list = std::make_unique<List>(List::Plain);
+    struct LastRow : CountedItem {
+        explicit LastRow(std::unique_ptr<List>& theList)
+            : CountedItem("last")
+            , list(theList)
+        {
+        }
+        ~LastRow() override { list.reset(); }
+        std::unique_ptr<List>& list;
+    };
+    fill(*list, "AB");
+    list->append(new LastRow(list));
+    fill(*list, "C");
+    list->clear();
+    EXPECT_EQ(list, nullptr);
+    EXPECT_EQ(CountedItem::living, 0);
+}
+
 TEST_F(ListTest, AListThatIsMadeAtADeadOnesAddressIsNotTakenForIt)
 {
     alignas(List) char place[sizeof(List)];

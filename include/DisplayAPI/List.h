@@ -258,6 +258,7 @@ protected:
 private:
     enum class Request : int;
     class Rows;
+    struct HeldDialer;
 
     // The steps of the requests, on the GUI thread
     void create(bool hasBackItem);
@@ -279,7 +280,7 @@ private:
     PopupDialer* livingDialer() const;
 
     std::unique_ptr<Rows> mItems;
-    PopupDialer* mDialer = nullptr;
+    std::unique_ptr<HeldDialer> mDialer;
     Ticker* mTicker = nullptr;
     std::atomic<bool> mHasBackItem;
     bool mHasEnded = false;
