@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 class Semaphore;
@@ -14,18 +15,24 @@ class DisplayablePrivateIfc;
 extern std::vector<Displayable*>& existingDisplayables;
 extern Semaphore& existingDisplayablesSemaphore;
 
-// Threads: any, for all three.
+// Threads: any, for all of them. A search begins with the newest screen.
 
+/// A screen that is registered already stays where it is.
 void registerDisplayable(Displayable* displayable);
 
-/// Keeps the order of the rest; a screen that is not registered is no error.
+/// Keeps the order of the rest; a screen that is not registered is no error. While another thread is inside the
+/// screen's getPrivateImpl(), it returns behind that.
 void unregisterDisplayable(Displayable* displayable);
 
-/// The pointer is not followed. The cost does not grow with the number of screens.
+/// The pointer is not followed.
 bool displayableExists(const Displayable* displayable);
 
-/// The half on the GUI thread; null for a screen that is not here. A screen whose deletion is refused dies on its
-/// own thread, behind the lock: then its half is kept, and may be used on.
+/// The half on the GUI thread, from getPrivateImpl(); null for a screen that is not here, or has left meanwhile. The
+/// application may have overridden that, so it runs without the lock. A screen whose deletion is refused leaves on its
+/// own thread, behind that call: its half is kept, and may be used on.
 DisplayablePrivateIfc* privateOfLiving(Displayable* displayable);
+
+/// The name of its class; empty for a screen that is not here.
+std::string nameOfLiving(const Displayable* displayable);
 
 }

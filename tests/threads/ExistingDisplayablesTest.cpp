@@ -1,0 +1,68 @@
+#include "ExistingDisplayables.h"
+
+#include <DisplayAPI/Displayable.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <thread>
+
+using namespace DisplayAPI;
+
+namespace {
+
+/// A screen of the application's own.
+class OwnScreen : public Displayable {
+public:
+    DisplayablePrivateIfc* getPrivateImpl() override
+    {
+        if (whenAsked)
+            whenAsked();
+        return reinterpret_cast<DisplayablePrivateIfc*>(&mHalf);
+    }
+    std::function<void()> whenAsked;
+
+private:
+    char mHalf = 0;
+};
+
+}
+
+TEST(ExistingDisplayablesTest, AScreenThatIsAskedForItsHalfMayMakeAndDeleteOthers)
+{
+    OwnScreen screen;
+    auto doomed = std::make_unique<OwnScreen>();
+    screen.whenAsked = [&] {
+        OwnScreen inside;
+        EXPECT_NE(privateOfLiving(&inside), nullptr);
+        doomed.reset();
+    };
+    const Displayable* gone = doomed.get();
+    EXPECT_NE(privateOfLiving(&screen), nullptr);
+    EXPECT_FALSE(displayableExists(gone));
+}
+
+TEST(ExistingDisplayablesTest, AScreenThatDiesOnAnotherThreadOutlivesTheQuestion)
+{
+    auto screen = std::make_unique<OwnScreen>();
+    OwnScreen* asked = screen.get();
+    std::thread application;
+    std::atomic<bool> isGone = false;
+    asked->whenAsked = [&] {
+        application = std::thread([&] {
+            unregisterDisplayable(screen.get()); // as the destructor of a screen whose deletion was refused
+            screen.reset();
+            isGone = true;
+        });
+        while (displayableExists(asked))
+            std::this_thread::yield();
+        for (int i = 0; i < 1000; ++i)
+            std::this_thread::yield();
+        EXPECT_FALSE(isGone);
+    };
+    EXPECT_EQ(privateOfLiving(asked), nullptr);
+    application.join();
+    EXPECT_TRUE(isGone);
+}
