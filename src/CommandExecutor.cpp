@@ -2,6 +2,7 @@
 
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
+#include "ExistingDisplayables.h"
 
 #include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
@@ -49,7 +50,10 @@ struct CommandDelivery {
     Displayable* displayable = nullptr;
 
     /// False once one of those whom it names has died.
-    bool isLiving() const { return listener && (command || command.isAt(nullptr)); }
+    bool isLiving() const
+    {
+        return listener && (command || command.isAt(nullptr)) && (!displayable || displayableExists(displayable));
+    }
     void deliver() const
     {
         CommandListener* living = listener.get();

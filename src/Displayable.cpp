@@ -17,8 +17,9 @@ Displayable::Displayable()
 
 Displayable::~Displayable()
 {
-    CommandExecutor::retrieveCommand(nullptr, nullptr, this);
+    // First out of the registry, so that nobody asks for a half any more and nothing new comes behind the recall.
     unregisterDisplayable(this);
+    CommandExecutor::retrieveCommand(nullptr, nullptr, this);
 }
 
 void Displayable::processGuiRequest(GuiRequestEvent&) { }

@@ -1,5 +1,7 @@
 #include <DisplayAPI/PIPWindow.h>
 
+#include "ExistingDisplayables.h"
+
 namespace DisplayAPI {
 
 PIPWindow::PIPWindow(bool)
@@ -8,7 +10,10 @@ PIPWindow::PIPWindow(bool)
     mName = "PIPWindow";
 }
 
-PIPWindow::~PIPWindow() = default;
+PIPWindow::~PIPWindow()
+{
+    unregisterDisplayable(this);
+}
 
 void PIPWindow::processGuiRequest(GuiRequestEvent&) { }
 

@@ -1,5 +1,7 @@
 #include <DisplayAPI/YRCWindow.h>
 
+#include "ExistingDisplayables.h"
+
 namespace DisplayAPI {
 
 YRCWindow::YRCWindow(bool)
@@ -8,7 +10,10 @@ YRCWindow::YRCWindow(bool)
     mName = "YRCWindow";
 }
 
-YRCWindow::~YRCWindow() = default;
+YRCWindow::~YRCWindow()
+{
+    unregisterDisplayable(this);
+}
 
 void YRCWindow::processGuiRequest(GuiRequestEvent&) { }
 

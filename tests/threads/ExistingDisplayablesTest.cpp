@@ -1,6 +1,13 @@
 #include "ExistingDisplayables.h"
+#include "CommandExecutor.h"
 
+#include <DisplayAPI/Command.h>
+#include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/YRCWindow.h>
+
+#include <Log.h>
+#include <Semaphore.h>
 
 #include <gtest/gtest.h>
 
@@ -26,6 +33,10 @@ public:
 
 private:
     char mHalf = 0;
+};
+
+class Listener : public CommandListener {
+    void commandAction(Command*, Displayable*) override { }
 };
 
 }
@@ -65,4 +76,32 @@ TEST(ExistingDisplayablesTest, AScreenThatDiesOnAnotherThreadOutlivesTheQuestion
     EXPECT_EQ(privateOfLiving(asked), nullptr);
     application.join();
     EXPECT_TRUE(isGone);
+}
+
+TEST(ExistingDisplayablesTest, AScreenLeavesBeforeItsDeliveriesAreRecalled)
+{
+    // The log is the one place of the application's that runs inside the destructor.
+    static Displayable* dying = nullptr;
+    static int lines = 0;
+    LogControl::setLevel("DisplayAPI::AbbreviatedItemPrivate", 5);
+    LogControl::setSink([](const LogControl::Message&) {
+        ++lines;
+        EXPECT_FALSE(displayableExists(dying));
+        EXPECT_EQ(privateOfLiving(dying), nullptr);
+        EXPECT_EQ(nameOfLiving(dying), "");
+    });
+    Listener listener;
+    Command command("", Command::Select);
+    const auto kill = [&](std::unique_ptr<Displayable> screen) {
+        dying = screen.get();
+        CommandExecutor::postCommand(&listener, &command, dying, false);
+        screen.reset();
+        // Nor does a delivery come behind the recall.
+        CommandExecutor::postCommand(&listener, &command, dying, false);
+        CommandExecutor::retrieveCommand(nullptr, nullptr, nullptr);
+    };
+    kill(std::make_unique<OwnScreen>());
+    kill(std::make_unique<YRCWindow>(true));
+    EXPECT_EQ(lines, 2);
+    LogControl::reset();
 }
