@@ -7,7 +7,6 @@
 #include "ContentWidgetFactory.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
-#include "LivingDisplays.h"
 #include "Road.h"
 #include "VantoUApplicationFactory.h"
 
@@ -64,13 +63,12 @@ DisplayPrivate::DisplayPrivate(std::string applicationName, bool server, std::st
     if (HardwareVersion::getHWSubPlatformVariant() == 1)
         mDisplayArea = std::make_unique<Rect>(0, 0, 192, 48);
     createContentWidget();
-    LivingDisplays::add(this);
 }
 
 DisplayPrivate::~DisplayPrivate()
 {
     // From here on no screen finds this display any more, whatever it has stored.
-    LivingDisplays::remove(this);
+    leave();
     mStack.giveBack();
     cleanup();
 }
@@ -224,11 +222,11 @@ void DisplayPrivate::exec()
     };
     const End end;
     deleteKeptHalves();
-    const unsigned long number = LivingDisplays::numberOf(this);
+    const Living<DisplayPrivateIfc> self(this);
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->exec();
     // An event may have deleted the display, which ends the loop.
-    if (LivingDisplays::numberOf(this) == number)
+    if (self)
         mExecFinished = true;
 }
 

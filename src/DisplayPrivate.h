@@ -1,6 +1,7 @@
 #pragma once
 
 #include <DisplayAPI/DisplayPrivateIfc.h>
+#include <DisplayAPI/Living.h>
 
 #include "DisplayStack.h"
 #include "VisibleRectMonitor.h"

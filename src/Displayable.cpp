@@ -3,8 +3,8 @@
 #include <DisplayAPI/ListenerList.h>
 
 #include "CommandExecutor.h"
+#include "DisplayPrivate.h"
 #include "ExistingDisplayables.h"
-#include "LivingDisplays.h"
 
 namespace DisplayAPI {
 
@@ -46,7 +46,10 @@ void Displayable::retireScreen()
 {
     retire();
     unregisterDisplayable(this);
-    LivingDisplays::forget(this);
+    for (DisplayPrivateIfc* living : DisplayPrivateIfc::all()) {
+        if (auto* display = dynamic_cast<DisplayPrivate*>(living))
+            display->forget(this);
+    }
 }
 
 }

@@ -1,8 +1,7 @@
-#include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 
+#include "DisplayPrivate.h"
 #include "ExistingDisplayables.h"
-#include "LivingDisplays.h"
 
 namespace DisplayAPI {
 
@@ -10,13 +9,12 @@ std::atomic<TranslatorIfc*> DisplayablePrivate::commonTranslator = nullptr;
 
 void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 {
-    mDisplay = display;
-    mDisplayNumber = LivingDisplays::numberOf(display);
+    mDisplay = Living<DisplayPrivateIfc>(display);
 }
 
 DisplayPrivateIfc* DisplayablePrivate::display() const
 {
-    return LivingDisplays::numberOf(mDisplay) == mDisplayNumber ? mDisplay : nullptr;
+    return mDisplay.get();
 }
 
 std::string DisplayablePrivate::serialise()
@@ -31,12 +29,13 @@ std::string DisplayablePrivate::serialise(const std::vector<Rect>&)
 
 void DisplayablePrivate::widgetDismissed(DisplayablePrivate* displayable)
 {
-    DisplayPrivateIfc* living = display();
-    if (!living)
+    const Living<DisplayPrivateIfc> on = mDisplay;
+    if (!on)
         return;
     // The screen below comes back, which may end this one, or the display.
-    living->widgetDismissed(displayable);
-    LivingDisplays::tellOfDismissal(living);
+    on.get()->widgetDismissed(displayable);
+    if (auto* telling = dynamic_cast<DisplayPrivate*>(on.get()))
+        telling->tellOfDismissal();
 }
 
 void DisplayablePrivate::join(DisplayablePrivate* other)

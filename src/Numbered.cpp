@@ -1,4 +1,5 @@
 #include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
@@ -49,5 +50,6 @@ std::vector<T*> Numbered<T>::all()
 template class Numbered<CommandListener>;
 template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
+template class Numbered<DisplayPrivateIfc>;
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <DisplayAPI/Icons.h>
+#include <DisplayAPI/Numbered.h>
 
 #include <Rect.h>
 
@@ -18,7 +19,7 @@ class DisplayEventIfc;
 
 /// The display as its handle and its screens see it. Threads: GUI thread only, but for subscribe(),
 /// unSubscribe() and displayChanged().
-class DisplayPrivateIfc {
+class DisplayPrivateIfc : public Numbered<DisplayPrivateIfc> {
 public:
     virtual ~DisplayPrivateIfc() = default;
 

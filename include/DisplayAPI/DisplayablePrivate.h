@@ -1,9 +1,11 @@
 #pragma once
 
 #include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/DisplayablePrivateIfc.h>
 #include <DisplayAPI/Export.h>
 #include <DisplayAPI/ListenerList.h>
+#include <DisplayAPI/Living.h>
 
 #include <atomic>
 
@@ -57,8 +59,7 @@ protected:
     ListenerList<CommandListener> mCommandListeners;
 
 private:
-    DisplayPrivateIfc* mDisplay = nullptr; // it may have died: ask display()
-    unsigned long mDisplayNumber = 0;      // tells it from a later one at the same address
+    Living<DisplayPrivateIfc> mDisplay;
 };
 
 }
