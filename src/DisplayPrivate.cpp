@@ -241,21 +241,21 @@ void DisplayPrivate::shutdown()
 void DisplayPrivate::subscribe(DisplayEventIfc* listener)
 {
     CriticalSection section(mListenerLock);
-    mDisplayChangeListener = listener;
+    mDisplayChangeListener = Living<DisplayEventIfc>(listener);
 }
 
 void DisplayPrivate::unSubscribe()
 {
     CriticalSection section(mListenerLock);
-    mDisplayChangeListener = nullptr;
+    mDisplayChangeListener = {};
 }
 
 void DisplayPrivate::displayChanged()
 {
     CriticalSection section(mListenerLock);
     mOwesNotice = false;
-    if (mDisplayChangeListener)
-        mDisplayChangeListener->displayChanged({});
+    if (DisplayEventIfc* subscriber = mDisplayChangeListener.get())
+        subscriber->displayChanged({});
 }
 
 void DisplayPrivate::tellOfDismissal()

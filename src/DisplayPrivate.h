@@ -1,5 +1,6 @@
 #pragma once
 
+#include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/Living.h>
 
@@ -166,7 +167,7 @@ private:
     void showSW(int lines);
 
     Semaphore mListenerLock{Semaphore::AVAILABLE, 1, true};
-    DisplayEventIfc* mDisplayChangeListener GUARDED_BY(mListenerLock) = nullptr;
+    Living<DisplayEventIfc> mDisplayChangeListener GUARDED_BY(mListenerLock);
     bool mOwesNotice GUARDED_BY(mListenerLock) = false; // of a screen that has left, until any notice is given
 
     DisplayStack mStack{*this};

@@ -121,7 +121,7 @@ std::string DisplayPrivate::serialiseByRect(const std::vector<Rect>& rects, std:
 bool DisplayPrivate::hasSubscriber()
 {
     CriticalSection section(mListenerLock);
-    return mDisplayChangeListener != nullptr;
+    return static_cast<bool>(mDisplayChangeListener);
 }
 
 std::string DisplayPrivate::serialiseScreens(const std::vector<Rect>& rects)

@@ -1,4 +1,5 @@
 #include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
@@ -50,6 +51,7 @@ std::vector<T*> Numbered<T>::all()
 template class Numbered<CommandListener>;
 template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
+template class Numbered<DisplayEventIfc>;
 template class Numbered<DisplayPrivateIfc>;
 
 }

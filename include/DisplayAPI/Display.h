@@ -165,9 +165,13 @@ public:
     Rect* getDisplayArea();
 
     /// Names the one who is told of every change; another one takes its place. While it is being told, a call of these
-    /// two on another thread waits. Threads: any, for these two.
+    /// two on another thread waits. One that dies without unSubscribe() is forgotten; but on another thread it must not
+    /// die while it may be told. Threads: any, for these two.
     void subscribe(DisplayEventIfc* listener);
     void unSubscribe();
+
+    /// Names the translator of the library's own texts. Nobody notices when it dies: name another one before, or null,
+    /// and let it outlive every TranslationInfo that was made with it.
     void setTranslator(TranslatorIfc* translator);
     void setAndUpdateHeadSetIcon(bool on);
     void setAndUpdateSpeakerIcon(bool on);

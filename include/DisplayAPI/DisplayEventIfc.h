@@ -1,5 +1,7 @@
 #pragma once
 
+#include <DisplayAPI/Numbered.h>
+
 #include <string>
 
 namespace DisplayAPI {
@@ -8,7 +10,9 @@ namespace DisplayAPI {
 ///
 /// Threads: called on the GUI thread, inside the operation that made the change; it may read the screen text
 /// there. Nobody deletes through this interface.
-class DisplayEventIfc {
+/// Ownership: the application's. One that dies is forgotten, as a listener is; but it must not die on another thread
+/// while it may be inside displayChanged(): Display::unSubscribe() returns behind that.
+class DisplayEventIfc : public Numbered<DisplayEventIfc> {
 public:
     /// Something that can be seen has changed. The text is empty.
     virtual void displayChanged(std::string text) = 0;

@@ -1,6 +1,9 @@
 #include "StackFixture.h"
 
+#include <array>
 #include <atomic>
+#include <cstddef>
+#include <new>
 #include <thread>
 
 namespace {
@@ -23,6 +26,26 @@ TEST_F(SubscriptionTest, ASubscriberMayDieAsSoonAsUnSubscribeHasReturned)
     while (!isDone)
         display->displayChanged();
     application.join();
+}
+
+TEST_F(SubscriptionTest, ASubscriberThatDiesIsForgotten)
+{
+    makeDisplay();
+    alignas(Subscriber) std::array<std::byte, sizeof(Subscriber)> place;
+    auto* first = new (place.data()) Subscriber;
+    display->subscribe(first);
+    first->~Subscriber();
+    display->displayChanged();
+
+    // Nor is another one at its address taken for it.
+    auto* second = new (place.data()) Subscriber;
+    display->displayChanged();
+    EXPECT_EQ(second->takeNotices(), 0);
+    display->subscribe(second);
+    display->displayChanged();
+    EXPECT_EQ(second->takeNotices(), 1);
+    display->unSubscribe();
+    second->~Subscriber();
 }
 
 TEST_F(SubscriptionTest, SubscribingWaitsForTheNoticeThatIsRunning)
