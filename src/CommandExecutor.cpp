@@ -13,9 +13,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <functional>
+#include <sstream>
+#include <string>
 #include <unordered_set>
 #include <variant>
+#include <vector>
 
 namespace DisplayAPI {
 
@@ -99,6 +103,59 @@ struct ItemStateDelivery {
 
 using Delivery = std::variant<CommandDelivery, ItemStateDelivery>;
 
+/// The label of a command that may have gone. Whoever hangs may hold the lock of all commands: no label then.
+std::string labelOf(const Living<Command>& command)
+{
+    constexpr int briefly = 100;
+    std::string label;
+    Semaphore& lock = Command::commandListMutex();
+    if (!lock.take(briefly))
+        return label;
+    if (const Command* living = command.get())
+        label = living->getLabel();
+    lock.give();
+    return label;
+}
+
+std::string described(const CommandDelivery& delivery)
+{
+    std::ostringstream text;
+    text << "command \"" << labelOf(delivery.command) << "\" (" << delivery.command.address() << ") of screen \""
+         << nameOfLiving(delivery.displayable) << "\" (" << delivery.displayable << ')';
+    return text.str();
+}
+
+std::string described(const ItemStateDelivery& delivery)
+{
+    std::ostringstream text;
+    text << "changed item (" << delivery.item << ')';
+    return text.str();
+}
+
+void logDelivery(const Delivery& delivery, const std::string& what, int line)
+{
+    constexpr const char* module = "DisplayAPI";
+    constexpr int level = 2;
+    if (!loggingOnAppUni(module, level))
+        return;
+    const std::string text = std::visit([](const auto& each) { return described(each); }, delivery);
+    logAppUni(module, "src/CommandExecutor", level, line, "The delivery of %s %s.", text.c_str(), what.c_str());
+}
+
+/// Lets an exception of the listener pass, with a line that tells where it came from.
+void deliver(const Delivery& delivery)
+{
+    try {
+        std::visit([](const auto& what) { what.deliver(); }, delivery);
+    } catch (const std::exception& exception) {
+        logDelivery(delivery, std::string("was left by an exception: ") + exception.what(), __LINE__);
+        throw;
+    } catch (...) {
+        logDelivery(delivery, "was left by an exception", __LINE__);
+        throw;
+    }
+}
+
 }
 
 /// What waits, and who is at work. The entries of the queue point into the two containers of records, whose
@@ -111,6 +168,10 @@ struct CommandExecutor::State {
     std::unordered_set<ItemStateDelivery, ItemStateDelivery::Hash> changes GUARDED_BY(semaphore);
     bool running GUARDED_BY(semaphore) = false;
     bool starting GUARDED_BY(semaphore) = false; // a worker has been called and has not arrived yet
+    bool closed GUARDED_BY(semaphore) = false;   // nothing is queued
+    const Delivery* inHand GUARDED_BY(semaphore) = nullptr;
+    unsigned int worker GUARDED_BY(semaphore) = 0;         // the thread that is at it
+    std::vector<Semaphore*> closers GUARDED_BY(semaphore); // who waits until the work is done
 
     bool claimStart(bool start) REQUIRES(semaphore);
     bool takeFirst(Delivery& delivery) REQUIRES(semaphore);
@@ -202,7 +263,7 @@ void CommandExecutor::postCommand(CommandListener* listener, Command* command, D
         CriticalSection section(waiting.semaphore);
         // Asked under the lock: who dies leaves the living first and recalls then.
         const CommandDelivery delivery{Living<CommandListener>(listener), Living<Command>(command), displayable};
-        if (!delivery.isLiving())
+        if (waiting.closed || !delivery.isLiving())
             return;
         waiting.commands.push_back(delivery);
         waiting.queue.emplace_back(ItemType::Command, &waiting.commands.back());
@@ -221,7 +282,7 @@ void CommandExecutor::postCommand(ItemStateListener* listener, Item* item, bool 
     {
         CriticalSection section(waiting.semaphore);
         const ItemStateDelivery delivery{Living<ItemStateListener>(listener), item};
-        if (!delivery.isLiving())
+        if (waiting.closed || !delivery.isLiving())
             return;
         const auto [record, isNew] = waiting.changes.insert(delivery);
         if (!isNew)
@@ -255,13 +316,61 @@ void CommandExecutor::run()
         waiting.starting = false;
         if (waiting.running || !waiting.takeFirst(delivery))
             return;
+        waiting.inHand = &delivery;
+        waiting.worker = Threadable::currentThreadId();
     }
-    for (;;) {
-        std::visit([](const auto& what) { what.deliver(); }, delivery);
+    std::vector<Semaphore*> closers;
+    for (bool isDone = false; !isDone;) {
+        deliver(delivery);
         CriticalSection section(waiting.semaphore);
-        if (!waiting.running || !waiting.takeFirst(delivery))
-            return;
+        isDone = !waiting.takeFirst(delivery);
+        if (isDone) {
+            waiting.inHand = nullptr;
+            closers.swap(waiting.closers);
+        }
     }
+    for (Semaphore* closer : closers)
+        closer->give();
+}
+
+bool CommandExecutor::closeDeliveries(std::chrono::milliseconds patience)
+{
+    State& waiting = state();
+    {
+        CriticalSection section(waiting.semaphore);
+        waiting.closed = true;
+    }
+    retrieveCommand(nullptr, nullptr, nullptr);
+    retrieveCommand(nullptr, nullptr);
+    Semaphore done(Semaphore::NOT_AVAILABLE);
+    {
+        CriticalSection section(waiting.semaphore);
+        if (!waiting.running || waiting.worker == Threadable::currentThreadId())
+            return true;
+        waiting.closers.push_back(&done);
+    }
+    if (done.take(static_cast<int>(patience.count())))
+        return true;
+    bool isLate = false;
+    Delivery delivery;
+    {
+        CriticalSection section(waiting.semaphore);
+        isLate = std::erase(waiting.closers, &done) > 0;
+        if (isLate)
+            delivery = *waiting.inHand;
+    }
+    if (isLate)
+        logDelivery(delivery, "has not ended, and is waited for no longer", __LINE__);
+    else
+        done.take(-1); // it has ended meanwhile, and its worker is about to say so
+    return !isLate;
+}
+
+void CommandExecutor::openDeliveries()
+{
+    State& waiting = state();
+    CriticalSection section(waiting.semaphore);
+    waiting.closed = false;
 }
 
 void CommandExecutor::retrieveCommand(CommandListener* listener, Command* command, Displayable* displayable)

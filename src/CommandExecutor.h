@@ -4,6 +4,7 @@
 
 #include <Semaphore.h>
 
+#include <chrono>
 #include <deque>
 #include <utility>
 
@@ -19,8 +20,9 @@ class ItemStateListener;
 /// order of posting, so that no code of the application runs on the GUI thread.
 ///
 /// Threads: any. No lock is held while a listener runs, and no post waits for one. A delivery that has begun is
-/// neither recalled nor waited for.
-/// Errors: a listener that is null or has died is ignored. With null a recall matches everything.
+/// not recalled, and waited for at the end of the application alone.
+/// Errors: a listener that is null or has died is ignored. With null a recall matches everything. An exception of a
+/// listener ends the process, behind a line in the log that names screen, command and what().
 class CommandExecutor : public Runnable {
 public:
     /// Queues a delivery, also one that waits already. `start` calls a worker if none is at work or on its way.
@@ -34,6 +36,14 @@ public:
 
     /// The same for state changes.
     static void retrieveCommand(ItemStateListener* listener, Item* item);
+
+    /// The end of an application: recalls all that has not begun, drops what is posted from now on, and returns when
+    /// the delivery that has begun has ended; one on the calling thread is not waited for. False if that took longer
+    /// than `patience`: a line in the log names it, and it goes on.
+    static bool closeDeliveries(std::chrono::milliseconds patience = std::chrono::seconds(5));
+
+    /// Takes deliveries again, as it does when the process begins.
+    static void openDeliveries();
 
     /// Empties the queue, unless another worker is at it.
     void run() override;

@@ -4,6 +4,7 @@
 #include <DisplayAPI/Widget.h>
 
 #include "AssertGuiThread.h"
+#include "CommandExecutor.h"
 #include "ContentWidgetFactory.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
@@ -50,6 +51,7 @@ DisplayPrivate::DisplayPrivate(std::string applicationName, bool server, std::st
         VantoUApplication::HardwareVariant{},
         static_cast<VantoUApplication::SoftwareType>(softwareTypeNumber(softwareType)),
         static_cast<PhysDefs::hardwareSubVariant>(subVariant));
+    CommandExecutor::openDeliveries();
     deleteKeptHalves();
     if (auto* application = VantoUApplication::getCurrentApplication()) {
         application->setHardwareVariant(VantoUApplication::HardwareVariant{});
@@ -218,9 +220,14 @@ void DisplayPrivate::exec()
     }
     // On every way out, an exception included.
     struct End {
-        ~End() { isLoopRunning = false; }
+        ~End()
+        {
+            CommandExecutor::closeDeliveries();
+            isLoopRunning = false;
+        }
     };
     const End end;
+    CommandExecutor::openDeliveries();
     deleteKeptHalves();
     const Living<DisplayPrivateIfc> self(this);
     if (auto* application = VantoUApplication::getCurrentApplication())

@@ -13,7 +13,10 @@ class Displayable;
 /// Threads: commandAction() runs on a worker thread, one delivery after the other, in the order of posting; it
 /// may call every handle. No lock of the library is held meanwhile.
 /// Ownership: a listener stays the application's. Its destructor recalls what waits for it, but a delivery that
-/// has begun is not held up: don't destroy a listener while it may be inside commandAction().
+/// has begun is not held up: don't destroy a listener while it may be inside commandAction(). When Display::exec() has
+/// returned, none is.
+/// Errors: an exception that leaves commandAction() ends the process, behind a line in the log that names screen,
+/// command and what().
 class DISPLAYAPI_EXPORT CommandListener : public Numbered<CommandListener> {
 public:
     CommandListener() = default;

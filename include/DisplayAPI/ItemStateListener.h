@@ -9,7 +9,7 @@ class Item;
 
 /// Implemented by the application to hear of changed fields.
 ///
-/// Threads and ownership are those of CommandListener. A change that is posted while the same one still waits
+/// Threads, ownership and errors are those of CommandListener. A change that is posted while the same one still waits
 /// is delivered once.
 class DISPLAYAPI_EXPORT ItemStateListener : public Numbered<ItemStateListener> {
 public:

@@ -25,6 +25,9 @@ public:
     /// True if it was made of this pointer, whichever object lived there.
     bool isAt(const T* address) const { return mObject == address; }
 
+    /// What it was made of, to be compared or printed.
+    const void* address() const { return mObject; }
+
     /// The running number; 0 for null, and for an object that had died before.
     std::uint64_t number() const { return mNumber; }
 

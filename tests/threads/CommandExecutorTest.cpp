@@ -2,21 +2,26 @@
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
 #include "Disturb.h"
+#include "Log.h"
 #include "Semaphore.h"
 #include "Threadable.h"
 
 #include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/ItemStateListener.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <latch>
 #include <memory>
 #include <set>
+#include <sstream>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <utility>
@@ -81,9 +86,9 @@ public:
         mLeft.give();
     }
     /// Returns with the worker inside.
-    void block()
+    void block(Command* command = nullptr, Displayable* displayable = nullptr)
     {
-        postCommandAction(nullptr, nullptr);
+        postCommandAction(command, displayable);
         mEntered.take();
     }
     void letGo() { mMayLeave.give(); }
@@ -283,6 +288,99 @@ TEST(CommandExecutorTest, CommandsMayDieWhileOthersAreDelivered)
         EXPECT_LE(counter->told, rounds);
         EXPECT_EQ(recorder.told.size(), static_cast<std::size_t>(rounds));
     });
+}
+
+TEST(CommandExecutorTest, TheEndRecallsWhatWaitsAndAwaitsWhatHasBegun)
+{
+    Command command("", Command::Select);
+    withSeeds([&command] {
+        Recorder recorder(2);
+        std::atomic<bool> isClosed = false;
+        Blocker slow;
+        slow.block();
+        recorder.postCommandAction(&command, nullptr);
+        recorder.postItemStateChange(itemNumber(0));
+        EXPECT_FALSE(CommandExecutor::closeDeliveries(std::chrono::milliseconds(0)));
+        std::thread display([&isClosed] {
+            EXPECT_TRUE(CommandExecutor::closeDeliveries(std::chrono::minutes(1)));
+            isClosed = true;
+        });
+        for (int i = 0; i < 100; ++i)
+            std::this_thread::yield();
+        EXPECT_FALSE(isClosed);
+        slow.letGo();
+        display.join();
+
+        // Nobody is told any more, until deliveries are taken again.
+        recorder.postCommandAction(&command, nullptr);
+        recorder.postItemStateChange(itemNumber(0));
+        EXPECT_TRUE(CommandExecutor::closeDeliveries(std::chrono::minutes(1)));
+        CommandExecutor::openDeliveries();
+        EXPECT_TRUE(recorder.told.empty());
+        recorder.postCommandAction(&command, nullptr);
+        recorder.postItemStateChange(itemNumber(1));
+        recorder.wait();
+        EXPECT_EQ(recorder.told, (std::vector<const void*>{&command, itemNumber(1)}));
+    });
+}
+
+TEST(CommandExecutorTest, ADeliveryThatDoesNotEndIsNamedAndLeftAlone)
+{
+    static std::vector<std::string> lines;
+    LogControl::setLevel("DisplayAPI", 2);
+    LogControl::setSink([](const LogControl::Message& message) { lines.push_back(message.text); });
+    class Screen : public Displayable {
+    public:
+        Screen() { mName = "Menu"; }
+        DisplayablePrivateIfc* getPrivateImpl() override { return nullptr; }
+    };
+    Screen screen;
+    Command command("Call", Command::Select);
+    Blocker stuck;
+    stuck.block(&command, &screen);
+    EXPECT_FALSE(CommandExecutor::closeDeliveries(std::chrono::milliseconds(1)));
+    std::ostringstream expected;
+    expected << "The delivery of command \"Call\" (" << static_cast<void*>(&command) << ") of screen \"Menu\" ("
+             << static_cast<void*>(&screen) << ") has not ended, and is waited for no longer.";
+    EXPECT_EQ(lines, std::vector<std::string>{expected.str()});
+    stuck.letGo();
+    EXPECT_TRUE(CommandExecutor::closeDeliveries(std::chrono::minutes(1)));
+    CommandExecutor::openDeliveries();
+    LogControl::reset();
+}
+
+TEST(CommandExecutorTest, ADeliveryThatClosesDoesNotWaitForItself)
+{
+    class Closer : public CommandListener {
+    public:
+        void commandAction(Command*, Displayable*) override
+        {
+            isClosed = CommandExecutor::closeDeliveries(std::chrono::minutes(1));
+            done.count_down();
+        }
+        bool isClosed = false;
+        std::latch done{1};
+    };
+    Closer closer;
+    closer.postCommandAction(nullptr, nullptr);
+    closer.done.wait();
+    EXPECT_TRUE(closer.isClosed);
+    CommandExecutor::openDeliveries();
+}
+
+TEST(CommandExecutorDeathTest, AnExceptionEndsTheProcessBehindALineInTheLog)
+{
+    class Thrower : public CommandListener {
+        void commandAction(Command*, Displayable*) override { throw std::runtime_error("no line"); }
+    };
+    const auto throwFromWorker = [] {
+        LogControl::setLevel("DisplayAPI", 2);
+        Thrower thrower;
+        Command command("Call", Command::Select);
+        thrower.postCommandAction(&command, nullptr);
+        Semaphore(Semaphore::NOT_AVAILABLE).take(30'000); // the worker ends the process meanwhile
+    };
+    EXPECT_DEATH(throwFromWorker(), "The delivery of command \"Call\" .* was left by an exception: no line");
 }
 
 TEST(CommandExecutorTest, WhatWasQueuedWithoutAStartGoesWithTheNextOne)
