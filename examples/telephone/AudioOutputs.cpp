@@ -1,7 +1,5 @@
 #include "AudioOutputs.h"
 
-#include "LastDelivery.h"
-
 #include <DisplayAPI/Display.h>
 #include <DisplayAPI/ListItem.h>
 
@@ -29,7 +27,6 @@ void AudioOutputs::run()
     mDisplay.setCurrent(&mList);
     mDisplay.show();
     mDisplay.exec();
-    LastDelivery().await();
 }
 
 void AudioOutputs::commandAction(Command* command, Displayable* displayable)
