@@ -6,7 +6,7 @@
 namespace {
 
 /// A handler that draws nothing, and does what the test wants with each key.
-class Handler : public GUIEventIfc {
+class Handler final : public GUIEventIfc {
 public:
     bool onLeft(const UKeyEvent* key) override { return note('l', key); }
     bool onRight(const UKeyEvent* key) override { return note('r', key); }
