@@ -115,6 +115,10 @@ TEST_F(CallRowsTest, TheEndlessBarRunsWhileItIsOnTheGlass)
     EXPECT_FALSE(picture() == first);
     advance(1200);
     EXPECT_TRUE(picture() == first) << "it begins again";
+    widget->hide();
+    advance(1000);
+    EXPECT_EQ(ULoop::instance().timeToNextTimer(), -1) << "nobody is to be woken up for what nobody sees";
+    widget->show();
     delete widget;
     advance(1000);
 }

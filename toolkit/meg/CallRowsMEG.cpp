@@ -194,13 +194,12 @@ void LineOverviewListItem::paintRow(UPainter& painter, int, int line, int column
 InfiniteBarItemMEG::InfiniteBarItemMEG()
     : mTimer(this, BarInterval)
 {
+    mTimer.setSingleShot(true);
 }
 
 void InfiniteBarItemMEG::startInfiniteProgressBar()
 {
-    if (mTimer.isRunning())
-        return;
-    mTimer.start();
+    mIsRunning = true;
     refresh();
 }
 
@@ -209,13 +208,12 @@ void InfiniteBarItemMEG::timerEvent(UTimerEvent* event)
     if (event->id() != mTimer.id())
         return;
     mStep = (mStep + 1) % (2 * BarPositions);
-    if (isShown())
-        refresh();
+    refresh();
 }
 
 void InfiniteBarItemMEG::paintRow(UPainter& painter, int rowLine, int line, int column, int columns) const
 {
-    if (!mTimer.isRunning()) {
+    if (!mIsRunning) {
         VantoListBoxItemMEG::paintRow(painter, rowLine, line, column, columns);
         return;
     }
@@ -223,4 +221,7 @@ void InfiniteBarItemMEG::paintRow(UPainter& painter, int rowLine, int line, int 
     const int textColumns = text.isEmpty() ? 0 : painter.text(line, column, text, columns / 2) + 1;
     const int position = mStep <= BarPositions ? mStep : 2 * BarPositions - mStep;
     painter.blockBar(line, column + textColumns, columns - textColumns, BarPositions, position);
+    // Each painting asks for the next one, so that a row that nobody paints wakes nobody up.
+    if (!mTimer.isRunning())
+        mTimer.start();
 }

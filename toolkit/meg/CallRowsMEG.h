@@ -139,12 +139,13 @@ public:
 
     /// Shows the bar and lets it run for as long as the row lives. A bar that runs goes on.
     void startInfiniteProgressBar();
-    bool isRunning() const { return mTimer.isRunning(); }
+    bool isRunning() const { return mIsRunning; }
 
     void timerEvent(UTimerEvent* event) override;
     void paintRow(UPainter& painter, int rowLine, int line, int column, int columns) const override;
 
 private:
-    UTimer mTimer;
+    mutable UTimer mTimer; // from one painting to the next
     int mStep = 0;
+    bool mIsRunning = false;
 };
