@@ -108,7 +108,7 @@ private:
     void tellOwner(Command* command);
 
     Displayable* mOwner;
-    VantoListBoxWithTitleMEG* mWidget; // null once a tree that owned it has deleted it
+    VantoListBoxWithTitleMEG* mWidget = nullptr; // null once a tree that owned it has deleted it
     UPointer<UWidget> mFormerParent; // where the list stood when its last row was removed
     bool mHasCaption = false;
     TranslationHolder mTitleInfo;

@@ -51,7 +51,7 @@ private:
     void showText(const std::string& text);
     void showRightText(const std::string& text);
 
-    VantoListBoxItemMEG* mWidget; // null once a list that held the row has deleted it
+    VantoListBoxItemMEG* mWidget = nullptr; // null once a list that held the row has deleted it
     TranslationHolder mTextInfo;
     TranslationHolder mRightTextInfo;
     OwnershipDelegate<VantoListBoxItemMEG> mOwnership{&mWidget};

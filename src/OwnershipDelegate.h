@@ -10,7 +10,8 @@ namespace DisplayAPI {
 /// ownership operations to it. As the last of the members it goes first, while the others are still there for the
 /// widget's farewell.
 ///
-/// It works on the private's own pointer. Whoever deletes the widget, that pointer becomes null.
+/// It works on the private's own pointer, which has the widget or null when the delegate is made. Whoever deletes the
+/// widget, that pointer becomes null.
 template <typename T>
 class OwnershipDelegate final : public OwnershipIfc {
 public:
