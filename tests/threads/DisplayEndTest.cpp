@@ -1,3 +1,5 @@
+#include "Disturbance.h"
+#include "RecordingListener.h"
 #include "TestTranslator.h"
 #include "ThreadedPhoneTest.h"
 
@@ -9,6 +11,7 @@
 #include <TranslationInfo.h>
 #include <UApplication.h>
 #include <UEvent.h>
+#include <ULoop.h>
 #include <UWidget.h>
 #include <UWindowManager.h>
 
@@ -18,6 +21,8 @@
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include <unistd.h>
 
 using namespace DisplayAPI;
 
@@ -61,6 +66,7 @@ class DisplayEndTest : public PhoneTest {
 protected:
     void insideLoop(std::function<void()> function)
     {
+        ULoop::instance().open();
         UApplication::instance()->postEvent(new InsideLoop(std::move(function)));
     }
 };
@@ -79,6 +85,44 @@ TEST_F(DisplayEndTest, ExecIsRefusedOnAnotherThreadAndInsideItself)
     EXPECT_EQ(log.texts(),
         (std::vector<std::string>{"Display::exec() is refused: this is not the GUI thread.",
             "Display::exec() is refused: the loop runs already."}));
+}
+
+TEST_F(DisplayEndTest, ExecReturnsWhenTheDeliveryThatHasBegunHasEnded)
+{
+    const pid_t guiThread = gettid();
+    Command first("first", Command::Menu);
+    Command waiting("waiting", Command::Menu);
+    Command late("late", Command::Menu);
+    Command next("next", Command::Menu);
+    RecordingListener listener;
+    listener.reaction = [&](Command*) {
+        listener.postCommandAction(&waiting, nullptr);
+        display->shutdown();
+        // Only one who waits for this delivery sleeps now.
+        while (!isAtRest(guiThread))
+            std::this_thread::yield();
+    };
+    listener.postCommandAction(&first, nullptr);
+    display->exec();
+    EXPECT_EQ(listener.count(), 1u);
+    listener.reaction = nullptr;
+    listener.postCommandAction(&late, nullptr);
+
+    const Display another("Test", "en", "", "", false, nullptr);
+    listener.postCommandAction(&next, nullptr);
+    EXPECT_EQ(listener.commands(2), (std::vector<Command*>{&first, &next}));
+}
+
+TEST_F(DisplayEndTest, TheNextLoopDeliversAgain)
+{
+    Command command("command", Command::Menu);
+    RecordingListener listener;
+    listener.reaction = [this](Command*) { display->shutdown(); };
+    for (int round = 0; round < 3; ++round) {
+        insideLoop([&] { listener.postCommandAction(&command, nullptr); });
+        display->exec();
+        EXPECT_EQ(listener.count(), static_cast<std::size_t>(round) + 1);
+    }
 }
 
 using KeptHalfTest = ThreadedPhoneTest;
