@@ -2,6 +2,7 @@
 
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
+#include "ExceptionLog.h"
 #include "ExistingDisplayables.h"
 
 #include <DisplayAPI/Command.h>
@@ -13,7 +14,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <exception>
 #include <functional>
 #include <sstream>
 #include <string>
@@ -132,28 +132,25 @@ std::string described(const ItemStateDelivery& delivery)
     return text.str();
 }
 
+std::string described(const Delivery& delivery)
+{
+    return "The delivery of " + std::visit([](const auto& each) { return described(each); }, delivery);
+}
+
 void logDelivery(const Delivery& delivery, const std::string& what, int line)
 {
     constexpr const char* module = "DisplayAPI";
     constexpr int level = 2;
     if (!loggingOnAppUni(module, level))
         return;
-    const std::string text = std::visit([](const auto& each) { return described(each); }, delivery);
-    logAppUni(module, "src/CommandExecutor", level, line, "The delivery of %s %s.", text.c_str(), what.c_str());
+    logAppUni(module, "src/CommandExecutor", level, line, "%s %s.", described(delivery).c_str(), what.c_str());
 }
 
-/// Lets an exception of the listener pass, with a line that tells where it came from.
 void deliver(const Delivery& delivery)
 {
-    try {
-        std::visit([](const auto& what) { what.deliver(); }, delivery);
-    } catch (const std::exception& exception) {
-        logDelivery(delivery, std::string("was left by an exception: ") + exception.what(), __LINE__);
-        throw;
-    } catch (...) {
-        logDelivery(delivery, "was left by an exception", __LINE__);
-        throw;
-    }
+    runAndLogExceptions(
+        "src/CommandExecutor", __LINE__, [&] { std::visit([](const auto& what) { what.deliver(); }, delivery); },
+        [&] { return described(delivery); });
 }
 
 }

@@ -8,6 +8,7 @@
 #include "ContentWidgetFactory.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
+#include "ExceptionLog.h"
 #include "Road.h"
 #include "VantoUApplicationFactory.h"
 
@@ -261,8 +262,15 @@ void DisplayPrivate::displayChanged()
 {
     CriticalSection section(mListenerLock);
     mOwesNotice = false;
-    if (DisplayEventIfc* subscriber = mDisplayChangeListener.get())
-        subscriber->displayChanged({});
+    DisplayEventIfc* subscriber = mDisplayChangeListener.get();
+    if (!subscriber)
+        return;
+    runAndLogExceptions(
+        "src/DisplayPrivate", __LINE__, [subscriber] { subscriber->displayChanged({}); },
+        [this] {
+            const Displayable* current = Widget::isGuiThread() ? mStack.current() : nullptr;
+            return "The notice of screen \"" + nameOfLiving(current) + '"';
+        });
 }
 
 void DisplayPrivate::tellOfDismissal()

@@ -1,6 +1,8 @@
 #include <DisplayAPI/Display.h>
 #include <DisplayAPI/DisplayRequestEvent.h>
 
+#include "ExceptionLog.h"
+
 #include <EventPool.h>
 #include <Semaphore.h>
 
@@ -85,8 +87,11 @@ DisplayRequestEvent::~DisplayRequestEvent()
 void DisplayRequestEvent::process()
 {
     // A display that was followed by another one may die with requests in the queue.
-    if (Display::exists(mRequester))
-        mRequester->processDisplayRequest(this);
+    if (!Display::exists(mRequester))
+        return;
+    runAndLogExceptions(
+        "src/DisplayRequestEvent", __LINE__, [this] { mRequester->processDisplayRequest(this); },
+        [this] { return "Request " + std::to_string(mRequest) + " of the display"; });
 }
 
 void DisplayRequestEvent::requestCompleted()

@@ -17,6 +17,7 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <utility>
@@ -123,6 +124,20 @@ TEST_F(DisplayEndTest, TheNextLoopDeliversAgain)
         display->exec();
         EXPECT_EQ(listener.count(), static_cast<std::size_t>(round) + 1);
     }
+}
+
+TEST_F(DisplayEndTest, AnExceptionOfTheSubscriberIsLoggedAndComesOutOfExec)
+{
+    const FaultLog log;
+    List list(0);
+    display->setCurrent(&list);
+    changes.onNextNotice = [] { throw std::runtime_error("no reader"); };
+    std::thread application([this] { display->show(); });
+    EXPECT_THROW(display->exec(), std::runtime_error);
+    application.join();
+    EXPECT_EQ(log.texts(),
+        (std::vector<std::string>{"The notice of screen \"List\" was left by an exception: no reader.",
+            "Request 1 of the display was left by an exception: no reader."}));
 }
 
 using KeptHalfTest = ThreadedPhoneTest;
