@@ -1,5 +1,6 @@
 #pragma once
 
+#include <DisplayAPI/Export.h>
 #include <DisplayAPI/Numbered.h>
 
 #include <string>
@@ -12,7 +13,7 @@ namespace DisplayAPI {
 /// there. Nobody deletes through this interface.
 /// Ownership: the application's. One that dies is forgotten, as a listener is; but it must not die on another thread
 /// while it may be inside displayChanged(): Display::unSubscribe() returns behind that.
-class DisplayEventIfc : public Numbered<DisplayEventIfc> {
+class DISPLAYAPI_EXPORT DisplayEventIfc : public Numbered<DisplayEventIfc> {
 public:
     /// Something that can be seen has changed. The text is empty.
     virtual void displayChanged(std::string text) = 0;
