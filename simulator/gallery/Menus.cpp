@@ -54,6 +54,15 @@ const Exhibit withoutRule("menu-plain", R"(
         menu->slideIn();
     });
 
+PopupProgressActualMEG* addProgress(Stage& stage, const std::string& caption, unsigned short icon)
+{
+    auto* popup = stage.add<PopupProgressActualMEG>(PopupProgressActualMEG::ProgressType{4});
+    popup->setText(text(caption));
+    popup->setIcon(icon);
+    popup->popupAsNotification();
+    return popup;
+}
+
 const Exhibit progress("progress", R"(
     shot stage
     advance 3s
@@ -62,35 +71,16 @@ const Exhibit progress("progress", R"(
     press LEFT
 )",
     [](Stage& stage) {
-        auto* popup = stage.add<PopupProgressActualMEG>(PopupProgressActualMEG::ProgressType{4});
-        popup->setText(text("Fetching settings"));
-        popup->setIcon(64);
+        PopupProgressActualMEG* popup = addProgress(stage, "Fetching settings", 64);
         popup->setStatusText1(text("Stage 2/4"));
         popup->setStatusText2(text("Ring tones and more"));
         popup->setProgress(40);
-        popup->popupAsNotification();
     });
 
-const Exhibit progressAlone("progress-bar", R"(
-    shot shown
-)",
-    [](Stage& stage) {
-        auto* popup = stage.add<PopupProgressActualMEG>(PopupProgressActualMEG::ProgressType{4});
-        popup->setText(text("Mobile user"));
-        popup->setIcon(83);
-        popup->setProgress(75);
-        popup->popupAsNotification();
-    });
+const Exhibit progressAlone(
+    "progress-bar", "shot shown", [](Stage& stage) { addProgress(stage, "Mobile user", 83)->setProgress(75); });
 
-const Exhibit progressWithoutBar("progress-text", R"(
-    shot shown
-)",
-    [](Stage& stage) {
-        auto* popup = stage.add<PopupProgressActualMEG>(PopupProgressActualMEG::ProgressType{4});
-        popup->setText(text("Fetching settings"));
-        popup->setIcon(64);
-        popup->setStatusText1(text("Looking for the server"));
-        popup->popupAsNotification();
-    });
+const Exhibit progressWithoutBar("progress-text", "shot shown",
+    [](Stage& stage) { addProgress(stage, "Fetching settings", 64)->setStatusText1(text("Looking for the server")); });
 
 }

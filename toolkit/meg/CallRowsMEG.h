@@ -137,7 +137,7 @@ public:
 
     int getItemType() const override { return LeftIconRow; }
 
-    /// Shows the bar and lets it run for as long as the row lives. A bar that runs goes on.
+    /// Shows the bar and lets it run for as long as the row lives; while nobody paints it, it stands still.
     void startInfiniteProgressBar();
     bool isRunning() const { return mIsRunning; }
 
