@@ -2,9 +2,11 @@
 #include "Phone.h"
 
 #include <ContextMenuMEG.h>
+#include <ExpandingListMEG.h>
 #include <PopupCallMEG.h>
 #include <SpellerMEG.h>
 #include <TreeItemMEG.h>
+#include <TwoLineDisplay.h>
 #include <Types.h>
 #include <UEvent.h>
 #include <UFont.h>
@@ -107,6 +109,55 @@ void buildTextBox(UWidget& root, int paragraphs)
     put<VantoTextBoxMEG>(root)->setText(text, false);
 }
 
+void buildExpandingList(UWidget& root, int rows)
+{
+    auto* list = put<ExpandingListMEG>(root);
+    list->setTitle(text("Forwarding"));
+    for (int row = 0; row < rows; ++row) {
+        auto* item = new CallForwardListItemMEG(CallForwardListItemMEG::IconType{4}, text("All calls"), false);
+        item->setBranchText(text("to: 0987654"));
+        list->addTopLevelItem(item);
+    }
+    list->list()->setCurrentIndex(rows / 2);
+}
+
+/// Draws a level and its row anew with each key that it is handed, as a tree does.
+class LevelDrawer : public UWidget, public GUIEventIfc {
+public:
+    explicit LevelDrawer(TwoLineDisplay& display)
+        : mDisplay(display)
+    {
+        mDisplay.setEventHandler(this);
+    }
+
+    bool onLeft(const UKeyEvent*) override { return draw(); }
+    bool onRight(const UKeyEvent*) override { return draw(); }
+    bool onUp(const UKeyEvent*) override { return draw(); }
+    bool onDown(const UKeyEvent*) override { return draw(); }
+    bool onOK(const UKeyEvent*) override { return draw(); }
+    bool setEventHandler(GUIEventIfc*) override { return false; }
+
+private:
+    bool draw()
+    {
+        mDisplay.clear();
+        mDisplay.addText(0, text("Settings"));
+        mDisplay.addText(0, text(":"));
+        mDisplay.addText(1, text("Language of the telephone"));
+        mDisplay.setScrollIndication(true);
+        mDisplay.setArrowMode(TwoLineDisplay::ArrowBoth);
+        return true;
+    }
+
+    TwoLineDisplay& mDisplay;
+};
+
+void buildTree(UWidget& root)
+{
+    auto* display = put<TwoLineDisplay>(root);
+    display->addWidget(new LevelDrawer(*display));
+}
+
 void buildSpeller(UWidget& root, std::size_t length)
 {
     put<SpellerMEG>(root)->setText(UString(std::string(length, 'a')));
@@ -121,6 +172,9 @@ const std::vector<Case>& cases()
         {"members of a conference", buildConference, {KeyDown}},
         {"dialog over a list", buildDialog, {KeyDown, KeyUp}},
         {"context menu over a list", buildMenu, {KeyDown}},
+        {"row that unfolds, of 10", [](UWidget& root) { buildExpandingList(root, 10); }, {KeyDown}},
+        {"row that unfolds, of 10,000", [](UWidget& root) { buildExpandingList(root, 10'000); }, {KeyDown}},
+        {"level of a tree", buildTree, {KeyDown}},
         {"text box of 10 paragraphs", [](UWidget& root) { buildTextBox(root, 10); }, {KeyDown, KeyDown, KeyUp, KeyUp}},
         {"text box of 10,000 paragraphs", [](UWidget& root) { buildTextBox(root, 10'000); },
             {KeyDown, KeyDown, KeyUp, KeyUp}},
