@@ -8,7 +8,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace DisplayAPI {
 
@@ -37,14 +36,6 @@ inline std::optional<CommandText> readCommand(const Living<Command>& command)
 inline std::optional<CommandText> readCommand(Command* command)
 {
     return readCommand(Living<Command>(command));
-}
-
-/// The text alone.
-inline std::optional<std::string> livingCommandText(Command* command)
-{
-    if (std::optional<CommandText> shown = readCommand(command))
-        return std::move(shown->text);
-    return std::nullopt;
 }
 
 }

@@ -1,3 +1,4 @@
+#include <DisplayAPI/Command.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 
 #include "DisplayPrivate.h"
@@ -52,9 +53,10 @@ void DisplayablePrivate::generateDisplayChangedEvent()
 
 void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 {
-    mCommandListeners.forEach([command, displayable](CommandListener* listener) {
-        // An overridden post may delete the screen; nobody shall be told of a dead one.
-        if (!displayable || displayableExists(displayable))
+    const Living<Command> posted(command);
+    mCommandListeners.forEach([&](CommandListener* listener) {
+        // An overridden post may delete screen and command; nobody shall be told of a dead one.
+        if ((posted || !command) && (!displayable || displayableExists(displayable)))
             listener->postCommandAction(command, displayable);
     });
 }

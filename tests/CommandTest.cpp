@@ -4,6 +4,7 @@
 
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/DisplayablePrivate.h>
 #include <DisplayAPI/Item.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListenerList.h>
@@ -358,6 +359,34 @@ TEST_F(QueueTest, AnotherListenerAtTheSameAddressIsANewOne)
     second->~Listener();
     listeners.addOnce(second);
     EXPECT_EQ(listeners.size(), 1U);
+}
+
+TEST_F(QueueTest, ACommandThatIsReplacedInAPostIsNotToldToTheNextListener)
+{
+    struct Half : DisplayablePrivate {
+        UWidget* getWidget() override { return nullptr; }
+        void releaseOwnership() override { }
+        void gainOwnership() override { }
+        void show() override { }
+        void lostFocus() override { }
+    };
+    struct Replacing : Listener {
+        using Listener::Listener;
+        void postCommandAction(Command* command, Displayable*) override
+        {
+            command->~Command();
+            new (command) Command("delete all", Command::Select);
+        }
+    };
+    alignas(Command) std::array<std::byte, sizeof(Command)> place;
+    auto* cancel = new (place.data()) Command("cancel", Command::Select);
+    Replacing replacing("replacing", story);
+    Half half;
+    half.addCommandListener(&replacing);
+    half.addCommandListener(&anna);
+    half.postCommand(cancel, nullptr);
+    EXPECT_EQ(deliver(), "");
+    cancel->~Command();
 }
 
 TEST_F(QueueTest, ACopyOfAListenerLives)
