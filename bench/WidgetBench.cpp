@@ -1,9 +1,12 @@
 #include "Benchmarks.h"
 #include "Phone.h"
+#include "Report.h"
 
 #include <ContextMenuMEG.h>
 #include <ExpandingListMEG.h>
 #include <PopupCallMEG.h>
+#include <PopupDialerMEG.h>
+#include <SearchableListMEG.h>
 #include <SpellerMEG.h>
 #include <TreeItemMEG.h>
 #include <TwoLineDisplay.h>
@@ -30,6 +33,7 @@ struct Case {
     const char* name;
     std::function<void(UWidget& root)> build;
     std::vector<int> keys;
+    double most = MostForAKey;
 };
 
 /// A font whose glyphs are all ink and no two alike, so that every cell is drawn.
@@ -163,6 +167,61 @@ void buildSpeller(UWidget& root, std::size_t length)
     put<SpellerMEG>(root)->setText(UString(std::string(length, 'a')));
 }
 
+void buildDialer(UWidget& root)
+{
+    auto* dialer = new PopupDialerMEG(nullptr, false);
+    root.addWidget(dialer);
+    dialer->setLine1PrefixText(text("Dial"));
+    addRows(*dialer->listBox, 3);
+    dialer->popupAsNotification();
+}
+
+SearchableListMEG* buildSearchList(UWidget& root, int rows)
+{
+    auto* list = put<SearchableListMEG>(root);
+    list->setTitle(text("Directory"));
+    addRows(*list->list(), rows);
+    return list;
+}
+
+/// An application that looks through all names at each change, and shows the first hundred of those that it finds.
+class Directory : public UWidget {
+public:
+    Directory(SearchableListMEG& list, int names)
+        : mList(list)
+    {
+        for (int name = 0; name < names; ++name)
+            mNames.push_back(std::string(1, static_cast<char>('A' + name % 26)) + "nna " + std::to_string(name));
+    }
+
+    void event(UEvent* event) override
+    {
+        constexpr int mostRows = 100;
+        if (event->type != EventType::SearchTextChanged)
+            return;
+        const std::string wanted = mList.getSearchText().toUTF8();
+        mList.list()->clear();
+        int found = 0;
+        for (const std::string& name : mNames) {
+            if (name.starts_with(wanted) && ++found <= mostRows)
+                mList.list()->addItem(new VantoListBoxItemMEG(text(name)));
+        }
+        mList.setSearchCountIndicator(found);
+    }
+
+private:
+    SearchableListMEG& mList;
+    std::vector<std::string> mNames;
+};
+
+void buildDirectory(UWidget& root, int names)
+{
+    SearchableListMEG* list = buildSearchList(root, 0);
+    auto* directory = new Directory(*list, names);
+    list->addWidget(directory);
+    list->setListener(directory);
+}
+
 const std::vector<Case>& cases()
 {
     using namespace UGlobal;
@@ -181,6 +240,12 @@ const std::vector<Case>& cases()
         {"typing into a speller", [](UWidget& root) { buildSpeller(root, 5); }, {'2', '3', KeyLeft, KeyLeft}},
         {"typing behind 10,000 characters", [](UWidget& root) { buildSpeller(root, 10'000); },
             {'2', '3', KeyLeft, KeyLeft}},
+        {"typing into a dialer", buildDialer, {'2', '3', KeyLeft, KeyLeft}},
+        {"search field over 10 rows", [](UWidget& root) { buildSearchList(root, 10); }, {'2', '3', KeyLeft, KeyLeft}},
+        {"search field over 10,000 rows", [](UWidget& root) { buildSearchList(root, 10'000); },
+            {'2', '3', KeyLeft, KeyLeft}},
+        {"search in 10,000 names, filtered", [](UWidget& root) { buildDirectory(root, 10'000); },
+            {'2', '3', KeyLeft, KeyLeft}, Report::NoLimit},
     };
     return all;
 }
@@ -223,6 +288,6 @@ void registerWidgetBenchmarks(const std::string& mode)
     constexpr long presses = 5000;
     for (const Case& measured : cases()) {
         const std::string name = std::string("key to frame, ") + measured.name;
-        registerRatio(mode, name, presses, MostForAKey, [&measured] { return pressKeys(measured, presses); });
+        registerRatio(mode, name, presses, measured.most, [&measured] { return pressKeys(measured, presses); });
     }
 }
