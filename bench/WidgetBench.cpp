@@ -4,6 +4,8 @@
 
 #include <ContextMenuMEG.h>
 #include <ExpandingListMEG.h>
+#include <FormItemMEG.h>
+#include <FormWidgetMEG.h>
 #include <PopupCallMEG.h>
 #include <PopupDialerMEG.h>
 #include <SearchableListMEG.h>
@@ -222,6 +224,17 @@ void buildDirectory(UWidget& root, int names)
     list->setListener(directory);
 }
 
+void buildForm(UWidget& root, int rows)
+{
+    auto* form = new FormWidgetMEG(FormWidgetMEG::FormProportionType(), true);
+    root.addWidget(form);
+    form->setCaption(text("Settings"));
+    for (int row = 0; row < rows; ++row) {
+        const std::string number = std::to_string(row);
+        form->appendRow(new FormItemMEG(text("Name " + number + ":"), text("Ann"), FormItemIfc::AnyText, false));
+    }
+}
+
 const std::vector<Case>& cases()
 {
     using namespace UGlobal;
@@ -234,6 +247,8 @@ const std::vector<Case>& cases()
         {"row that unfolds, of 10", [](UWidget& root) { buildExpandingList(root, 10); }, {KeyDown}},
         {"row that unfolds, of 10,000", [](UWidget& root) { buildExpandingList(root, 10'000); }, {KeyDown}},
         {"level of a tree", buildTree, {KeyDown}},
+        {"form of 10 rows", [](UWidget& root) { buildForm(root, 10); }, {KeyDown}},
+        {"form of 1,000 rows", [](UWidget& root) { buildForm(root, 1000); }, {KeyDown}},
         {"text box of 10 paragraphs", [](UWidget& root) { buildTextBox(root, 10); }, {KeyDown, KeyDown, KeyUp, KeyUp}},
         {"text box of 10,000 paragraphs", [](UWidget& root) { buildTextBox(root, 10'000); },
             {KeyDown, KeyDown, KeyUp, KeyUp}},
