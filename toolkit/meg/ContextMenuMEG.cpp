@@ -102,24 +102,20 @@ private:
 /// A command of a menu. On the menu's first line it leaves room for the status mark.
 class ContextMenuMEG::Row : public VantoListBoxItemMEG {
 public:
-    Row(ContextMenuMEG& menu, const UString& text, unsigned long handle)
-        : VantoListBoxItemMEG(text, static_cast<long>(handle))
-        , mMenu(&menu)
-    {
-    }
+    using VantoListBoxItemMEG::VantoListBoxItemMEG;
 
     void paintRow(UPainter& painter, int rowLine, int line, int column, int columns) const override
     {
-        const std::uint16_t mark = mMenu && line == mMenu->firstLine() ? mMenu->statusMark() : std::uint16_t{0};
+        // A row that was taken out may stand in any list.
+        const UWidget* list = parentWidget();
+        const auto* menu = dynamic_cast<const ContextMenuMEG*>(list ? list->parentWidget() : nullptr);
+        const std::uint16_t mark = menu && line == menu->firstLine() ? menu->statusMark() : std::uint16_t{0};
         if (mark != 0 && mark != icon()) {
             columns -= StatusColumns;
             painter.icon(line, column + columns + 1, mark);
         }
         VantoListBoxItemMEG::paintRow(painter, rowLine, line, column, columns);
     }
-
-private:
-    UPointer<ContextMenuMEG> mMenu; // a row that was taken out may outlive it
 };
 
 ContextMenuMEG::ContextMenuMEG(UWidget* parent, bool hasBackRow, long backHandle, const std::string& backText)
@@ -140,7 +136,7 @@ void ContextMenuMEG::addCommand(const std::string& text, unsigned long handle, b
 {
     if (!listBox)
         return;
-    auto* row = new Row(*this, UString::fromUTF8(text), handle);
+    auto* row = new Row(UString::fromUTF8(text), static_cast<long>(handle));
     row->setIcon(icon);
     listBox->addItem(row);
 }
