@@ -11,6 +11,15 @@ namespace DisplayAPI {
 
 std::atomic<unsigned int> HeldRows::refusedDeaths = 0;
 
+HeldRows::~HeldRows()
+{
+    endSteps();
+    for (const Entry& entry : mEntries) {
+        if (ListItem* row = entry.row.get())
+            setHolder(*row, nullptr);
+    }
+}
+
 ListItemPrivateIfc* HeldRows::halfOf(ListItem* row)
 {
     return ListItem::exists(row) ? row->getPrivateImplemetation() : nullptr;

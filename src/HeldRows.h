@@ -51,7 +51,9 @@ public:
     };
 
     HeldRows() = default;
-    virtual ~HeldRows() { endSteps(); }
+
+    /// Rows that are still here have no holder any more, and are their owner's to delete.
+    virtual ~HeldRows();
     HeldRows(const HeldRows&) = delete;
     HeldRows& operator=(const HeldRows&) = delete;
 
