@@ -108,15 +108,15 @@ private:
     void tellOwner(Command* command);
 
     Displayable* mOwner;
-    VantoListBoxWithTitleMEG* mWidget = nullptr; // null once a tree that owned it has deleted it
-    UPointer<UWidget> mFormerParent; // where the list stood when its last row was removed
+    VantoListBoxWithTitleMEG* mWidget; // null once a tree that owned it has deleted it
+    UPointer<UWidget> mFormerParent;   // where the list stood when its last row was removed
     bool mHasCaption = false;
     TranslationHolder mTitleInfo;
-    OwnershipDelegate<VantoListBoxWithTitleMEG> mOwnership{&mWidget};
     UPointer<PopupDialerPrivateIfc> mDialerPrivate;
     bool mDialerActive = false;
     bool mShowDialerOnKey = false;
     bool mHasBackItem = false;
+    OwnershipDelegate<VantoListBoxWithTitleMEG> mOwnership{&mWidget};
 };
 
 }

@@ -35,13 +35,11 @@ ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool flag)
 }
 
 ListItemPrivate::ListItemPrivate(ListItem::ListItemType type)
-    : mIsProgressRow(type == ListItem::InfiniteProgressItem)
+    : mWidget(
+        type == ListItem::InfiniteProgressItem ? new InfiniteBarItemMEG : new VantoListBoxItemMEG(UString(), 0, false))
+    , mIsProgressRow(type == ListItem::InfiniteProgressItem)
 {
     assertGuiThread();
-    if (mIsProgressRow)
-        mWidget = new InfiniteBarItemMEG;
-    else
-        mWidget = new VantoListBoxItemMEG(UString(), 0, false);
 }
 
 ListItemPrivate::~ListItemPrivate()

@@ -51,12 +51,12 @@ private:
     void showText(const std::string& text);
     void showRightText(const std::string& text);
 
-    VantoListBoxItemMEG* mWidget = nullptr; // null once a list that held the row has deleted it
+    VantoListBoxItemMEG* mWidget; // null once a list that held the row has deleted it
     TranslationHolder mTextInfo;
     TranslationHolder mRightTextInfo;
-    OwnershipDelegate<VantoListBoxItemMEG> mOwnership{&mWidget};
     bool mIsProgressRow = false;
     std::atomic<Icons::IconType> mLeftIcon = {};
+    OwnershipDelegate<VantoListBoxItemMEG> mOwnership{&mWidget};
 };
 
 }
