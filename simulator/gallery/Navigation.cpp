@@ -6,6 +6,7 @@
 #include <TwoLineDisplay.h>
 #include <VantoListBoxMEG.h>
 #include <VantoListBoxWithTitleMEG.h>
+#include <VantoTextBoxMEG.h>
 
 namespace {
 
@@ -55,6 +56,29 @@ const Exhibit tab("tab", "shot content", [](Stage& stage) {
         row->setArrow(true);
         content->list()->addItem(row);
     }
+    tabs->setCurrent(content);
+});
+
+const Exhibit tabOfText("tab-text", R"(
+    shot first
+    press DOWN
+    shot second
+)",
+    [](Stage& stage) {
+        auto* tabs = stage.add<TabScreenMEG>();
+        tabs->setTitle(text("Help"));
+        auto* content = new VantoTextBoxMEG;
+        content->setText(text("Press OK to start the call. Left goes back."), false);
+        tabs->setCurrent(content);
+    });
+
+const Exhibit tabOfTree("tab-tree", "shot row", [](Stage& stage) {
+    auto* tabs = stage.add<TabScreenMEG>();
+    tabs->setTitle(text("Settings"));
+    auto* content = new TwoLineDisplay;
+    content->addText(0, text("Menu:"));
+    content->addIcon(1, Branch);
+    content->addText(1, text("Ringer"));
     tabs->setCurrent(content);
 });
 
