@@ -212,6 +212,16 @@ TEST_F(TextEntryTest, ASpellersMenuEditsCopiesAndPastesWithoutShowingASecret)
     EXPECT_EQ(line(0).substr(0, 5), "****_");
     EXPECT_EQ(speller->listBox()->getItemByHandle(SpellerMEG::Copy), nullptr);
 
+    speller->getEditBox()->setNumberInput(true);
+    speller->setCallRows(true);
+    speller->setText(text("0049"));
+    speller->setClipboard(text("(0)89 P12#K"));
+    choose(*speller, SpellerMEG::Pause);
+    choose(*speller, SpellerMEG::Paste);
+    EXPECT_EQ(speller->getText().toUTF8(), "0049P089P12#K");
+    speller->getEditBox()->setNumberInput(false);
+    speller->setText(text("Anna"));
+
     // Texts of any size and kind go in and out; what is shown keeps to its place.
     std::string huge(1 << 20, 'x');
     huge.replace(500000, 9, std::string("\0\xF0\x9D\x84\x9E\n\xED\xA0\x80", 9));

@@ -38,6 +38,12 @@ const RowText rowTexts[] = {
     {&SpellerMEG::msCancel, "Speller.menu.Cancel", "Cancel?"},
 };
 
+UString dialSteps()
+{
+    return UString(std::string(
+        {SpellerMEG::PauseStep, SpellerMEG::NormalCallStep, SpellerMEG::ConsultationStep, SpellerMEG::ClearCallStep}));
+}
+
 /// A row of the menu. It asks for its text each time, so that it follows the locale.
 class MenuRow : public VantoListBoxItemMEG {
 public:
@@ -214,7 +220,7 @@ void SpellerMEG::choose(long row)
         setClipboard(getText());
         emit(EventType::SpellerCopied, this);
         return;
-    case Paste: mEdit->paste(mClipboard); break;
+    case Paste: mEdit->paste(mClipboard, mHasCallRows ? dialSteps() : UString()); break;
     case Delete: mEdit->deleteCharacter(); break;
     case NormalCall: insert(NormalCallStep); break;
     case Pause: insert(PauseStep); break;

@@ -55,11 +55,12 @@ UString cleaned(const UString& text)
     return clean;
 }
 
-UString onlyDialled(const UString& text)
+UString onlyDialled(const UString& text, const UString& alsoDialled)
 {
     UString number;
     for (std::size_t index = 0; index < text.length(); ++index) {
-        if (UGlobal::isDialKey(text[index]) || text[index] == '+')
+        const bool isStep = alsoDialled.find(text.mid(index, 1)) >= 0;
+        if (isStep || UGlobal::isDialKey(text[index]) || text[index] == '+')
             number.append(text[index]);
     }
     return number;
@@ -112,9 +113,9 @@ bool VantoTextEditMEG::insert(const UString& text)
     return true;
 }
 
-bool VantoTextEditMEG::paste(const UString& text)
+bool VantoTextEditMEG::paste(const UString& text, const UString& alsoDialled)
 {
-    return insert(mIsNumberInput ? onlyDialled(text) : text);
+    return insert(mIsNumberInput ? onlyDialled(text, alsoDialled) : text);
 }
 
 bool VantoTextEditMEG::deleteCharacter()

@@ -60,8 +60,8 @@ public:
     /// the text has changed.
     bool insert(const UString& text);
 
-    /// The same for a text from a clipboard: with number input only what can be dialled goes in.
-    bool paste(const UString& text);
+    /// The same for a text from a clipboard: with number input only what can be dialled goes in, and `alsoDialled`.
+    bool paste(const UString& text, const UString& alsoDialled = UString());
 
     /// Deletes the character before the cursor. Returns whether there was one.
     bool deleteCharacter();
