@@ -11,7 +11,7 @@ Gate::Gate(std::uint32_t count, std::uint32_t maximum)
 {
 }
 
-bool Gate::pass(int milliseconds)
+Gate::End Gate::passWithin(int milliseconds)
 {
     disturb();
     std::unique_lock lock(mMutex);
@@ -24,13 +24,13 @@ bool Gate::pass(int milliseconds)
         isInTime = mChanged.wait_for(lock, std::chrono::milliseconds(milliseconds), isOpen);
     --mSleepers;
     if (!isInTime)
-        return false;
+        return End::TimeUp;
     if (mCount == 0) {
         mAbandoned = false;
-        return false;
+        return End::Abandoned;
     }
     --mCount;
-    return true;
+    return End::Passed;
 }
 
 // Both notify under the mutex: the waiter may destroy the gate as soon as it gets the mutex.
@@ -89,7 +89,7 @@ Gate::Gate(std::uint32_t count, std::uint32_t maximum)
 {
 }
 
-bool Gate::passSlowly(int milliseconds)
+Gate::End Gate::passSlowly(int milliseconds)
 {
     timespec deadline = {};
     if (milliseconds >= 0)
@@ -100,15 +100,15 @@ bool Gate::passSlowly(int milliseconds)
         if (word & CountMask) {
             if (mWord.compare_exchange_weak(
                     word, word - OneSleeper - 1, std::memory_order_acquire, std::memory_order_relaxed))
-                return true;
+                return End::Passed;
         } else if (word & Abandoned) {
             if (mWord.compare_exchange_weak(
                     word, word - OneSleeper - Abandoned, std::memory_order_acquire, std::memory_order_relaxed))
-                return false;
+                return End::Abandoned;
         } else if (!isTimeLeft) {
             if (mWord.compare_exchange_weak(
                     word, word - OneSleeper, std::memory_order_relaxed, std::memory_order_relaxed))
-                return false;
+                return End::TimeUp;
         } else {
             isTimeLeft = sleepOn(&mWord, word, milliseconds >= 0 ? &deadline : nullptr);
             word = mWord.load(std::memory_order_relaxed);

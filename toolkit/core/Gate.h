@@ -28,9 +28,19 @@ public:
     Gate(const Gate&) = delete;
     Gate& operator=(const Gate&) = delete;
 
-    /// Takes one count, and sleeps until there is one. Returns false after abandon(), or when `milliseconds`
-    /// have passed; a negative number means without limit.
-    bool pass(int milliseconds = -1);
+    /// How a wait ended.
+    enum class End {
+        Passed,
+        Abandoned,
+        TimeUp,
+    };
+
+    /// Takes one count, and sleeps until there is one, until abandon(), or until `milliseconds` have passed; a
+    /// negative number means without limit.
+    End passWithin(int milliseconds);
+
+    /// The same; true if it has passed.
+    bool pass(int milliseconds = -1) { return passWithin(milliseconds) == End::Passed; }
 
     /// Adds a count, unless the maximum is reached, and wakes one sleeper if there is any.
     void open();
@@ -52,7 +62,7 @@ private:
     static constexpr std::uint32_t Abandoned = 0x8000;
     static constexpr std::uint32_t OneSleeper = 0x10000;
 
-    bool passSlowly(int milliseconds);
+    End passSlowly(int milliseconds);
     static void wakeOne(std::atomic<std::uint32_t>* word);
 
     // Bits 0 to 14 count, bit 15 is the abandonment, the bits above count the sleepers.
@@ -62,13 +72,13 @@ private:
 
 #if !TOOLKIT_PORTABLE_GATE
 
-inline bool Gate::pass(int milliseconds)
+inline Gate::End Gate::passWithin(int milliseconds)
 {
     disturb();
     std::uint32_t word = mWord.load(std::memory_order_relaxed);
     while (word & CountMask) {
         if (mWord.compare_exchange_weak(word, word - 1, std::memory_order_acquire, std::memory_order_relaxed))
-            return true;
+            return End::Passed;
     }
     return passSlowly(milliseconds);
 }

@@ -25,6 +25,9 @@ public:
     /// wait was abandoned.
     bool take(int milliseconds = -1) { return mReentrant ? takeAsOwner(milliseconds) : mGate.pass(milliseconds); }
 
+    /// Takes a plain one, and tells how the wait ended.
+    Gate::End takeWithin(int milliseconds) { return mGate.passWithin(milliseconds); }
+
     /// Gives it back; never above the maximum.
     void give()
     {
@@ -67,6 +70,9 @@ class TOOLKIT_EXPORT Wait {
 public:
     /// Waits for release(). False if the answer will never come.
     bool wait() { return mGate.pass(); }
+
+    /// Waits so long at most, and tells how that ended.
+    Gate::End waitWithin(int milliseconds) { return mGate.passWithin(milliseconds); }
 
     void release() { mGate.open(); }
     void abandon() { mGate.abandon(); }
