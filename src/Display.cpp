@@ -3,6 +3,7 @@
 #include <DisplayAPI/DisplayRequestEvent.h>
 #include <DisplayAPI/Widget.h>
 
+#include "AnswerWait.h"
 #include "DisplayPrivate.h"
 #include "LivingSet.h"
 #include "PostToApplication.h"
@@ -119,10 +120,11 @@ void Display::init(DisplayPrivateIfc* displayPrivate)
 
 bool Display::postEvent(DisplayRequestEvent* event)
 {
+    const WaitingRequest waiting("Display", event->getType());
     Semaphore completion(Semaphore::NOT_AVAILABLE, 1);
     event->setSemaphore(&completion);
     postToApplication(event);
-    return completion.take(-1);
+    return awaitAnswer(completion, waiting);
 }
 
 // Screens

@@ -26,7 +26,7 @@ constexpr const char* LogModule = "DisplayAPI::DisplayPrivate";
 constexpr int FaultLevel = 2;
 
 // There is one loop for the process, whatever displays there are.
-std::atomic<bool> isLoopRunning = false;
+std::atomic<bool> gIsLoopRunning = false;
 
 void refuseLoop(const char* reason, int line)
 {
@@ -215,7 +215,7 @@ void DisplayPrivate::exec()
         refuseLoop("this is not the GUI thread", __LINE__);
         return;
     }
-    if (isLoopRunning.exchange(true)) {
+    if (gIsLoopRunning.exchange(true)) {
         refuseLoop("the loop runs already", __LINE__);
         return;
     }
@@ -224,7 +224,7 @@ void DisplayPrivate::exec()
         ~End()
         {
             CommandExecutor::closeDeliveries();
-            isLoopRunning = false;
+            gIsLoopRunning = false;
         }
     };
     const End end;
@@ -236,6 +236,11 @@ void DisplayPrivate::exec()
     // An event may have deleted the display, which ends the loop.
     if (self)
         mExecFinished = true;
+}
+
+bool DisplayPrivate::isLoopRunning()
+{
+    return gIsLoopRunning;
 }
 
 void DisplayPrivate::shutdown()

@@ -1,6 +1,7 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/Widget.h>
 
+#include "AnswerWait.h"
 #include "PostToApplication.h"
 #include "WidgetImpl.h"
 
@@ -44,6 +45,7 @@ void Widget::postEvent(GuiRequestEvent* event) const
     // Behind the wait for the lock the handle itself may have gone: nothing of it is read from there on.
     if (!event)
         event = requestWithoutArguments(-1);
+    const WaitingRequest waiting(mName, event->getType());
     WidgetImpl& impl = *mImpl;
     const WidgetImpl::User user(impl);
     impl.lock.take(-1);
@@ -51,13 +53,13 @@ void Widget::postEvent(GuiRequestEvent* event) const
     if (Wait* callersWait = event->waitCondition()) {
         postToApplication(event);
         impl.lock.give();
-        callersWait->wait();
+        awaitAnswer(*callersWait, waiting);
         return;
     }
     Wait wait;
     event->setWaitCondition(&wait);
     postToApplication(event);
-    wait.wait();
+    awaitAnswer(wait, waiting);
     impl.lock.give();
 }
 

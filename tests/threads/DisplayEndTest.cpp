@@ -1,3 +1,4 @@
+#include "AnswerWait.h"
 #include "Disturbance.h"
 #include "RecordingListener.h"
 #include "TestTranslator.h"
@@ -17,6 +18,7 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -35,18 +37,33 @@ public:
     FaultLog()
     {
         LogControl::setLevel("*", 2);
-        LogControl::setSink([](const LogControl::Message& message) { texts().push_back(message.text); });
+        LogControl::setSink([](const LogControl::Message& message) {
+            const std::lock_guard lock(gMutex);
+            gTexts.push_back(message.text);
+        });
     }
     ~FaultLog()
     {
         LogControl::reset();
-        texts().clear();
+        gTexts.clear();
     }
-    static std::vector<std::string>& texts()
+    static std::vector<std::string> texts()
     {
-        static std::vector<std::string> all;
-        return all;
+        const std::lock_guard lock(gMutex);
+        return gTexts;
     }
+
+    /// Returns when so many lines have come.
+    static std::vector<std::string> await(std::size_t count)
+    {
+        while (texts().size() < count)
+            std::this_thread::yield();
+        return texts();
+    }
+
+private:
+    static inline std::mutex gMutex;
+    static inline std::vector<std::string> gTexts;
 };
 
 /// A function that runs inside the loop.
@@ -138,6 +155,34 @@ TEST_F(DisplayEndTest, AnExceptionOfTheSubscriberIsLoggedAndComesOutOfExec)
     EXPECT_EQ(log.texts(),
         (std::vector<std::string>{"The notice of screen \"List\" was left by an exception: no reader.",
             "Request 1 of the display was left by an exception: no reader."}));
+}
+
+TEST_F(DisplayEndTest, WhoGetsNoAnswerSaysWhatItWaitsForAndGoesOnWaiting)
+{
+    const FaultLog log;
+    const int patience = answerPatience.exchange(1);
+    List list(0);
+    list.append("row");
+    int answer = 0;
+    std::thread early([&] { display->setCurrent(&list); });
+    log.await(1);
+    std::thread late;
+    insideLoop([&] {
+        late = std::thread([&] {
+            answer = list.size();
+            display->shutdown();
+        });
+        log.await(2);
+        answerPatience = patience;
+    });
+    display->exec();
+    early.join();
+    late.join();
+    EXPECT_EQ(log.texts(),
+        (std::vector<std::string>{
+            "Request 2 of a Display waits for the GUI thread, which runs no loop. Does that thread wait for this one?",
+            "Request 20 of a List waits for the GUI thread, whose loop is busy. Does that thread wait for this one?"}));
+    EXPECT_EQ(answer, 1);
 }
 
 using KeptHalfTest = ThreadedPhoneTest;
