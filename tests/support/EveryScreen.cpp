@@ -13,29 +13,12 @@
 
 using namespace DisplayAPI;
 
-/// A row whose death the stage sees.
-class Stage::Row : public ListItem {
-public:
-    Row(Stage& stage, const std::string& text)
-        : ListItem(text, true)
-        , mStage(stage)
-    {
-        mStage.mLiving.insert(this);
-    }
-    ~Row() override
-    {
-        mStage.mLiving.erase(this);
-        mStage.mDead.insert(this);
-    }
-
-private:
-    Stage& mStage;
-};
-
 Stage::~Stage()
 {
-    while (!mLiving.empty())
-        delete *mLiving.begin();
+    for (ListItem* row : ListItem::all()) {
+        if (!row->holder())
+            delete row;
+    }
 }
 
 void Stage::press(int key)
@@ -55,19 +38,13 @@ void Stage::advance(std::uint64_t milliseconds)
 
 ListItem* Stage::newRow(const std::string& text)
 {
-    // An application's own class is made on the GUI thread only.
-    const bool isOnGui = Widget::isGuiThread();
-    ListItem* row = isOnGui ? new Row(*this, text) : new ListItem(text, true);
-    mDead.erase(row);
-    if (!hasLoop && !isOnGui)
-        mRefused.emplace_back(row);
-    return row;
+    return new ListItem(text, true);
 }
 
 void Stage::takeBack(ListItem* row)
 {
     const bool isRefused = !hasLoop && !Widget::isGuiThread();
-    if (row && !isRefused && lives(row))
+    if (!isRefused && ListItem::exists(row))
         delete row;
 }
 

@@ -14,7 +14,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -41,9 +40,6 @@ public:
     /// A row for a list. What no list has taken, the stage deletes at its end.
     DisplayAPI::ListItem* newRow(const std::string& text);
 
-    /// False when a row has died that was made on the GUI thread.
-    bool lives(DisplayAPI::ListItem* row) const { return !mDead.contains(row); }
-
     /// Deletes a row that a list has given back, unless it has died since, or was not given back since there is no
     /// loop.
     void takeBack(DisplayAPI::ListItem* row);
@@ -55,13 +51,6 @@ public:
     DisplayAPI::MenuCommand last{"Last?", 4};
     TestTranslator translator;
     bool hasLoop = true;
-
-private:
-    class Row;
-
-    std::set<DisplayAPI::ListItem*> mLiving; // of those made on the GUI thread
-    std::set<DisplayAPI::ListItem*> mDead;
-    std::vector<std::unique_ptr<DisplayAPI::ListItem>> mRefused; // made behind the loop's end
 };
 
 /// A change that can be seen: it gives a notice, unless it says otherwise.
