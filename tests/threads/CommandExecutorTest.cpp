@@ -1,7 +1,7 @@
 #include "CommandExecutor.h"
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
-#include "Disturb.h"
+#include "Disturbance.h"
 #include "Log.h"
 #include "Semaphore.h"
 #include "Threadable.h"
@@ -30,20 +30,6 @@
 using namespace DisplayAPI;
 
 namespace {
-
-/// Runs a scenario plainly, and with many seeds that shift the order of its threads.
-void withSeeds(const std::function<void()>& scenario)
-{
-    constexpr std::uint64_t seeds = 200;
-    for (std::uint64_t seed = 0; seed <= seeds; ++seed) {
-        SCOPED_TRACE("seed " + std::to_string(seed));
-        setDisturbanceSeed(seed);
-        scenario();
-        if (testing::Test::HasFailure())
-            break;
-    }
-    setDisturbanceSeed(0);
-}
 
 /// Records what it is told; only workers write, and the test reads behind waitFor().
 class Recorder : public CommandListener, public ItemStateListener {
@@ -113,7 +99,7 @@ TEST(CommandExecutorTest, EachThreadsCommandsComeInItsOrderAndOneByOne)
     Command ofFirst("first", Command::Select);
     Command ofSecond("second", Command::Select);
     Command last("last", Command::Select);
-    withSeeds([&] {
+    underDisturbance([&] {
         Recorder recorder(4 * perThread);
         auto postMany = [&recorder](Command& own, Command& other) {
             for (int i = 0; i < perThread; ++i) {
@@ -142,7 +128,7 @@ TEST(CommandExecutorTest, WhatComesDuringASlowDeliveryFollowsOnTheSameWorker)
     std::array<std::unique_ptr<Command>, 12> commands;
     for (auto& command : commands)
         command = std::make_unique<Command>("", Command::Select);
-    withSeeds([&] {
+    underDisturbance([&] {
         Recorder recorder(commands.size());
         Blocker slow;
         slow.block();
@@ -174,7 +160,7 @@ TEST(CommandExecutorTest, WhatComesDuringASlowDeliveryFollowsOnTheSameWorker)
 TEST(CommandExecutorTest, ASleepingWorkerIsWokenEachTime)
 {
     Command command("", Command::Select);
-    withSeeds([&command] {
+    underDisturbance([&command] {
         for (int i = 0; i < 5; ++i) {
             Recorder recorder(1);
             recorder.postCommandAction(&command, nullptr);
@@ -201,7 +187,7 @@ TEST(CommandExecutorTest, AListenerThatPostsIsToldNextOnTheSameWorker)
         Semaphore done{Semaphore::NOT_AVAILABLE};
     };
     Command command("", Command::Select);
-    withSeeds([&command] {
+    underDisturbance([&command] {
         Chain chain;
         chain.postCommandAction(&command, nullptr);
         chain.done.take();
@@ -211,7 +197,7 @@ TEST(CommandExecutorTest, AListenerThatPostsIsToldNextOnTheSameWorker)
 
 TEST(CommandExecutorTest, ChangesThatWaitAreMerged)
 {
-    withSeeds([] {
+    underDisturbance([] {
         Recorder recorder(8);
         Blocker slow;
         slow.block();
@@ -244,7 +230,7 @@ TEST(CommandExecutorTest, AListenerThatDiesWhileDeliveriesWaitIsNotCalled)
         std::atomic<int>& mCalls;
     };
     Command command("", Command::Select);
-    withSeeds([&command] {
+    underDisturbance([&command] {
         std::atomic<int> calls = 0;
         Recorder survivor(10);
         Blocker slow;
@@ -268,7 +254,7 @@ TEST(CommandExecutorTest, AListenerThatDiesWhileDeliveriesWaitIsNotCalled)
 
 TEST(CommandExecutorTest, CommandsMayDieWhileOthersAreDelivered)
 {
-    withSeeds([] {
+    underDisturbance([] {
         constexpr int rounds = 10;
         Command lasting("", Command::Select);
         Recorder recorder(rounds);
@@ -293,7 +279,7 @@ TEST(CommandExecutorTest, CommandsMayDieWhileOthersAreDelivered)
 TEST(CommandExecutorTest, TheEndRecallsWhatWaitsAndAwaitsWhatHasBegun)
 {
     Command command("", Command::Select);
-    withSeeds([&command] {
+    underDisturbance([&command] {
         Recorder recorder(2);
         std::atomic<bool> isClosed = false;
         Blocker slow;
@@ -387,7 +373,7 @@ TEST(CommandExecutorTest, WhatWasQueuedWithoutAStartGoesWithTheNextOne)
 {
     Command early("", Command::Select);
     Command late("", Command::Select);
-    withSeeds([&] {
+    underDisturbance([&] {
         Recorder recorder(2);
         CommandExecutor::postCommand(&recorder, &early, nullptr, false);
         recorder.postCommandAction(&late, nullptr);

@@ -1,6 +1,6 @@
 #include "DisplayThreadPool.h"
 #include "DisplayThread.h"
-#include "Disturb.h"
+#include "Disturbance.h"
 #include "Runnable.h"
 #include "Semaphore.h"
 
@@ -8,7 +8,6 @@
 
 #include <array>
 #include <atomic>
-#include <cstdint>
 #include <functional>
 #include <latch>
 #include <memory>
@@ -114,8 +113,7 @@ TEST(DisplayThreadPoolTest, ThreadsThatAreFreeAreUsedInTurn)
 
 TEST(DisplayThreadPoolTest, NoThreadIsGivenToTwo)
 {
-    for (std::uint64_t seed = 0; seed <= 200; ++seed) {
-        setDisturbanceSeed(seed);
+    underDisturbance([] {
         const PoolPointer pool = poolOf(3);
         std::latch allDone(16);
         std::array<std::atomic<int>, 16> ran{};
@@ -133,16 +131,14 @@ TEST(DisplayThreadPoolTest, NoThreadIsGivenToTwo)
         }
         allDone.wait();
         for (const auto& count : ran)
-            EXPECT_EQ(count, 1) << "seed " << seed;
+            EXPECT_EQ(count, 1);
         EXPECT_LE(pool->poolSize(), 3);
-    }
-    setDisturbanceSeed(0);
+    });
 }
 
 TEST(DisplayThreadPoolTest, ADyingPoolLetsItsThreadsFinishTheirJobs)
 {
-    for (std::uint64_t seed = 0; seed <= 200; ++seed) {
-        setDisturbanceSeed(seed);
+    underDisturbance([] {
         std::atomic<int> ran = 0;
         {
             std::latch allBegun(4);
@@ -156,9 +152,8 @@ TEST(DisplayThreadPoolTest, ADyingPoolLetsItsThreadsFinishTheirJobs)
             }
             allBegun.wait();
         }
-        EXPECT_EQ(ran, 4) << "seed " << seed;
-    }
-    setDisturbanceSeed(0);
+        EXPECT_EQ(ran, 4);
+    });
 }
 
 TEST(DisplayThreadPoolTest, AJobMayDeleteThePoolThatRunsIt)
@@ -177,8 +172,7 @@ TEST(DisplayThreadPoolTest, AJobMayDeleteThePoolThatRunsIt)
 TEST(DisplayThreadTest, AThreadOutsideOfThePoolEndsAndDeletesItselfBehindItsJob)
 {
     Threader threader;
-    for (std::uint64_t seed = 0; seed <= 200; ++seed) {
-        setDisturbanceSeed(seed);
+    underDisturbance([&threader] {
         std::latch gone(1);
         bool ran = false;
         auto* thread = new WatchedThread(false, gone);
@@ -187,15 +181,13 @@ TEST(DisplayThreadTest, AThreadOutsideOfThePoolEndsAndDeletesItselfBehindItsJob)
         thread->executeRequest(new Job([&ran] { ran = true; }));
         gone.wait();
         EXPECT_TRUE(ran);
-    }
-    setDisturbanceSeed(0);
+    });
 }
 
 TEST(DisplayThreadTest, WhoeverEndsAThreadDeletesItBehindItsJob)
 {
     Threader threader;
-    for (std::uint64_t seed = 0; seed <= 200; ++seed) {
-        setDisturbanceSeed(seed);
+    underDisturbance([&threader] {
         std::latch gone(1);
         std::latch begun(1);
         Semaphore mayEnd(Semaphore::NOT_AVAILABLE);
@@ -212,8 +204,7 @@ TEST(DisplayThreadTest, WhoeverEndsAThreadDeletesItBehindItsJob)
         thread->destroyThread();
         EXPECT_TRUE(ran);
         EXPECT_FALSE(gone.try_wait());
-    }
-    setDisturbanceSeed(0);
+    });
 }
 
 TEST(DisplayThreadTest, AThreadThatEndsItselfInItsJobDeletesItself)
@@ -232,8 +223,7 @@ TEST(DisplayThreadTest, AThreadThatEndsItselfInItsJobDeletesItself)
 TEST(DisplayThreadTest, AJobThatComesDuringAnotherOneIsKept)
 {
     Threader threader;
-    for (std::uint64_t seed = 0; seed <= 200; ++seed) {
-        setDisturbanceSeed(seed);
+    underDisturbance([&threader] {
         DisplayThread thread(true);
         ASSERT_TRUE(threader.start(&thread, "", 1, 0));
         std::latch begun(1);
@@ -248,8 +238,7 @@ TEST(DisplayThreadTest, AJobThatComesDuringAnotherOneIsKept)
         mayEnd.count_down();
         done.wait();
         thread.destroyThread();
-    }
-    setDisturbanceSeed(0);
+    });
 }
 
 TEST(DisplayThreadTest, AJobThatNeverRanIsDeletedWithItsThread)

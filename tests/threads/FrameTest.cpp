@@ -411,21 +411,6 @@ TEST(FrameEndTest, TheEndOfTheLoopLetsEveryCallerGo)
     });
 }
 
-TEST(FrameEndTest, AHandleWorksUnderTheNextDisplayToo)
-{
-    std::unique_ptr<Journal> journal;
-    for (int round = 1; round <= 3; ++round) {
-        Telephone phone;
-        if (!journal)
-            journal = std::make_unique<Journal>();
-        journal->add(round);
-        EXPECT_EQ(journal->text(), std::string("1 2 3 ").substr(0, static_cast<std::size_t>(2 * round)));
-        EXPECT_NE(phone.display->getDisplayedRects(), nullptr);
-        if (round == 3)
-            journal.reset();
-    }
-}
-
 TEST_F(FrameTest, EachReaderGetsAWholeText)
 {
     Screens screens(*this);

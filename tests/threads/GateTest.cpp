@@ -145,16 +145,6 @@ TEST(GateTest, AWaiterMayDestroyItsGateAsSoonAsItIsAwake)
     });
 }
 
-TEST(WaitTest, AReleaseBeforeTheWaitIsKeptAndTwoMerge)
-{
-    Wait wait;
-    wait.release();
-    wait.release();
-    EXPECT_TRUE(wait.wait());
-    wait.abandon();
-    EXPECT_FALSE(wait.wait()) << "the second release was one with the first";
-}
-
 TEST(SemaphoreTest, AsALockItLetsOneThreadInAtATime)
 {
     for (const bool reentrant : {false, true}) {
@@ -203,14 +193,4 @@ TEST(SemaphoreTest, OnlyAReentrantOneKnowsItsThread)
     plain.give();
     EXPECT_TRUE(plain.take(0));
     EXPECT_FALSE(plain.take(0)) << "never above the maximum";
-}
-
-TEST(SemaphoreTest, AnAbandonedTakeFailsAndTakesNothing)
-{
-    Semaphore semaphore(Semaphore::NOT_AVAILABLE);
-    auto waiter = std::async(std::launch::async, [&] { return semaphore.take(-1); });
-    semaphore.abandon();
-    EXPECT_FALSE(waiter.get());
-    semaphore.give();
-    EXPECT_TRUE(semaphore.take(0));
 }

@@ -1,11 +1,10 @@
 #include "Threadable.h"
-#include "Disturb.h"
+#include "Disturbance.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <atomic>
-#include <fstream>
 #include <functional>
 #include <future>
 #include <memory>
@@ -42,18 +41,6 @@ std::string currentThreadName()
     std::array<char, 32> name{};
     pthread_getname_np(pthread_self(), name.data(), name.size());
     return name.data();
-}
-
-/// Whether the kernel has put a task of this process to sleep.
-bool isAsleep(pid_t task)
-{
-    std::ifstream file("/proc/self/task/" + std::to_string(task) + "/status");
-    std::string line;
-    while (std::getline(file, line)) {
-        if (line.starts_with("State:"))
-            return line.find('S', 6) != std::string::npos;
-    }
-    return false;
 }
 
 }
@@ -95,8 +82,7 @@ TEST(ThreadableTest, NoTwoThreadsHaveOneId)
 
 TEST(ThreadableTest, WaitingEndsForEveryWaiterAfterRun)
 {
-    for (int round = 0; round < 50; ++round) {
-        setDisturbanceSeed(static_cast<std::uint64_t>(round));
+    underDisturbance([] {
         Threader threader;
         std::atomic<bool> isDone = false;
         Job job([&] { isDone = true; });
@@ -110,8 +96,7 @@ TEST(ThreadableTest, WaitingEndsForEveryWaiterAfterRun)
         EXPECT_TRUE(wait());
         EXPECT_TRUE(first.get());
         EXPECT_TRUE(second.get());
-    }
-    setDisturbanceSeed(0);
+    });
 }
 
 TEST(ThreadableTest, AJobMayDetachItsThreadWhileAnotherWaits)
@@ -131,8 +116,7 @@ TEST(ThreadableTest, AJobMayDetachItsThreadWhileAnotherWaits)
 TEST(ThreadableTest, AJobMayDeleteItselfAtOnce)
 {
     Threader threader;
-    for (int round = 0; round < 50; ++round) {
-        setDisturbanceSeed(static_cast<std::uint64_t>(round));
+    underDisturbance([&threader] {
         std::promise<void> deleted;
         Job* job = nullptr;
         std::promise<void> known;
@@ -144,8 +128,7 @@ TEST(ThreadableTest, AJobMayDeleteItselfAtOnce)
         known.set_value();
         ASSERT_TRUE(threader.start(job, "", 1, 0));
         deleted.get_future().wait();
-    }
-    setDisturbanceSeed(0);
+    });
 }
 
 TEST(ThreadableTest, AJobMayDeleteItselfUnderItsWaiter)
@@ -163,7 +146,7 @@ TEST(ThreadableTest, AJobMayDeleteItselfUnderItsWaiter)
         waiterTask = gettid();
         job->waitForThreadCompletion();
     });
-    while (waiterTask == 0 || !isAsleep(waiterTask))
+    while (waiterTask == 0 || !isAtRest(waiterTask))
         std::this_thread::yield();
     go.set_value();
     waiter.get();
