@@ -85,8 +85,8 @@ TEST_F(CallRowsTest, ALineShowsItsNameAndItsIdentity)
 TEST_F(CallRowsTest, ACallBackShowsItsStateWhoAndWhen)
 {
     const auto add = [this](CallBackListItemMEG::CallBackState state, const char* date) {
-        auto* row = new CallBackListItemMEG(text("Bob"), CallBackListItemMEG::Busy, state,
-            static_cast<CallBackListItemMEG::IconType>(4), text(date));
+        auto* row = new CallBackListItemMEG(
+            text("Bob"), CallBackListItemMEG::Busy, state, static_cast<CallBackListItemMEG::IconType>(4), text(date));
         list.addItem(row);
         return row;
     };

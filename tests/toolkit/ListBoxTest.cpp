@@ -264,18 +264,6 @@ TEST_F(ListBoxTest, AListMayDieWhileItsListenerLooksAtAKey)
     EXPECT_TRUE(agent.entries.empty());
 }
 
-TEST_F(ListBoxTest, RowsMayDieBeforeAndAfterTheirList)
-{
-    auto rows = addRows(list, {"a", "b", "c"});
-    std::unique_ptr<VantoListBoxItemMEG> kept(rows[1]);
-    list.removeItem(rows[1]);
-    delete rows[0];
-    UPointer<VantoListBoxItemMEG> owned(rows[2]);
-    delete widget;
-    EXPECT_FALSE(owned) << "a list deletes the rows that it holds";
-    EXPECT_EQ(kept->getText(), text("b"));
-}
-
 // Screen text
 
 TEST_F(ListBoxTest, SetTextsAreUsedUpByTheNextScreenText)

@@ -1,17 +1,14 @@
 #include "ContextMenuMEG.h"
 #include "EventTypes.h"
 #include "GlassTest.h"
-#include "PopupCallMEG.h"
 #include "PopupProgressActualMEG.h"
 #include "TabScreenMEG.h"
 #include "VantoListBoxItemMEG.h"
 #include "VantoListBoxMEG.h"
 #include "VantoListBoxWithTitleMEG.h"
 
-#include <algorithm>
 #include <climits>
 #include <memory>
-#include <random>
 
 namespace {
 
@@ -70,53 +67,6 @@ TEST_F(MenuTest, TheBackRowStandsLastWhateverComesAndGoes)
 }
 
 // Focus and painting
-
-TEST_F(MenuTest, TheFocusFollowsWhatIsUpInEveryOrder)
-{
-    std::mt19937 random(7);
-    const auto roll = [&random](int end) { return std::uniform_int_distribution(0, end - 1)(random); };
-    std::vector<std::unique_ptr<RaisedWidget>> widgets(4);
-    std::vector<RaisedWidget*> up; // the last has the focus
-    for (int count = 0; count < 5000; ++count) {
-        const auto index = static_cast<std::size_t>(roll(4));
-        std::unique_ptr<RaisedWidget>& widget = widgets[index];
-        if (!widget) {
-            widget = index < 2 ? std::unique_ptr<RaisedWidget>(menu())
-                               : std::make_unique<PopupProgressActualMEG>(PopupProgressActualMEG::ProgressType{4});
-            widget->setParent(&root);
-        }
-        auto* menu = dynamic_cast<ContextMenuMEG*>(widget.get());
-        auto* popup = dynamic_cast<PopupBaseMEG*>(widget.get());
-        const auto place = std::find(up.begin(), up.end(), widget.get());
-        const bool isUp = place != up.end();
-        switch (roll(5)) {
-        case 0: // down
-            menu ? menu->slideOut() : popup->dismiss();
-            std::erase(up, widget.get());
-            break;
-        case 1: // behind the others
-            if (menu)
-                menu->pushBack();
-            if (menu && isUp)
-                std::rotate(up.begin(), place, place + 1);
-            break;
-        case 2: // out of the tree, or dead
-            std::erase(up, widget.get());
-            roll(2) == 0 ? widget.reset() : widget->setParent(nullptr);
-            break;
-        default:
-            widget->setParent(&root);
-            menu ? menu->slideIn() : popup->popupAsCall();
-            std::erase(up, widget.get());
-            up.push_back(widget.get());
-        }
-        ASSERT_EQ(manager.focusWidget(), up.empty() ? static_cast<UWidget*>(this->below) : up.back()) << count;
-        if (menu && widget) {
-            ASSERT_EQ(menu->isVisible(), std::find(up.begin(), up.end(), menu) != up.end());
-            ASSERT_EQ(menu->getStartLinePosition(), menu->isVisible() ? 2 : 0);
-        }
-    }
-}
 
 TEST_F(MenuTest, AMenuLeavesTheFirstLineToTheScreen)
 {

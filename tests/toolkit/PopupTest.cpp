@@ -302,45 +302,6 @@ TEST_F(PopupTest, AnAnimationRunsWhileThePopupIsUp)
 
 // Dialog
 
-TEST_F(PopupTest, ADialogShowsItsQuestionAndTheCurrentRow)
-{
-    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
-    dialog->setText(text("Delete entry?"));
-    dialog->setLine2Text(text("Bob"));
-    dialog->setStateIcon(19, 0);
-    dialog->popupAsNotification();
-    EXPECT_EQ(dialog->getRect(), URect(0, 0, 161, 30));
-    EXPECT_EQ(line(0), padded(Icon + "Delete entry? Bob", 19));
-    EXPECT_EQ(line(1), "No?                       v");
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(line(1), "Yes?                      ^");
-
-    dialog->setDownArrowDisplayable(false);
-    EXPECT_EQ(line(1), whole("Yes?"));
-    dialog->listBox->clear();
-    EXPECT_EQ(line(0), padded(Icon + "Delete entry?", 15));
-    EXPECT_EQ(line(1), whole("  Bob"));
-}
-
-TEST_F(PopupTest, ADialogTellsOfItsRows)
-{
-    auto* dialog = withRows<PopupDialogMEG>({"No?", "Yes?"});
-    dialog->popupAsNotification();
-    recorder.takeTypes();
-    UAgent* no = dialog->listBox->item(0);
-    UAgent* yes = dialog->listBox->item(1);
-    for (int key : {UGlobal::KeyDown, UGlobal::KeyOk, UGlobal::KeyUp, UGlobal::KeyLeft, UGlobal::Key9})
-        EXPECT_TRUE(press(key));
-
-    ASSERT_EQ(recorder.entries.size(), 4u);
-    EXPECT_EQ(recorder.entries[0], (Recorder::Entry{EventType::PopupRowMoved, yes, yes}));
-    EXPECT_EQ(recorder.entries[1], (Recorder::Entry{EventType::RowChosen, yes, yes}));
-    EXPECT_EQ(recorder.entries[2], (Recorder::Entry{EventType::PopupRowMoved, no, no}));
-    EXPECT_EQ(recorder.entries[3].type, EventType::LeftPressed);
-    EXPECT_TRUE(dialog->isUp());
-    EXPECT_EQ(below->keys, 0);
-}
-
 // Call popup
 
 TEST_F(PopupTest, TheFirstMoveGivesTheSecondLineToTheRows)

@@ -107,10 +107,15 @@ TEST_F(RaisedWidgetTest, TheFocusFollowsWhateverComesAndGoes)
             model.takeDown(widget);
             UWidget* parent = widget->parentWidget();
             model.ups.push_back({widget, parent == &root, parent ? parent : model.topScreen()});
-        } else if (what < 82) {
+        } else if (what < 78) {
             Raised* widget = pick(model.widgets);
             widget->lower();
             model.takeDown(widget);
+        } else if (what < 82) {
+            Raised* widget = pick(model.widgets);
+            manager.pushBackPopup(widget);
+            std::stable_partition(
+                model.ups.begin(), model.ups.end(), [widget](const Model::Up& up) { return up.widget == widget; });
         } else {
             Raised* widget = pick(model.widgets);
             if (what < 91) {

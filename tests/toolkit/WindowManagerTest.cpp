@@ -139,49 +139,6 @@ TEST_F(WindowManagerTest, TheLastVisibleScreenThatWantsKeysHasTheFocus)
     EXPECT_EQ(manager().focusWidget(), nullptr);
 }
 
-TEST_F(WindowManagerTest, AnUpPopupTakesTheFocusFromWhereverItStands)
-{
-    auto* inTree = new NamedWidget('p', &root, UWidget::Layer::Popup);
-    NamedWidget outside('q', nullptr, UWidget::Layer::Popup);
-    manager().raisePopup(inTree);
-    manager().raisePopup(&outside);
-    EXPECT_EQ(manager().focusWidget(), &outside) << "the latest";
-    manager().raisePopup(inTree);
-    EXPECT_EQ(manager().focusWidget(), inTree) << "raised again, it is the latest";
-    inTree->hide();
-    EXPECT_TRUE(manager().isUp(inTree)) << "hiding is not lowering";
-    EXPECT_EQ(manager().focusWidget(), &outside);
-    manager().lowerPopup(&outside);
-    inTree->hide();
-    EXPECT_EQ(manager().focusWidget(), b);
-}
-
-TEST_F(WindowManagerTest, APopupOutsideTheTreeBelongsToTheScreenOnTop)
-{
-    NamedWidget dialer('d', nullptr, UWidget::Layer::Popup);
-    manager().raisePopup(&dialer);
-    auto* status = new NamedWidget('s', &root, UWidget::Layer::StatusMessage);
-    status->target = nullptr;
-    EXPECT_EQ(manager().focusWidget(), &dialer) << "a status message is no screen";
-    auto* next = new NamedWidget('n', &root);
-    EXPECT_EQ(manager().focusWidget(), next);
-    delete next;
-    EXPECT_EQ(manager().focusWidget(), &dialer) << "screen and popup come back together";
-    b->hide();
-    EXPECT_EQ(manager().focusWidget(), a);
-    b->show();
-    delete b;
-    EXPECT_EQ(manager().focusWidget(), a) << "its screen has gone for good";
-    auto sameAddress = std::make_unique<NamedWidget>('x', &root);
-    EXPECT_EQ(manager().focusWidget(), sameAddress.get());
-    manager().raisePopup(&dialer);
-    EXPECT_EQ(manager().focusWidget(), &dialer) << "raising binds it anew";
-    root.addWidget(&dialer);
-    sameAddress.reset();
-    EXPECT_EQ(manager().focusWidget(), &dialer) << "in the tree it is bound to nothing";
-    dialer.setParent(nullptr);
-}
-
 TEST_F(WindowManagerTest, APassivePopupJoinsInByRequestAlone)
 {
     auto* note = new NamedWidget('n', &root, UWidget::Layer::Popup);
