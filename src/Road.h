@@ -51,6 +51,20 @@ GivenObject<T> given(T* object)
     return {object};
 }
 
+/// A copy that changes hands with the request; made by copied().
+template <typename T>
+struct CopiedObject {
+    T* copy;
+};
+
+/// Hands over a copy that was made for the request, so that nobody else knows it. Where the request never runs, or
+/// nobody is there to take it, the copy is deleted.
+template <typename T>
+CopiedObject<T> copied(T* copy)
+{
+    return {copy};
+}
+
 /// Keeps an object where it is until the process ends. Null is ignored. Threads: any.
 ///
 /// Nobody may delete such an object: other threads may still use it. It stays reachable, so that it counts as
@@ -93,6 +107,13 @@ public:
     {
         fill(given.object);
         keepIfRefused(given.object);
+    }
+
+    template <typename T>
+    void fill(CopiedObject<T> handed)
+    {
+        fill(handed.copy);
+        mEvent.ownUntilRun(handed.copy);
     }
 
     template <typename T>
@@ -261,6 +282,11 @@ private:
     {
     }
     static void drop(const GivenObject<TranslationInfo>& given);
+    template <typename T>
+    static void drop(const CopiedObject<T>& handed)
+    {
+        delete handed.copy;
+    }
 
     static void retire(Widget& handle) { handle.retire(); }
     static void retire(Displayable& screen) { screen.retireScreen(); }
