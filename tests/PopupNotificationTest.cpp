@@ -1,0 +1,192 @@
+#include "EveryScreen.h"
+#include "PhoneTest.h"
+#include "RecordingListener.h"
+#include "TestTranslator.h"
+
+#include <DisplayAPI/CallPartyIdentifier.h>
+#include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/PopupNotification.h>
+
+#include "PopupNotificationPrivate.h"
+
+#include <UApplication.h>
+
+using namespace DisplayAPI;
+
+namespace {
+
+class PopupNotificationTest : public PhoneTest {
+protected:
+    ~PopupNotificationTest() override { display->setCurrent(nullptr); }
+
+    static std::string textInRects(PopupNotification& popup)
+    {
+        auto& half = dynamic_cast<PopupNotificationPrivate&>(*popup.getPrivateImpl());
+        return half.serialise(std::vector<URect>{URect(0, 0, 161, 30)});
+    }
+
+    RecordingListener listener;
+};
+
+CallPartyIdentifier party(const std::string& name, const std::string& number)
+{
+    return CallPartyIdentifier(name, number);
+}
+
+std::unique_ptr<PopupNotification> makePopup(Stage& stage)
+{
+    auto popup = std::make_unique<PopupNotification>();
+    popup->addCommandListener(&stage.listener);
+    popup->setTimeout(3000);
+    return popup;
+}
+
+}
+
+INSTANTIATE_TEST_SUITE_P(PopupNotification, EveryScreenTest,
+    screenFamily<PopupNotification>(makePopup,
+        {
+            {"setLine1PrefixText", [](auto& popup, auto&) { popup.setLine1PrefixText("Update"); }},
+            {"setText", [](auto& popup, auto&) { popup.setText("failed"); }},
+            {"setLine2PrefixText",
+                [](auto& popup, auto& stage) { popup.setLine2PrefixText(stage.translation("why")); }},
+            {"setLine2Text", [](auto& popup, auto&) { popup.setLine2Text("no network"); }},
+            {"its translation", [](auto& popup, auto& stage) { popup.setLine2Text(stage.translation("no line")); }},
+            {"setLine3Text", [](auto& popup, auto& stage) { popup.setLine3Text(stage.translation("call me")); }},
+            {"setLine2Icon", [](auto& popup, auto&) { popup.setLine2Icon(PopupNotification::ARROW); }},
+            {"setType", [](auto& popup, auto&) { popup.setType(PopupNotification::ERROR); }, false},
+            {"setPartyDetails",
+                [](auto& popup, auto&) {
+                    popup.setPartyDetails({"Bob", "4712"});
+                }},
+            {"setForwardNotification",
+                [](auto& popup, auto&) {
+                    CallPartyIdentifier caller("Bob", "4712");
+                    CallPartyIdentifier called("Carol", "4713");
+                    popup.setForwardNotification(caller, called, FORWARDED_ON_BUSY);
+                }},
+            {"setDismissible", [](auto& popup, auto&) { popup.setDismissible(true); }, false},
+            {"time-out", [](auto&, auto& stage) { stage.advance(3000); }},
+            {"dismiss", [](auto& popup, auto&) { popup.dismiss(); }},
+        },
+        [](PopupNotification&) { return std::string(); }));
+
+TEST_F(PopupNotificationTest, EachTypeHasItsIconAndItsWord)
+{
+    struct Case {
+        int type;
+        std::uint16_t icon;
+        const char* word;
+        const char* lineInRects;
+    };
+    PopupNotification popup;
+    popup.setText("text");
+    show(popup);
+    for (const Case& row :
+        std::initializer_list<Case>{{0, 0, "None", "icon0:None\n"}, {1, 22, "Success", "icon0:Success\n"},
+            {2, 16, "Error", "icon0:Error\n"}, {3, 21, "Info", "icon0:Info\n"}, {4, 78, "BLF", "icon0:string0"},
+            {5, 8, "Forwarded", "icon0:Forwarded\n"}, {6, 20, "Warning", "icon0:Warning\n"},
+            {7, 21, "UserAction", "icon0:UserAction\n"}, {8, 21, "USB", "icon0:USB\n"},
+            {9, 81, "Mobile User Saving", "icon0:string0"}, {10, 82, "Mobile User Failed", "icon0:string0"}}) {
+        popup.setType(static_cast<PopupNotification::InfoType>(row.type));
+        EXPECT_EQ(screenField("icon0"), row.word) << "type " << row.type;
+        EXPECT_NE(textInRects(popup).find(row.lineInRects), std::string::npos) << "type " << row.type;
+        EXPECT_TRUE(row.icon == 0 || hasIcon(1, 0, row.icon)) << "type " << row.type;
+    }
+}
+
+TEST_F(PopupNotificationTest, EachLineIsWrittenAsItStands)
+{
+    PopupNotification popup;
+    popup.setLine1PrefixText("Up\ndate");
+    show(popup);
+    EXPECT_NE(popup.getPrivateImpl()->serialise().find("string0:Up\ndate: \n"), std::string::npos)
+        << "without a text the prefix keeps its line";
+    popup.setText("fai\nled");
+    popup.setLine2PrefixText("Reason");
+    popup.setLine2Text("no network");
+    popup.setLine2Icon(PopupNotification::ARROW);
+    popup.setLine3Text("Try again");
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:PopupNotification", "icon0:None", "string0:Up date: fai led",
+            "string1:Reason:  => no network", "string2:Try again", "end:"}));
+    EXPECT_EQ(textInRects(popup),
+        lines({"object:", "name:PopupNotification", "icon0:None", "string0:Up date: fai led",
+            "string1:Reason: no network", "string2:Try again", "end:"}));
+    popup.setLine2Icon(static_cast<PopupNotification::IconElemType>(9));
+    EXPECT_EQ(screenField("string1"), "Reason: no network");
+    popup.setType(PopupNotification::FORWARDED);
+    popup.setLine2PrefixText("");
+    popup.setLine2Text("");
+    EXPECT_EQ(screenField("string1"), "=> ");
+}
+
+TEST_F(PopupNotificationTest, UnknownPartiesOfAForwardedCallAreNamedByTheirRules)
+{
+    const std::string K = CallPartyIdentifier::UnknownParty;
+    TestTranslator translator;
+    translator.words[K] = "unknown";
+    display->setTranslator(&translator);
+    struct Case {
+        const char* name;
+        CallPartyIdentifier first;
+        CallPartyIdentifier second;
+        const char* line1;
+        const char* line2;
+    };
+    const Case cases[] = {
+        {"all known", party("Bob", "4712"), party("Carol", "4713"), "Bob 4712", "=> Carol 4713"},
+        {"nothing known", party(K, K), party(K, K), "unknown", "=> unknown"},
+        {"names alone", party("Bob", K), party("Carol", K), "Bob", "=> Carol unknown"},
+        {"numbers alone", party(K, "4712"), party(K, "4713"), "4712", "=> 4713"},
+        {"withheld is a text", party(K, "anonymous"), party("Carol", ""), "anonymous", "=> Carol"},
+    };
+    for (const Case& row : cases) {
+        PopupNotification popup;
+        CallPartyIdentifier first = row.first;
+        CallPartyIdentifier second = row.second;
+        elsewhere([&] { popup.setForwardNotification(first, second, FORWARDED_NO_ANSWER); });
+        show(popup);
+        EXPECT_EQ(screenField("string0"), row.line1) << row.name;
+        EXPECT_EQ(screenField("string1"), row.line2) << row.name;
+        EXPECT_EQ(screenField("icon0"), "Forwarded") << row.name;
+        popup.dismiss();
+    }
+    display->setTranslator(nullptr);
+}
+
+TEST_F(PopupNotificationTest, WhoGoesTellsOnceAndGivesTheGlassBack)
+{
+    auto* application = VantoUApplication::getCurrentApplication();
+    PopupNotification popup;
+    popup.addCommandListener(&listener);
+    popup.addCommandListener(&listener);
+    popup.setTimeout(2000);
+    popup.setText("one");
+    show(popup);
+    EXPECT_FALSE(application->isFullScreen()) << "one line leaves the first line of the glass";
+    popup.setLine2Text("two");
+    show(popup);
+    EXPECT_TRUE(application->isFullScreen());
+    advance(2000);
+    EXPECT_EQ(display->getCurrent(), nullptr);
+    EXPECT_FALSE(application->isFullScreen());
+    EXPECT_EQ(listener.commands(1), std::vector<Command*>{PopupNotification::HIDDEN_COMMAND()});
+}
+
+TEST_F(PopupNotificationTest, ATranslationHidesThePopupUntilItComesUpAgain)
+{
+    TestTranslator translator;
+    PopupNotification popup;
+    popup.setLine3Text(new TranslationInfo("", "third", "", &translator));
+    popup.setText(new TranslationInfo("", "text", "!", &translator));
+    show(popup);
+    popup.setText(new TranslationInfo("", "text", "?", &translator));
+    EXPECT_FALSE(popup.getPrivateImpl()->getWidget()->isVisible());
+    popup.show();
+    EXPECT_TRUE(popup.getPrivateImpl()->getWidget()->isVisible());
+    translator.prefix = "fr ";
+    display->localeChanged("fr");
+    EXPECT_EQ(screenField("string0"), "fr text?");
+    EXPECT_EQ(screenField("string2"), "third") << "the third line is not read again";
+}
