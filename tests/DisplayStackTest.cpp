@@ -442,12 +442,9 @@ TEST_F(DisplayStackTest, TheSubscriberMayDoAnythingInsideEveryNotice)
             top = makeScreen("top", Kind::Popup);
             next = makeScreen("next");
             fill();
-            subscriber.onNotice = [&, once = true]() mutable {
-                if (std::exchange(once, false))
-                    react();
-            };
+            subscriber.onNextNotice = react;
             run();
-            subscriber.onNotice = nullptr;
+            subscriber.onNextNotice = nullptr;
             display->show(); // a hidden display takes the widgets without putting them anywhere
             Displayable* current = display->getCurrent();
             EXPECT_TRUE(!current || displayableExists(current));
