@@ -3,6 +3,7 @@
 #include "EventTypes.h"
 #include "Icons.h"
 #include "TextBlock.h"
+#include "TextCells.h"
 #include "UPainter.h"
 #include "UScreenWE1.h"
 #include "UWindowManager.h"
@@ -58,7 +59,7 @@ UString formatted(const char* format, Numbers... numbers)
 
 int columnsOf(const UString& text)
 {
-    return static_cast<int>(std::min<std::size_t>(text.length(), UPainter::Columns));
+    return TextCells::count(text, UPainter::Columns);
 }
 
 bool isLineIn(const std::vector<URect>& rects, const URect& line)

@@ -1,5 +1,6 @@
 #include "PopupDialerMEG.h"
 
+#include "TextCells.h"
 #include "Types.h"
 #include "UEvent.h"
 #include "UPainter.h"
@@ -8,7 +9,6 @@
 #include "VantoListBoxMEG.h"
 #include "VantoTextEditMEG.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -393,7 +393,7 @@ void PopupDialerMEG::paint(UPainter& painter)
 void PopupDialerMEG::paintEditLine(UPainter& painter)
 {
     const UString mode = modePrompt();
-    const int modeColumns = static_cast<int>(std::min<std::size_t>(mode.length(), MostModeColumns));
+    const int modeColumns = TextCells::count(mode, MostModeColumns);
     const int last = UPainter::Columns - (modeColumns > 0 ? modeColumns + 1 : 0);
     const int first = paintLine(painter, 0, 0, {{}, {}, editHead(), {}}, last - LeastEditColumns);
     editArea->setCoordinates(first * CellWidth, 0, last * CellWidth - 1, 14);

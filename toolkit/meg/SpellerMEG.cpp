@@ -1,6 +1,7 @@
 #include "SpellerMEG.h"
 
 #include "KeypadTables.h"
+#include "TextCells.h"
 #include "Types.h"
 #include "UEvent.h"
 #include "UPainter.h"
@@ -8,7 +9,6 @@
 #include "VantoListBoxMEG.h"
 #include "VantoTextEditMEG.h"
 
-#include <algorithm>
 #include <string>
 
 namespace {
@@ -243,7 +243,7 @@ void SpellerMEG::paint(UPainter& painter)
 {
     painter.clearLines(0, 1);
     const UString mode = mEdit->modeText();
-    const int modeColumns = static_cast<int>(std::min<std::size_t>(mode.length(), MostModeColumns));
+    const int modeColumns = TextCells::count(mode, MostModeColumns);
     mEdit->setCoordinates(0, 0, (UPainter::Columns - modeColumns - 1) * CellWidth - 1, 14);
     mEdit->paint(painter);
     painter.textRight(0, UPainter::Columns - 1, mode, modeColumns);
