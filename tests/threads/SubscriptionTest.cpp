@@ -34,7 +34,7 @@ TEST_F(SubscriptionTest, ASubscriberThatDiesIsForgotten)
     alignas(Subscriber) std::array<std::byte, sizeof(Subscriber)> place;
     auto* first = new (place.data()) Subscriber;
     display->subscribe(first);
-    first->~Subscriber();
+    first->Subscriber::~Subscriber();
     display->displayChanged();
 
     // Nor is another one at its address taken for it.
@@ -45,7 +45,7 @@ TEST_F(SubscriptionTest, ASubscriberThatDiesIsForgotten)
     display->displayChanged();
     EXPECT_EQ(second->takeNotices(), 1);
     display->unSubscribe();
-    second->~Subscriber();
+    second->Subscriber::~Subscriber();
 }
 
 TEST_F(SubscriptionTest, SubscribingWaitsForTheNoticeThatIsRunning)
