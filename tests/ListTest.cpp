@@ -5,6 +5,8 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
+#include "HeldRows.h"
+
 #include <Log.h>
 #include <UApplication.h>
 
@@ -303,15 +305,26 @@ TEST_F(ListTest, ACurrentListComesBackWithItsFirstRow)
     EXPECT_EQ(half(list).getWidget()->parentWidget(), nullptr) << "not on the display";
 }
 
-TEST_F(ListTest, ARowDeletedInAListLeavesItFirst)
+TEST_F(ListTest, AnotherHolderMayTakeARowOver)
 {
-    List list(0);
+    struct Conference : HeldRows {
+        void rowChanged(ListItem&, ListItemPrivateIfc*) override { }
+        void takeOut(int, ListItemPrivateIfc*) override { }
+    };
+    List list(List::Plain);
     fill(list, "ABC");
     show(list);
-    delete list.getItems()[1];
-    EXPECT_EQ(both(list), "[A]C");
-    delete list.getItems()[0];
-    EXPECT_EQ(both(list), "[C]");
+    const std::unique_ptr<ListItem> b(list.getItems()[1]);
+    {
+        Conference conference;
+        b->holder()->letGo(*b);
+        EXPECT_EQ(both(list), "[A]C");
+        ASSERT_TRUE(HeldRows::isFree(b.get()));
+        conference.expect(*b, 0);
+        list.append(b.get());
+        EXPECT_EQ(both(list), "[A]C") << "it is the conference's";
+    }
+    EXPECT_EQ(b->holder(), nullptr) << "the conference has gone";
 }
 
 TEST_F(ListTest, ListsOfManyRowsEnd)
