@@ -1,11 +1,11 @@
 #include "ThreadedPhoneTest.h"
 
+#include "FunctionEvent.h"
 #include "ScreenTextParser.h"
 
 #include <DisplayAPI/Widget.h>
 
 #include <UApplication.h>
-#include <UEvent.h>
 #include <ULoop.h>
 #include <UWindowManager.h>
 
@@ -21,32 +21,6 @@ using DisplayAPI::Display;
 namespace {
 
 constexpr auto WatchdogTime = std::chrono::seconds(100);
-
-/// A function on its way to the GUI thread. It is told when it has run, and when it never will.
-class CallEvent : public UEvent {
-public:
-    CallEvent(const std::function<void()>& function, std::promise<bool>& done)
-        : UEvent(EventType::Key)
-        , mFunction(function)
-        , mDone(&done)
-    {
-    }
-    ~CallEvent() override
-    {
-        if (mDone)
-            mDone->set_value(false);
-    }
-
-    void process() override
-    {
-        mFunction();
-        std::exchange(mDone, nullptr)->set_value(true);
-    }
-
-private:
-    const std::function<void()>& mFunction;
-    std::promise<bool>* mDone;
-};
 
 std::unique_ptr<Display> makeDisplay(const PhoneSetup& setup)
 {
@@ -65,7 +39,12 @@ bool callOnGui(const std::function<void()>& function)
     }
     std::promise<bool> done;
     auto result = done.get_future();
-    UApplication::instance()->postEvent(new CallEvent(function, done));
+    UApplication::instance()->postEvent(new FunctionEvent(
+        [&] {
+            function();
+            done.set_value(true);
+        },
+        [&done] { done.set_value(false); }));
     return result.get();
 }
 

@@ -1,5 +1,6 @@
 #include "AnswerWait.h"
 #include "Disturbance.h"
+#include "FunctionEvent.h"
 #include "RecordingListener.h"
 #include "TestTranslator.h"
 #include "ThreadedPhoneTest.h"
@@ -11,7 +12,6 @@
 #include <Log.h>
 #include <TranslationInfo.h>
 #include <UApplication.h>
-#include <UEvent.h>
 #include <ULoop.h>
 #include <UWidget.h>
 #include <UWindowManager.h>
@@ -66,26 +66,12 @@ private:
     static inline std::vector<std::string> gTexts;
 };
 
-/// A function that runs inside the loop.
-class InsideLoop : public UEvent {
-public:
-    explicit InsideLoop(std::function<void()> function)
-        : UEvent(EventType::Key)
-        , mFunction(std::move(function))
-    {
-    }
-    void process() override { mFunction(); }
-
-private:
-    std::function<void()> mFunction;
-};
-
 class DisplayEndTest : public PhoneTest {
 protected:
     void insideLoop(std::function<void()> function)
     {
         ULoop::instance().open();
-        UApplication::instance()->postEvent(new InsideLoop(std::move(function)));
+        UApplication::instance()->postEvent(new FunctionEvent(std::move(function)));
     }
 };
 

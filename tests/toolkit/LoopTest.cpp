@@ -1,3 +1,4 @@
+#include "FunctionEvent.h"
 #include "Semaphore.h"
 #include "UApplication.h"
 #include "UEvent.h"
@@ -24,31 +25,6 @@ ULoop& loop()
 
 using Work = std::function<void()>;
 
-/// An event that runs one function, or another one when it goes without having run.
-class TestEvent : public UEvent {
-public:
-    explicit TestEvent(Work run, Work goneUnrun = nullptr)
-        : UEvent(EventType::RowChosen)
-        , mRun(std::move(run))
-        , mGoneUnrun(std::move(goneUnrun))
-    {
-    }
-    ~TestEvent() override
-    {
-        if (mGoneUnrun)
-            mGoneUnrun();
-    }
-    void process() override
-    {
-        mGoneUnrun = nullptr;
-        mRun();
-    }
-
-private:
-    Work mRun;
-    Work mGoneUnrun;
-};
-
 /// An agent that hands the expiry of its timers to a test.
 class TimerAgent : public UAgent {
 public:
@@ -74,7 +50,7 @@ protected:
     /// Posts an event that notes its name when it runs, and '~' with it when it goes unrun.
     void post(char name, const Work& work = nullptr)
     {
-        loop().post(new TestEvent(
+        loop().post(new FunctionEvent(
             [this, name, work] {
                 note(name);
                 if (work)
@@ -163,7 +139,7 @@ TEST_F(LoopTest, QuitEndsTheLoopAfterTheEventInHandAndDestroysTheRest)
 TEST_F(LoopTest, AnEventThatGoesUnrunCannotPostAnother)
 {
     post('a', [] { loop().quit(); });
-    loop().post(new TestEvent([] {}, [this] { post('x'); }));
+    loop().post(new FunctionEvent([] {}, [this] { post('x'); }));
     post('b');
     loop().exec();
     EXPECT_EQ(protocol, "a~x~b");
@@ -204,7 +180,7 @@ TEST_F(LoopTest, APostFromAnotherThreadWakesTheSleepingLoop)
     std::thread poster([&] {
         for (int i = 0; i < 200; ++i) {
             Wait done;
-            loop().post(new TestEvent([&] {
+            loop().post(new FunctionEvent([&] {
                 if (++runs == 200)
                     loop().quit();
                 done.release();
