@@ -134,6 +134,16 @@ void Phone::tap(int code)
     key(code, UGlobal::KeyReleased);
 }
 
+std::string Phone::functionKeys() const
+{
+    std::string keys;
+    for (const CustomStep& step : mSettings.steps) {
+        if (step.functionKey > 0)
+            keys += (keys.empty() ? "F" : "  F") + std::to_string(step.functionKey) + " " + step.name;
+    }
+    return keys.empty() ? "F1-F8" : keys;
+}
+
 bool Phone::callStep(const std::string& name, const std::string& argument)
 {
     const auto step = std::ranges::find(mSettings.steps, name, &CustomStep::name);

@@ -55,6 +55,9 @@ public:
     /// Presses the key and releases it.
     void tap(int code);
 
+    /// What the function keys are for: "F1-F8", or the steps that have taken some, as "F1 incoming".
+    std::string functionKeys() const;
+
     /// Calls a step of the phonelet's own, on the calling thread, once what was posted before has run. False when
     /// the telephone did not answer in time, has ended, or has no such step. What the step throws comes out.
     bool callStep(const std::string& name, const std::string& argument);

@@ -9,6 +9,7 @@
 #include "TerminalView.h"
 #include "UsageError.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
@@ -56,6 +57,8 @@ void check(const Steps& steps)
     for (const CustomStep& step : steps) {
         if (!step.function || !canNameStep(step.name) || step.functionKey < 0 || step.functionKey > functionKeys)
             throw UsageError("\"" + step.name + "\" can't be a step of the phonelet's own");
+        if (step.functionKey > 0 && std::ranges::count(steps, step.functionKey, &CustomStep::functionKey) > 1)
+            throw UsageError("two steps want the function key F" + std::to_string(step.functionKey));
     }
 }
 

@@ -31,7 +31,8 @@ constexpr short GlassColours = 1;
 constexpr short FrameColours = 2;
 constexpr int ControlC = 3;
 constexpr int ControlL = 12;
-constexpr const char* Help = "Arrows  Enter OK  0-9 * #  Backspace left  Del clear  F1-F8   q leaves";
+constexpr const char* KeysHelp = "Arrows  Enter OK  0-9 * #  Backspace left  Del clear  ";
+constexpr const char* LeaveHelp = "   q leaves";
 
 void setColours()
 {
@@ -178,7 +179,8 @@ void TerminalView::draw() const
     } else {
         drawGlass(snapshot);
         attrset(A_DIM);
-        write(glassHeight(snapshot), 1, mIsLeaving ? "Leaving ..." : Help, COLS - 2);
+        write(glassHeight(snapshot), 1, mIsLeaving ? "Leaving ..." : KeysHelp + mPhone.functionKeys() + LeaveHelp,
+            COLS - 2);
         attrset(A_NORMAL);
         drawText(snapshot.text, glassHeight(snapshot) + 1);
     }

@@ -42,8 +42,8 @@ public:
     /// The function is called off the GUI thread, one call at a time, between the first turn of the phonelet's loop
     /// and the end of run(); it should return soon. What it throws fails the script's step; in the terminal it ends
     /// the telephone. So what it uses is made before run() and may find the phonelet's screens gone.
-    /// Errors: an empty function, a name that has blanks or that a step of every script has, and a key outside 0 to
-    /// 8 end run() with 2.
+    /// Errors: an empty function, a name that has blanks or that a step of every script has, a key outside 0 to 8
+    /// and one key for two steps end run() with 2.
     PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
 
     /// Runs the phonelet until the user or the script leaves, and gives the exit code of the program: 0, 1 after
