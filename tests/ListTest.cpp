@@ -437,11 +437,11 @@ TEST_F(ListTest, GlassAndHandlesAgreeWhateverHappensInANotice)
                 scene.x = new CountedItem("X");
                 show(*scene.list);
                 int notices = 0;
-                changes.onNotice = [&] {
+                changes.onNotice = [&, act = action] {
                     // A row that has gone can't be named again.
                     const bool isThere = ListItem::exists(scene.a) && ListItem::exists(scene.b) && scene.list;
                     if (++notices == turn && isThere)
-                        action(scene);
+                        act(scene);
                 };
                 change(scene);
                 changes.onNotice = nullptr;
@@ -455,6 +455,43 @@ TEST_F(ListTest, GlassAndHandlesAgreeWhateverHappensInANotice)
             }
         }
     }
+}
+
+TEST_F(ListTest, ARowOnItsWayOutMayGoToAnotherList)
+{
+    const std::pair<const char*, std::function<void(List&, ListItem*)>> table[] = {
+        {"remove", [](List& list, ListItem* a) { list.remove(a); }},
+        {"removeAt", [](List& list, ListItem*) { EXPECT_EQ(list.removeAt(0), nullptr); }},
+        {"replace", [](List& list, ListItem* a) { list.replace(a, list.removeAt(1)); }},
+        {"move", [](List& list, ListItem* a) { list.move(a, list.getItems()[1], 0); }},
+    };
+    for (const auto& [name, change] : table) {
+        SCOPED_TRACE(name);
+        List list(List::Plain);
+        List other(List::Plain);
+        fill(list, "AB");
+        ListItem* a = list.getItems()[0];
+        show(list);
+        changes.onNotice = [&] {
+            if (!a->getPrivateImplemetation()->getVantoListItem()->parentWidget())
+                other.append(a);
+        };
+        change(list, a);
+        changes.onNotice = nullptr;
+        EXPECT_EQ(both(other), "[A]");
+        EXPECT_EQ(both(list), "[B]");
+    }
+}
+
+TEST_F(ListTest, ARowThatComesWhileTheListIsClearedGoesWithTheRest)
+{
+    List list(List::Plain);
+    fill(list, "AB");
+    show(list);
+    changes.onNextNotice = [&] { list.append(new CountedItem("X")); };
+    list.clear();
+    EXPECT_EQ(both(list), "");
+    EXPECT_EQ(CountedItem::living, 0);
 }
 
 TEST_F(ListTest, TheEndOfARowMayBeTheEndOfItsList)
