@@ -11,6 +11,7 @@ public:
     void processGuiRequest(GuiRequestEvent& event) override { signalComplete(event); }
     ItemPrivateIfc* getPrivateImpl() override { return nullptr; }
     void localeChanged(std::string) override { }
+    void show() { }
 };
 
 }

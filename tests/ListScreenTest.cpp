@@ -31,6 +31,7 @@ public:
         return false;
     }
     void lostFocus() override { ++mLog.lostFocus; }
+    void event(UEvent*) override { }
 
     UWidget* getWidget() override { return this; }
     void releaseOwnership() override { }

@@ -42,6 +42,13 @@ public:
     virtual void setStimulusText(std::string text) = 0;
     virtual void setStimulusText(TranslationInfo* text) = 0;
     virtual void showStimulusTextInHeader(bool shown) = 0;
+    void event(UEvent* event) override = 0;
+
+    /// Gets the keys that the popup has no use for; true if the idle screen behind it has taken the key.
+    bool keyEvent(UKeyEvent* key) override = 0;
+
+    // Of the screen, not of the widget
+    void show() override = 0;
 };
 
 }
