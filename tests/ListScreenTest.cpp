@@ -69,6 +69,10 @@ private:
 
 class TestDialer : public PopupDialer {
 public:
+    TestDialer()
+        : PopupDialer(true, 3)
+    {
+    }
     DisplayablePrivateIfc* getPrivateImpl() override { return &mPrivate; }
 
     DialerLog log;
