@@ -180,7 +180,8 @@ void ListBoxPrivate::remove(ListItemPrivateIfc* row)
 
 void ListBoxPrivate::leaveScreen()
 {
-    mFormerParent = mWidget->parentWidget();
+    if (UWidget* parent = mWidget->parentWidget())
+        mFormerParent = parent;
     mWidget->setParent(nullptr);
     // Nobody else would delete the widget now.
     gainOwnership();
@@ -210,6 +211,7 @@ void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow
         list()->insertItem(widget, index);
     }
     newRow->releaseOwnership();
+    comeBack();
     generateDisplayChangedEvent();
 }
 

@@ -278,6 +278,7 @@ TEST_F(ListTest, ACurrentListComesBackWithItsFirstRow)
         {"append", [&] { list.append(new CountedItem("append")); }},
         {"insertAt", [&] { list.insertAt(new CountedItem("insertAt"), 0); }},
         {"replace", [&] { list.replace(nullptr, new CountedItem("replace")); }},
+        {"move", [&] { list.move(nullptr, new CountedItem("move"), 0); }},
     };
     fill(list, "A");
     show(list);
