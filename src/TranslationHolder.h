@@ -41,9 +41,15 @@ public:
     }
     void forget() { mInfo.reset(); }
 
+    /// Gives the translation to the caller, and shows an empty text.
+    TranslationInfo* release() { return mInfo.release(); }
+
     // The translation in today's locale
 
     explicit operator bool() const { return mInfo != nullptr; }
+
+    /// True for the very translation that stands behind the line, and for null where there is none.
+    bool holds(const TranslationInfo* info) const { return info == mInfo.get(); }
 
     /// The translation alone; empty without one.
     std::string string() const { return mInfo ? mInfo->getString() : std::string(); }
