@@ -1,0 +1,139 @@
+#pragma once
+
+#include <DisplayAPI/Command.h>
+#include <DisplayAPI/Living.h>
+#include <DisplayAPI/PopupCallPrivateIfc.h>
+
+#include "OwnershipDelegate.h"
+#include "TranslationHolder.h"
+
+#include <PopupCallMEG.h>
+#include <UString.h>
+
+#include <cstddef>
+#include <vector>
+
+class UEvent;
+class VantoListBoxMEG;
+
+namespace DisplayAPI {
+
+class CommandRow;
+
+/// The popup of a call on the GUI thread: a PopupCallMEG with its parties, its state and a row for each choice.
+///
+/// Without an application there is no widget, and a toolkit tree that holds it may delete it; then everything here
+/// changes nothing that can be seen.
+class PopupCallPrivate final : public PopupCallPrivateIfc {
+public:
+    explicit PopupCallPrivate(PopupCall* owner);
+    ~PopupCallPrivate() override;
+
+    Displayable* getParent() const { return mOwner; }
+    PopupCallMEG* getPopupCallMEG() const { return mWidget; }
+
+    // Parties
+
+    void setPopupCallDetails(CallPartyIdentifier* party, CallPartyIdentifier* second, ForwardedCallType type,
+        const std::string& auxText, TranslationInfo* auxInfo) override;
+
+    // Texts
+
+    void setLine1PrefixText(const std::string& text) override;
+    void setLine1PrefixText(TranslationInfo* text) override;
+    void setText(const std::string& text) override;
+    void setText(TranslationInfo* text) override;
+    void setLine2PrefixText(const std::string& text) override;
+    void setLine2PrefixText(TranslationInfo* text) override;
+    void setLine2Text(const std::string& text) override;
+    void setLine2Text(TranslationInfo* text) override;
+    void setAuxText(const std::string& text) override;
+    void setAuxText(TranslationInfo* text);
+    void localeChanged(std::string locale);
+
+    // State
+
+    void setState(PopupCall::CallState state, PopupCall::CallPriority priority) override;
+    void setImage(Image* image) override;
+
+    // Choices
+
+    void addCommand(MenuCommand* command) override;
+    void setDefaultCommand(MenuCommand* command) override;
+    void clearCommands() override;
+    int getSelectedIndex() override;
+    bool selectionHasChanged() override;
+    const std::vector<Living<Command>>& getCommands() const { return mCommands; }
+
+    // Listeners
+
+    void addCommandListener(CommandListener* listener) override { mCommandListeners.addOnce(listener); }
+    void removeCommandListener(CommandListener* listener) override { mCommandListeners.remove(listener); }
+    int commandListenerCount() const { return static_cast<int>(mCommandListeners.size()); }
+
+    /// Null outside the list.
+    CommandListener* listenerAt(int index) const;
+
+    // Life on the screen
+
+    UWidget* getWidget() override { return mWidget; }
+    void releaseOwnership() override { mOwnership.releaseOwnership(); }
+    void gainOwnership() override { mOwnership.gainOwnership(); }
+    bool hasOwnership() const { return mOwnership.hasOwnership(); }
+    void show() override;
+    void dismiss() override;
+    void lostFocus() override { }
+    bool hideOldWidgetOnFocusGained() override { return false; }
+    int widgetPosition() override { return 1; }
+    void event(UEvent* event) override;
+
+    // Screen text
+
+    using DisplayablePrivate::serialise;
+    std::string serialise() override;
+
+    /// Empty unless a rectangle holds the whole popup.
+    std::string serialise(const std::vector<URect>& rects);
+
+private:
+    using Field = void (PopupNotificationMEG::*)(const UString& text);
+
+    VantoListBoxMEG* list() const;
+    void write(Field field, const std::string& text);
+    void writeLine2(const std::string& text);
+    bool ignoreLine2Text() const;
+    void showForwarding(ForwardedCallType type);
+    void showParties(const CallPartyIdentifier& party, const CallPartyIdentifier* second);
+    void clearLine2();
+    void addLine2Row();
+    void popupWentDown();
+    void line2GaveWay();
+    void selectionMoved();
+    void rowChosen(UEvent& event);
+    bool isChoiceWritten() const;
+    std::string stateWord();
+    std::string caption(bool hasChoice) const;
+    std::string line2() const;
+
+    bool mSelectionChanged = false;
+    PopupCall* mOwner;
+    PopupCallMEG* mWidget;
+    std::vector<Living<Command>> mCommands; // in the order of adding; a row of line 2 may stand before theirs
+    int mDefaultIndex = 0;
+    Command mBackCommand{"", Command::Back};
+    Image* mImage = nullptr;
+    PopupCall::CallState mState = PopupCall::CONNECTING;
+    std::string mIconWord1;
+    std::string mIconWord2;
+    TranslationHolder mAuxInfo;
+    TranslationHolder mLine1PrefixInfo;
+    TranslationHolder mTextInfo;
+    TranslationHolder mLine2PrefixInfo;
+    TranslationHolder mLine2Info;
+    std::string mForwardedWord;
+    std::string mForwardedSecondWord;
+    bool mLine2Pending = false;
+    OwnershipDelegate<PopupCallMEG> mOwnership{&mWidget};
+};
+
+}
