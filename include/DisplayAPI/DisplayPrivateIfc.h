@@ -1,5 +1,6 @@
 #pragma once
 
+#include <DisplayAPI/Export.h>
 #include <DisplayAPI/Icons.h>
 #include <DisplayAPI/Numbered.h>
 
@@ -19,7 +20,7 @@ class DisplayEventIfc;
 
 /// The display as its handle and its screens see it. Threads: GUI thread only, but for subscribe(),
 /// unSubscribe() and displayChanged().
-class DisplayPrivateIfc : public Numbered<DisplayPrivateIfc> {
+class DISPLAYAPI_EXPORT DisplayPrivateIfc : public Numbered<DisplayPrivateIfc> {
 public:
     virtual ~DisplayPrivateIfc() = default;
 
