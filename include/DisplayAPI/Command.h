@@ -17,8 +17,8 @@ class LivingSet;
 ///
 /// Threads: may be made, read and destroyed on any thread. Destroying a command recalls its deliveries that
 /// have not begun.
-/// Ownership: a command belongs to whoever made it; screens hold plain pointers and ask exists(). The command
-/// owns its translation.
+/// Ownership: a command belongs to whoever made it; screens keep its running number beside a plain pointer, so that
+/// it may die at any time, and another one at its address is not taken for it. The command owns its translation.
 class DISPLAYAPI_EXPORT Command {
 public:
     /// What kind of action it is. The numbers are fixed.

@@ -22,7 +22,8 @@ public:
     ~Displayable() override;
     void processGuiRequest(GuiRequestEvent& event) override;
 
-    /// The half on the GUI thread; null until it has been made.
+    /// The half on the GUI thread; null until it has been made. The display asks on the GUI thread, with no lock held;
+    /// a screen that another thread deletes meanwhile, since the loop has ended, waits for the answer.
     virtual DisplayablePrivateIfc* getPrivateImpl() = 0;
 
     // Item state
@@ -44,7 +45,8 @@ protected:
     Displayable();
 
     /// The deletion of a screen's private on the GUI thread: retires the handle and takes it out of the
-    /// registry and off the stack. What is left is to delete the private.
+    /// registry and off the stack. What is left is to delete the private. A class of the application's own that has
+    /// a half calls it first in its destructor.
     void retireScreen();
 
 private:
