@@ -68,8 +68,7 @@ INSTANTIATE_TEST_SUITE_P(PopupNotification, EveryScreenTest,
             {"setDismissible", [](auto& popup, auto&) { popup.setDismissible(true); }, false},
             {"time-out", [](auto&, auto& stage) { stage.advance(3000); }},
             {"dismiss", [](auto& popup, auto&) { popup.dismiss(); }},
-        },
-        [](PopupNotification&) { return std::string(); }));
+        }));
 
 TEST_F(PopupNotificationTest, EachTypeHasItsIconAndItsWord)
 {

@@ -28,8 +28,7 @@ INSTANTIATE_TEST_SUITE_P(PopupProgress, EveryScreenTest,
             {"updateProgressBar", [](auto& popup, auto&) { popup.updateProgressBar(40); }, false},
             {"a key", [](auto&, auto& stage) { stage.press(UGlobal::KeyOk); }, false},
             {"dismiss", [](auto& popup, auto&) { popup.dismiss(); }},
-        },
-        [](PopupProgress&) { return std::string(); }));
+        }));
 
 TEST_F(PopupProgressTest, TheEmptyLineStandsBeforeTheStatusLines)
 {

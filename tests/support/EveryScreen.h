@@ -99,9 +99,11 @@ std::vector<Change<Base>> forBase(const std::vector<Change<Class>>& changes)
     return all;
 }
 
+/// A family without getters leaves the last argument out.
 template <typename Screen>
-auto screenFamily(std::function<std::unique_ptr<Screen>(Stage&)> make, const std::vector<Change<Screen>>& changes,
-    std::function<std::string(Screen&)> tell)
+auto screenFamily(
+    std::function<std::unique_ptr<Screen>(Stage&)> make, const std::vector<Change<Screen>>& changes,
+    std::function<std::string(Screen&)> tell = [](Screen&) { return std::string(); })
 {
     using Base = DisplayAPI::Displayable;
     return testing::Values(ScreenFamily{
