@@ -77,9 +77,9 @@ double pingPong(long rounds)
 }
 
 /// The time for each call when so many threads call at once, each on a handle of its own or all on one.
-double synchronousCalls(int callers, long callsEach, bool onOneHandle)
+double synchronousCalls(int callers, long callsEach, bool onOneHandle, Phone::Reader reader = Phone::Reader::None)
 {
-    Phone phone;
+    Phone phone(reader);
     std::vector<std::unique_ptr<Probe>> probes;
     for (int i = 0; i < (onOneHandle ? 1 : callers); ++i)
         probes.push_back(std::make_unique<Probe>());
@@ -138,6 +138,8 @@ void registerFrameBenchmarks(const std::string& mode)
     });
     using Report::NoLimit;
     registerRatio(mode, "synchronous call, 1 caller", Calls, 1.0, [] { return synchronousCalls(1, Calls, false); });
+    registerRatio(mode, "synchronous call, 1 caller, with a subscriber", Calls, NoLimit,
+        [] { return synchronousCalls(1, Calls, false, Phone::Reader::Subscribed); });
     registerRatio(
         mode, "synchronous call, 4 callers", Calls, 1.0, [] { return synchronousCalls(4, Calls / 4, false); });
     registerRatio(mode, "synchronous call, 4 callers of one handle", Calls, NoLimit,

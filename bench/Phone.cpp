@@ -24,12 +24,13 @@ double nowInNanoseconds()
     return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-Phone::Phone()
+Phone::Phone(Reader reader)
 {
     std::promise<void> ready;
-    mGuiThread = std::thread([this, &ready] {
+    mGuiThread = std::thread([this, reader, &ready] {
         mDisplay = std::make_unique<Display>("Benchmark", "Zelmark SIP", "en", "", "", false, nullptr);
-        mDisplay->subscribe(&mSubscriber);
+        if (reader == Reader::Subscribed)
+            mDisplay->subscribe(&mSubscriber);
         mDisplay->show();
         ready.set_value();
         mDisplay->exec();

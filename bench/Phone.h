@@ -19,7 +19,11 @@ double nowInNanoseconds();
 /// A display whose loop runs on a thread of its own, so that the benchmark is an application.
 class Phone {
 public:
-    Phone();
+    enum class Reader {
+        None,
+        Subscribed,
+    };
+    explicit Phone(Reader reader = Reader::Subscribed);
     ~Phone();
 
     /// Runs a function on the GUI thread, and returns after it.

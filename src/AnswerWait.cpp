@@ -1,12 +1,12 @@
 #include "AnswerWait.h"
 
-#include "DisplayPrivate.h"
-
 #include <Log.h>
 
 namespace DisplayAPI {
 
 std::atomic<int> answerPatience = 5000;
+std::atomic<bool> isLoopRunning = false;
+std::atomic<bool> isSubscribed = false;
 
 void logMissingAnswer(const WaitingRequest& request)
 {
@@ -16,7 +16,7 @@ void logMissingAnswer(const WaitingRequest& request)
         return;
     logAppUni(module, "src/AnswerWait", level, __LINE__,
         "Request %d of a %s waits for the GUI thread, %s. Does that thread wait for this one?", request.type(),
-        request.handle(), DisplayPrivate::isLoopRunning() ? "whose loop is busy" : "which runs no loop");
+        request.handle(), isLoopRunning ? "whose loop is busy" : "which runs no loop");
 }
 
 }

@@ -29,6 +29,14 @@ private:
 /// After how many milliseconds without an answer a line in the log tells who waits.
 extern std::atomic<int> answerPatience;
 
+// What may keep the GUI thread from answering, of the whole process
+
+/// Whether a display runs the loop.
+extern std::atomic<bool> isLoopRunning;
+
+/// Whether there is a subscriber, whose code runs on the GUI thread and may wait for the caller.
+extern std::atomic<bool> isSubscribed;
+
 /// Tells the log that the GUI thread does not answer.
 void logMissingAnswer(const WaitingRequest& request);
 
@@ -46,7 +54,10 @@ inline Gate::End waitWithin(Semaphore& answer, int milliseconds)
 template <typename Answer>
 bool awaitAnswer(Answer& answer, const WaitingRequest& request)
 {
-    Gate::End end = waitWithin(answer, answerPatience.load(std::memory_order_relaxed));
+    // A timer for each call would be a tenth of its cost, so it is set only where something may keep the answer back.
+    constexpr auto relaxed = std::memory_order_relaxed;
+    const bool mayBeKept = !isLoopRunning.load(relaxed) || isSubscribed.load(relaxed);
+    Gate::End end = waitWithin(answer, mayBeKept ? answerPatience.load(relaxed) : -1);
     if (end == Gate::End::TimeUp) {
         logMissingAnswer(request);
         end = waitWithin(answer, -1);

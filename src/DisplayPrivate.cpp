@@ -3,6 +3,7 @@
 #include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/Widget.h>
 
+#include "AnswerWait.h"
 #include "AssertGuiThread.h"
 #include "CommandExecutor.h"
 #include "ContentWidgetFactory.h"
@@ -16,17 +17,12 @@
 #include <Log.h>
 #include <StatusVolumeMEG.h>
 
-#include <atomic>
-
 namespace DisplayAPI {
 
 namespace {
 
 constexpr const char* LogModule = "DisplayAPI::DisplayPrivate";
 constexpr int FaultLevel = 2;
-
-// There is one loop for the process, whatever displays there are.
-std::atomic<bool> gIsLoopRunning = false;
 
 void refuseLoop(const char* reason, int line)
 {
@@ -215,7 +211,7 @@ void DisplayPrivate::exec()
         refuseLoop("this is not the GUI thread", __LINE__);
         return;
     }
-    if (gIsLoopRunning.exchange(true)) {
+    if (isLoopRunning.exchange(true)) {
         refuseLoop("the loop runs already", __LINE__);
         return;
     }
@@ -224,7 +220,7 @@ void DisplayPrivate::exec()
         ~End()
         {
             CommandExecutor::closeDeliveries();
-            gIsLoopRunning = false;
+            isLoopRunning = false;
         }
     };
     const End end;
@@ -238,11 +234,6 @@ void DisplayPrivate::exec()
         mExecFinished = true;
 }
 
-bool DisplayPrivate::isLoopRunning()
-{
-    return gIsLoopRunning;
-}
-
 void DisplayPrivate::shutdown()
 {
     if (auto* application = VantoUApplication::getCurrentApplication())
@@ -254,12 +245,14 @@ void DisplayPrivate::shutdown()
 void DisplayPrivate::subscribe(DisplayEventIfc* listener)
 {
     CriticalSection section(mListenerLock);
+    isSubscribed = listener != nullptr;
     mDisplayChangeListener = Living<DisplayEventIfc>(listener);
 }
 
 void DisplayPrivate::unSubscribe()
 {
     CriticalSection section(mListenerLock);
+    isSubscribed = false;
     mDisplayChangeListener = {};
 }
 

@@ -59,9 +59,6 @@ public:
     /// Tells the current screen that it has lost the focus, and gives its widget back; the stack stays.
     void removeOldCurrent();
     bool execFinished() const { return mExecFinished; }
-
-    /// Whether a display of this process runs the loop. Threads: any.
-    static bool isLoopRunning();
     ContentWidgetIfc* getContentWidget() const { return mContent.get(); }
 
     // Screen text
