@@ -232,15 +232,14 @@ bool ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
 
 void ListBoxPrivate::setTitle(const std::string& title)
 {
-    mTitleInfo.forget();
-    showTitle(title + mTitleSuffix);
+    showTitle(mTitleInfo.show(title) + mTitleSuffix);
     generateDisplayChangedEvent();
 }
 
 void ListBoxPrivate::setTitle(TranslationInfo* title)
 {
-    mTitleInfo.take(title);
-    showTitle(title ? title->getCompleteString() + mTitleSuffix : std::string());
+    const std::string text = mTitleInfo.show(title);
+    showTitle(title ? text + mTitleSuffix : text);
     translateBack();
     generateDisplayChangedEvent();
 }

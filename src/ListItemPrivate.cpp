@@ -55,26 +55,22 @@ void ListItemPrivate::localeChanged(std::string)
 
 void ListItemPrivate::setText(std::string text)
 {
-    mTextInfo.forget();
-    showText(text);
+    showText(mTextInfo.show(text));
 }
 
 void ListItemPrivate::setText(TranslationInfo* text)
 {
-    mTextInfo.take(text);
-    showText(mTextInfo.completeString());
+    showText(mTextInfo.show(text));
 }
 
 void ListItemPrivate::setRightText(std::string text)
 {
-    mRightTextInfo.forget();
-    showRightText(text);
+    showRightText(mRightTextInfo.show(text));
 }
 
 void ListItemPrivate::setRightText(TranslationInfo* text)
 {
-    mRightTextInfo.take(text);
-    showRightText(mRightTextInfo.completeString());
+    showRightText(mRightTextInfo.show(text));
 }
 
 void ListItemPrivate::startInfiniteProgressBar()
