@@ -85,12 +85,12 @@ List::List(bool hasBackItem)
 
 List::~List()
 {
-    end();
+    destroy();
 }
 
-void List::end()
+void List::destroy()
 {
-    if (std::exchange(mHasEnded, true))
+    if (std::exchange(mIsDestroyed, true))
         return;
     if (Road::wait(this, Request::Destroy))
         return cleanup();

@@ -80,13 +80,15 @@ ListItem::ListItem(ListItemPrivateIfc* rowPrivate)
 
 ListItem::~ListItem()
 {
-    end();
+    destroy();
 }
 
-void ListItem::end()
+void ListItem::destroy()
 {
-    if (exists(this) && Road::wait(this, Request::Destroy))
-        destroy();
+    if (exists(this) && Road::wait(this, Request::Destroy)) {
+        retireRow(mPrivate);
+        delete mPrivate.exchange(nullptr);
+    }
     if (!exists(this))
         return;
     // Refused, since the loop has ended: a list that has the row finds out when it asks.
@@ -215,12 +217,6 @@ void ListItem::retireRow(ListItemPrivateIfc* rowPrivate)
     leave();
     if (RowHolder* holder = std::exchange(mHolder, nullptr))
         holder->rowDies(self, rowPrivate);
-}
-
-void ListItem::destroy()
-{
-    retireRow(mPrivate);
-    delete mPrivate.exchange(nullptr);
 }
 
 }

@@ -251,7 +251,7 @@ protected:
     /// What the destructor does, on any thread: the half and the rows are deleted on the GUI thread, by cleanup(), and
     /// the caller waits. A subclass calls it first in its own destructor, so that no earlier request meets an object
     /// that is half gone; behind that it does nothing.
-    void end();
+    void destroy();
 
     std::unique_ptr<ListBoxPrivateIfc> mPrivate;
 
@@ -283,7 +283,7 @@ private:
     std::unique_ptr<HeldDialer> mDialer;
     Ticker* mTicker = nullptr;
     std::atomic<bool> mHasBackItem;
-    bool mHasEnded = false;
+    bool mIsDestroyed = false; // or about to be
 };
 
 }

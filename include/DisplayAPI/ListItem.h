@@ -101,7 +101,7 @@ protected:
     /// What the destructor does, on any thread: the half is deleted on the GUI thread, and the caller waits. A
     /// subclass calls it first in its own destructor, so that no earlier request meets an object that is half gone;
     /// behind that, and behind retireRow(), it does nothing.
-    void end();
+    void destroy();
 
     /// Takes the private over, and deletes an earlier one.
     void setPrivate(ListItemPrivateIfc* rowPrivate);
@@ -118,8 +118,6 @@ private:
     enum class Request : int;
 
     friend class HeldRows;
-
-    void destroy();
 
     // Another thread may read the icon while the GUI thread makes the private.
     std::atomic<ListItemPrivateIfc*> mPrivate = nullptr;
