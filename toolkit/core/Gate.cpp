@@ -1,57 +1,6 @@
 #include "Gate.h"
 
 #include <algorithm>
-#include <chrono>
-
-#if TOOLKIT_PORTABLE_GATE
-
-Gate::Gate(std::uint32_t count, std::uint32_t maximum)
-    : mMaximum(std::min(maximum, CountMask))
-    , mCount(std::min(count, mMaximum))
-{
-}
-
-Gate::End Gate::passWithin(int milliseconds)
-{
-    disturb();
-    std::unique_lock lock(mMutex);
-    auto isOpen = [this] { return mCount > 0 || mAbandoned; };
-    bool isInTime = true;
-    ++mSleepers;
-    if (milliseconds < 0)
-        mChanged.wait(lock, isOpen);
-    else
-        isInTime = mChanged.wait_for(lock, std::chrono::milliseconds(milliseconds), isOpen);
-    --mSleepers;
-    if (!isInTime)
-        return End::TimeUp;
-    if (mCount == 0) {
-        mAbandoned = false;
-        return End::Abandoned;
-    }
-    --mCount;
-    return End::Passed;
-}
-
-// Both notify under the mutex: the waiter may destroy the gate as soon as it gets the mutex.
-void Gate::open()
-{
-    disturb();
-    std::lock_guard lock(mMutex);
-    if (mCount < mMaximum)
-        ++mCount;
-    mChanged.notify_one();
-}
-
-void Gate::abandon()
-{
-    std::lock_guard lock(mMutex);
-    mAbandoned = true;
-    mChanged.notify_one();
-}
-
-#else
-
 #include <cerrno>
 #include <ctime>
 #include <linux/futex.h>
@@ -128,5 +77,3 @@ void Gate::abandon()
     if (word >= OneSleeper)
         wakeOne(&mWord);
 }
-
-#endif

@@ -6,15 +6,6 @@
 #include <atomic>
 #include <cstdint>
 
-#if !defined(__linux__) && !defined(TOOLKIT_PORTABLE_GATE)
-#define TOOLKIT_PORTABLE_GATE 1
-#endif
-
-#if TOOLKIT_PORTABLE_GATE
-#include <condition_variable>
-#include <mutex>
-#endif
-
 /// The one place where threads of the toolkit sleep: a counter that never goes above its maximum, with an
 /// end that lets a waiter go without a count.
 ///
@@ -50,27 +41,17 @@ public:
 
 private:
     static constexpr std::uint32_t CountMask = 0x7FFF;
-
-    const std::uint32_t mMaximum;
-#if TOOLKIT_PORTABLE_GATE
-    std::mutex mMutex;
-    std::condition_variable mChanged;
-    bool mAbandoned = false;
-    std::uint32_t mSleepers = 0;
-    std::uint32_t mCount;
-#else
     static constexpr std::uint32_t Abandoned = 0x8000;
     static constexpr std::uint32_t OneSleeper = 0x10000;
 
     End passSlowly(int milliseconds);
     static void wakeOne(std::atomic<std::uint32_t>* word);
 
+    const std::uint32_t mMaximum;
+
     // Bits 0 to 14 count, bit 15 is the abandonment, the bits above count the sleepers.
     std::atomic<std::uint32_t> mWord;
-#endif
 };
-
-#if !TOOLKIT_PORTABLE_GATE
 
 inline Gate::End Gate::passWithin(int milliseconds)
 {
@@ -94,5 +75,3 @@ inline void Gate::open()
     if (next >= OneSleeper)
         wakeOne(&mWord);
 }
-
-#endif
