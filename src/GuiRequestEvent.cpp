@@ -1,6 +1,7 @@
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/Widget.h>
 
+#include "ExceptionLog.h"
 #include "WidgetImpl.h"
 
 #include <EventPool.h>
@@ -41,7 +42,12 @@ void GuiRequestEvent::process()
         return;
     if (mOwned)
         freeOwned(false);
-    mRequester->processGuiRequest(*this);
+    runAndLogExceptions(
+        "src/GuiRequestEvent", __LINE__, [this] { mRequester->processGuiRequest(*this); },
+        [this] {
+            const std::string handle = mImpl->isRetired() ? "handle that has gone" : mRequester->widgetName();
+            return "Request " + std::to_string(mRequestType) + " of a " + handle;
+        });
 }
 
 bool GuiRequestEvent::waitForCompletion()

@@ -15,9 +15,14 @@ class WidgetImpl;
 /// A handle's operation asks isGuiThread(). There it acts at once; elsewhere it posts a request, which runs the
 /// same operation again on the GUI thread. All requests of a handle run in the order of posting.
 ///
-/// Threads: a handle may be made, used and destroyed on any thread. Ownership: a handle must outlive the calls
-/// on it; destroying it waits until what was posted before has run.
-/// Errors: a call whose request can't run any more, since the event loop has ended, returns its default.
+/// Threads: a handle may be made, used and destroyed on any thread. While no display has named the GUI thread, every
+/// thread counts as it. A call of another thread before Display::exec() lies in the queue until the loop runs: one
+/// that waits for its answer waits so long, and the GUI thread must not wait for that thread meanwhile. A caller who
+/// has waited five seconds says so in the log, and goes on waiting.
+/// Ownership: a handle must outlive the calls on it; destroying it waits until what was posted before has run.
+/// Errors: a call whose request can't run any more, since the event loop has ended, returns its default. An exception
+/// that leaves a request, from an application's own class or inside a notice, comes out of Display::exec(), behind a
+/// line in the log.
 class DISPLAYAPI_EXPORT Widget {
 public:
     virtual ~Widget();
