@@ -2,11 +2,25 @@
 
 #include <Log.h>
 
+#include <cstdlib>
+#include <cxxabi.h>
+#include <memory>
+
 namespace DisplayAPI {
 
 std::atomic<int> answerPatience = 5000;
 std::atomic<bool> isLoopRunning = false;
 std::atomic<bool> isSubscribed = false;
+
+std::string WaitingRequest::handle() const
+{
+    int status = 0;
+    const std::unique_ptr<char, decltype(&std::free)> readable(
+        abi::__cxa_demangle(mHandle->name(), nullptr, nullptr, &status), &std::free);
+    const std::string name = readable ? readable.get() : mHandle->name();
+    const std::string own = "DisplayAPI::";
+    return name.starts_with(own) ? name.substr(own.size()) : name;
+}
 
 void logMissingAnswer(const WaitingRequest& request)
 {
@@ -16,7 +30,7 @@ void logMissingAnswer(const WaitingRequest& request)
         return;
     logAppUni(module, "src/AnswerWait", level, __LINE__,
         "Request %d of a %s waits for the GUI thread, %s. Does that thread wait for this one?", request.type(),
-        request.handle(), isLoopRunning ? "whose loop is busy" : "which runs no loop");
+        request.handle().c_str(), isLoopRunning ? "whose loop is busy" : "which runs no loop");
 }
 
 }

@@ -2,27 +2,28 @@
 
 #include <Semaphore.h>
 
-#include <algorithm>
-#include <array>
 #include <atomic>
-#include <string_view>
+#include <string>
+#include <typeinfo>
 
 namespace DisplayAPI {
 
-/// Which request of which handle a thread waits for. It holds copies, since the handle may go meanwhile.
+/// Which request of which handle a thread waits for. The handle is known by its class: it may go meanwhile, and its
+/// name is the GUI thread's.
 class WaitingRequest {
 public:
-    WaitingRequest(std::string_view handle, int type)
-        : mType(type)
+    WaitingRequest(const std::type_info& handle, int type)
+        : mHandle(&handle)
+        , mType(type)
     {
-        std::copy_n(handle.begin(), std::min(handle.size(), mHandle.size() - 1), mHandle.begin());
     }
 
-    const char* handle() const { return mHandle.data(); }
+    /// The class, as "PopupConfirm".
+    std::string handle() const;
     int type() const { return mType; }
 
 private:
-    std::array<char, 32> mHandle{};
+    const std::type_info* mHandle;
     int mType;
 };
 
