@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cxxabi.h>
 #include <memory>
+#include <utility>
 
 namespace DisplayAPI {
 
@@ -22,15 +23,15 @@ std::string WaitingRequest::handle() const
     return name.starts_with(own) ? name.substr(own.size()) : name;
 }
 
-void logMissingAnswer(const WaitingRequest& request)
+void WaitingRequest::logDelay()
 {
     constexpr const char* module = "DisplayAPI";
     constexpr int level = 2;
-    if (!loggingOnAppUni(module, level))
+    if (std::exchange(mIsLogged, true) || !loggingOnAppUni(module, level))
         return;
     logAppUni(module, "src/AnswerWait", level, __LINE__,
-        "Request %d of a %s waits for the GUI thread, %s. Does that thread wait for this one?", request.type(),
-        request.handle().c_str(), isLoopRunning ? "whose loop is busy" : "which runs no loop");
+        "Request %d of a %s waits for the GUI thread, %s. Does that thread wait for this one?", mType, handle().c_str(),
+        isLoopRunning ? "whose loop is busy" : "which runs no loop");
 }
 
 }

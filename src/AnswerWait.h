@@ -22,9 +22,13 @@ public:
     std::string handle() const;
     int type() const { return mType; }
 
+    /// Tells the log, the first time, that the GUI thread does not answer.
+    void logDelay();
+
 private:
     const std::type_info* mHandle;
     int mType;
+    bool mIsLogged = false;
 };
 
 /// After how many milliseconds without an answer a line in the log tells who waits.
@@ -38,9 +42,6 @@ extern std::atomic<bool> isLoopRunning;
 /// Whether there is a subscriber, whose code runs on the GUI thread and may wait for the caller.
 extern std::atomic<bool> isSubscribed;
 
-/// Tells the log that the GUI thread does not answer.
-void logMissingAnswer(const WaitingRequest& request);
-
 inline Gate::End waitWithin(Wait& answer, int milliseconds)
 {
     return answer.waitWithin(milliseconds);
@@ -53,14 +54,14 @@ inline Gate::End waitWithin(Semaphore& answer, int milliseconds)
 
 /// Waits for the GUI thread's answer, without limit. False if it will never come.
 template <typename Answer>
-bool awaitAnswer(Answer& answer, const WaitingRequest& request)
+bool awaitAnswer(Answer& answer, WaitingRequest& request)
 {
     // A timer for each call would be a tenth of its cost, so it is set only where something may keep the answer back.
     constexpr auto relaxed = std::memory_order_relaxed;
     const bool mayBeKept = !isLoopRunning.load(relaxed) || isSubscribed.load(relaxed);
     Gate::End end = waitWithin(answer, mayBeKept ? answerPatience.load(relaxed) : -1);
     if (end == Gate::End::TimeUp) {
-        logMissingAnswer(request);
+        request.logDelay();
         end = waitWithin(answer, -1);
     }
     return end == Gate::End::Passed;

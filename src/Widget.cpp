@@ -45,10 +45,10 @@ void Widget::postEvent(GuiRequestEvent* event) const
     // Behind the wait for the lock the handle itself may have gone: nothing of it is read from there on.
     if (!event)
         event = requestWithoutArguments(-1);
-    const WaitingRequest waiting(typeid(*this), event->getType());
+    WaitingRequest waiting(typeid(*this), event->getType());
     WidgetImpl& impl = *mImpl;
     const WidgetImpl::User user(impl);
-    impl.lock.take(-1);
+    awaitAnswer(impl.lock, waiting);
 
     if (Wait* callersWait = event->waitCondition()) {
         postToApplication(event);
