@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Runnable.h"
+#include "DisplayThread.h"
 
 #include <Semaphore.h>
 

@@ -3,10 +3,10 @@
 #include <DisplayAPI/ContextMenu.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
 #include "CommandText.h"
 #include "ContextMenuText.h"
+#include "CurrentApplication.h"
+#include "GuiThread.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>

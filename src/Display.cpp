@@ -5,8 +5,8 @@
 
 #include "AnswerWait.h"
 #include "DisplayPrivate.h"
+#include "GuiThread.h"
 #include "LivingSet.h"
-#include "PostToApplication.h"
 #include "Road.h"
 
 #include <Semaphore.h>

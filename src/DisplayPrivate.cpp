@@ -4,12 +4,12 @@
 #include <DisplayAPI/Widget.h>
 
 #include "AnswerWait.h"
-#include "AssertGuiThread.h"
 #include "CommandExecutor.h"
 #include "ContentWidgetFactory.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "ExceptionLog.h"
+#include "GuiThread.h"
 #include "Road.h"
 #include "VantoUApplicationFactory.h"
 

@@ -3,10 +3,10 @@
 #include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/DisplayablePrivate.h>
 
-#include "BuiltInTexts.h"
 #include "ContentWidgetIfc.h"
 #include "CurrentApplication.h"
 #include "Road.h"
+#include "TranslationHolder.h"
 
 #include <StatusVolumeMEG.h>
 #include <VantoListBoxMEG.h>

@@ -1,13 +1,18 @@
 #pragma once
 
-#include "Runnable.h"
-
 #include <Semaphore.h>
 #include <Threadable.h>
 
 #include <atomic>
 
 namespace DisplayAPI {
+
+/// A job for a DisplayThread, which deletes it after run().
+class Runnable {
+public:
+    virtual ~Runnable() = default;
+    virtual void run() = 0;
+};
 
 /// A worker: sleeps until it gets a job, runs it, and then waits for the next one or ends.
 ///

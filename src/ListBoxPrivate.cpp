@@ -4,11 +4,11 @@
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
-#include "BuiltInTexts.h"
+#include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
+#include "GuiThread.h"
 #include "Serialiser.h"
+#include "TranslationHolder.h"
 
 #include <TreeItemMEG.h>
 #include <UApplication.h>

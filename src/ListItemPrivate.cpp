@@ -1,6 +1,6 @@
 #include "ListItemPrivate.h"
 
-#include "AssertGuiThread.h"
+#include "GuiThread.h"
 
 #include <CallRowsMEG.h>
 

@@ -4,9 +4,9 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
-#include "CommandRow.h"
+#include "CommandText.h"
+#include "CurrentApplication.h"
+#include "GuiThread.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>

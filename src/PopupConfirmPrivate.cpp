@@ -3,11 +3,11 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
-#include "BuiltInTexts.h"
-#include "CommandRow.h"
+#include "CommandText.h"
+#include "CurrentApplication.h"
+#include "GuiThread.h"
 #include "ScreenTextWriter.h"
+#include "TranslationHolder.h"
 
 #include <EventTypes.h>
 #include <PopupCallMEG.h>

@@ -3,8 +3,8 @@
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
+#include "CurrentApplication.h"
+#include "GuiThread.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>

@@ -1,7 +1,7 @@
 #include "PopupProgressPrivate.h"
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
+#include "CurrentApplication.h"
+#include "GuiThread.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>

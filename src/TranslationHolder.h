@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TranslationInfo.h>
+#include <UString.h>
 
 #include <memory>
 #include <string>
@@ -62,5 +63,16 @@ public:
 private:
     std::unique_ptr<TranslationInfo> mInfo;
 };
+
+/// The labels of the rows that list boxes have of their own, in a translator's words.
+inline UString backText(TranslatorIfc* translator)
+{
+    return UString(TranslationInfo("", "Back", "?", translator).getCompleteString());
+}
+
+inline UString deleteText(TranslatorIfc* translator)
+{
+    return UString(TranslationInfo("", "Speller.menu.Delete", "?", translator).getCompleteString());
+}
 
 }

@@ -2,7 +2,7 @@
 #include <DisplayAPI/Widget.h>
 
 #include "AnswerWait.h"
-#include "PostToApplication.h"
+#include "GuiThread.h"
 #include "WidgetImpl.h"
 
 #include <Threadable.h>

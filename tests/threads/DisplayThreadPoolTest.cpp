@@ -1,7 +1,6 @@
 #include "DisplayThreadPool.h"
 #include "DisplayThread.h"
 #include "Disturbance.h"
-#include "Runnable.h"
 #include "Semaphore.h"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,9 @@
 
 #include <DisplayAPI/Widget.h>
 
+#include <UApplication.h>
+#include <UEvent.h>
+
 #include <cassert>
 
 namespace DisplayAPI {
@@ -11,6 +14,15 @@ namespace DisplayAPI {
 inline void assertGuiThread()
 {
     assert(Widget::isGuiThread() && "this is the GUI thread's work: post a request instead");
+}
+
+/// Hands an event to the application's queue; without an application it is destroyed, which lets its waiter go.
+inline void postToApplication(UEvent* event)
+{
+    if (UApplication* application = UApplication::instance())
+        application->postEvent(event);
+    else
+        delete event;
 }
 
 }
