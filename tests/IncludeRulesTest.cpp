@@ -26,7 +26,7 @@ const Rule Rules[] = {
     {"include", std::regex("DisplayAPI/.*|[a-z_]+"),
         {"Rect.h", "TranslationInfo.h", "Types.h", "UAgent.h", "UEvent.h", "UWidget.h"}},
     {"examples", std::regex("DisplayAPI/.*|PhoneSimulator/.*|[a-z_]+|\"[A-Za-z]+\\.h"), {}},
-    {"src", std::regex("DisplayAPI/.*|[a-z_]+|\"?[A-Z][A-Za-z0-9]+\\.h"), {"pthread.h"}},
+    {"src", std::regex("DisplayAPI/.*|[a-z_]+|\"?[A-Z][A-Za-z0-9]+\\.h"), {"cxxabi.h", "pthread.h"}},
     {"toolkit", std::regex("[a-z_]+|\"?[A-Z][A-Za-z0-9]+\\.h"),
         {"linux/futex.h", "pthread.h", "sched.h", "sys/syscall.h", "unistd.h"}},
 };
