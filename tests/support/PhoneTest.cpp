@@ -76,6 +76,8 @@ void PhoneTest::elsewhere(const std::function<void()>& function)
 
 void PhoneTest::endLoop()
 {
+    // Behind an earlier loop the queue is closed: a shutdown before exec() would be refused, and nothing end the loop.
+    ULoop::instance().open();
     std::thread application([this] { display->shutdown(); });
     display->exec();
     application.join();
