@@ -2,8 +2,8 @@
 
 #include <DisplayAPI/CallPartyIdentifier.h>
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
+#include "CurrentApplication.h"
+#include "GuiThread.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>

@@ -1,8 +1,7 @@
 #include "DesktopPrivate.h"
 
-#include "ApplicationListener.h"
-#include "AssertGuiThread.h"
 #include "CurrentApplication.h"
+#include "GuiThread.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
