@@ -247,16 +247,14 @@ void List::privateSetDialer(PopupDialer* dialer)
 {
     if (dialer && !displayableExists(dialer))
         return;
-    mDialer = std::make_unique<HeldDialer>();
-    mDialer->handle = dialer;
-    mDialer->half = dialer ? dynamic_cast<UAgent*>(dialer->getPrivateImpl()) : nullptr;
+    mDialer = std::make_unique<HeldDialer>(dialer);
     if (mPrivate)
         mPrivate->setDialler(dialer);
 }
 
 PopupDialer* List::livingDialer() const
 {
-    return mDialer && mDialer->half && displayableExists(mDialer->handle) ? mDialer->handle : nullptr;
+    return mDialer ? mDialer->get() : nullptr;
 }
 
 void List::copyItemsTo(std::vector<ListItem*>* copy) const

@@ -2,9 +2,8 @@
 
 #include <DisplayAPI/List.h>
 
+#include "HeldDialer.h"
 #include "HeldRows.h"
-
-#include <UAgent.h>
 
 namespace DisplayAPI {
 
@@ -30,12 +29,6 @@ protected:
 
 private:
     List& mList;
-};
-
-/// The dialer of a list, which its application may delete. Its half tells it from a later one at its address.
-struct List::HeldDialer {
-    PopupDialer* handle;
-    UPointer<UAgent> half;
 };
 
 }

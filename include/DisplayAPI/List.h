@@ -14,6 +14,7 @@ namespace DisplayAPI {
 
 class Command;
 class CommandListener;
+class HeldDialer;
 class Image;
 class ListBoxPrivateIfc;
 class ListItem;
@@ -258,7 +259,6 @@ protected:
 private:
     enum class Request : int;
     class Rows;
-    struct HeldDialer;
 
     // The steps of the requests, on the GUI thread
     void create(bool hasBackItem);
