@@ -5,6 +5,7 @@
 #include "CommandText.h"
 #include "CurrentApplication.h"
 #include "GuiThread.h"
+#include "IdleDisplayPrivate.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>
@@ -44,6 +45,7 @@ PopupDialerPrivate::PopupDialerPrivate(Displayable* owner, bool flag)
 PopupDialerPrivate::~PopupDialerPrivate()
 {
     assertGuiThread();
+    uncoverParent();
 }
 
 // Lines
@@ -244,10 +246,19 @@ void PopupDialerPrivate::setParentIdleDisplay(UWidget* idleDisplay)
 {
     logAppUni(LogModule, LogFile, TraceLevel, __LINE__,
         "PopupDialerPrivate::setParentIdleDisplay() setting parent - %p", static_cast<void*>(idleDisplay));
+    if (mParent.get() != idleDisplay)
+        uncoverParent();
     mParent = idleDisplay;
     auto* screen = dynamic_cast<DisplayablePrivate*>(idleDisplay);
     if (screen && screen->getWidget() && mWidget)
         mWidget->show();
+}
+
+/// An idle screen that stayed covered by a dialer that has gone would take no keys any more.
+void PopupDialerPrivate::uncoverParent()
+{
+    if (auto* idleDisplay = dynamic_cast<IdleDisplayPrivate*>(mParent.get()))
+        idleDisplay->uncover();
 }
 
 void PopupDialerPrivate::show()
@@ -283,6 +294,8 @@ bool PopupDialerPrivate::keyEvent(UKeyEvent* key)
         return false;
     LifeNode life(this);
     mIsHandingOn = true;
+    if (auto* idleDisplay = dynamic_cast<IdleDisplayPrivate*>(mParent.get()))
+        idleDisplay->showDialer(true);
     mParent->keyEvent(key);
     if (life.isAlive())
         mIsHandingOn = false;

@@ -110,6 +110,7 @@ private:
     void writeEditLine(const std::string& text);
     std::vector<Living<Command>>::iterator find(MenuCommand* command);
     CommandRow* rowOf(const Living<Command>& command) const;
+    void uncoverParent();
     void cameUp();
     void refreshDiallerWidgets();
     void leftBackEvent();
