@@ -11,6 +11,19 @@ namespace DisplayAPI {
 
 std::atomic<unsigned int> HeldRows::refusedDeaths = 0;
 
+HeldRows::Step::Step(HeldRows& rows)
+    : mRows(&rows)
+    , mOuter(rows.mSteps)
+{
+    rows.mSteps = this;
+}
+
+HeldRows::Step::~Step()
+{
+    if (mRows)
+        mRows->mSteps = mOuter;
+}
+
 HeldRows::~HeldRows()
 {
     endSteps();

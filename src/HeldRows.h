@@ -28,17 +28,8 @@ public:
     /// Stands on the stack across notices and tells whether these rows are still held.
     class Step {
     public:
-        explicit Step(HeldRows& rows)
-            : mRows(&rows)
-            , mOuter(rows.mSteps)
-        {
-            rows.mSteps = this;
-        }
-        ~Step()
-        {
-            if (mRows)
-                mRows->mSteps = mOuter;
-        }
+        explicit Step(HeldRows& rows);
+        ~Step();
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
         explicit operator bool() const { return mRows != nullptr; }
