@@ -143,6 +143,20 @@ TEST_F(DisplayEndTest, AnExceptionOfTheSubscriberIsLoggedAndComesOutOfExec)
             "Request 1 of the display was left by an exception: no reader."}));
 }
 
+TEST_F(DisplayEndTest, AnExceptionOfARequestNamesTheHandle)
+{
+    const FaultLog log;
+    PopupConfirm popup(true);
+    display->setCurrent(&popup);
+    changes.onNextNotice = [] { throw std::runtime_error("no reader"); };
+    std::thread application([&popup] { popup.setText("Delete entry?"); });
+    EXPECT_THROW(display->exec(), std::runtime_error);
+    application.join();
+    EXPECT_EQ(log.texts(),
+        (std::vector<std::string>{"The notice of screen \"PopupConfirm\" was left by an exception: no reader.",
+            "Request 4 of a PopupConfirm was left by an exception: no reader."}));
+}
+
 TEST_F(DisplayEndTest, WhoGetsNoAnswerSaysWhatItWaitsForAndGoesOnWaiting)
 {
     const FaultLog log;
