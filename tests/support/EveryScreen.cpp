@@ -56,7 +56,7 @@ PromiseTest::~PromiseTest()
 
 void PromiseTest::comeTo(Moment moment)
 {
-    if (moment != WhileTheLoopRuns)
+    if (moment != WhileTheLoopRuns && stage.hasLoop)
         endLoop();
     if (moment >= BehindTheDisplay)
         endDisplay();

@@ -136,7 +136,7 @@ protected:
 
     ~PromiseTest() override;
 
-    /// Brings a telephone whose loop runs to a moment.
+    /// Brings the telephone to a moment from an earlier one.
     void comeTo(Moment moment);
 
     /// Runs a function here, or on another thread, whether there is a loop or not.
