@@ -342,6 +342,8 @@ TEST_F(DisplayStackTest, AHalfThatWasKeptFindsNoDisplayButItsOwn)
 #ifndef NDEBUG
 TEST_F(DisplayStackTest, AnotherThreadIsStoppedAtTheDoor)
 {
+    // A plain fork takes a lock along that another test's worker may hold.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     constexpr unsigned int otherThread = 4'000'000'000U;
     EXPECT_DEATH(
         {
