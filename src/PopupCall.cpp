@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupCall.h>
 #include <DisplayAPI/PopupCallPrivateIfc.h>
 
+#include "PartyText.h"
 #include "PopupCallPrivate.h"
 #include "Road.h"
 
@@ -106,11 +107,7 @@ void PopupCall::setText(TranslationInfo* text)
 
 void PopupCall::setLine1Text(const CallPartyIdentifier& party)
 {
-    std::string text;
-    if (party.getInterimNameNumber(text, false))
-        setText(text);
-    else
-        setText(new TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator));
+    showNameElseNumber(party, [this](const auto& text) { setText(text); });
 }
 
 void PopupCall::setLine2PrefixText(const std::string& text)
@@ -139,11 +136,7 @@ void PopupCall::setLine2Text(TranslationInfo* text)
 
 void PopupCall::setLine2Text(const CallPartyIdentifier& party)
 {
-    std::string text;
-    if (party.getInterimNameNumber(text, false))
-        setLine2Text(text);
-    else
-        setLine2Text(new TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator));
+    showNameElseNumber(party, [this](const auto& text) { setLine2Text(text); });
 }
 
 void PopupCall::setAuxText(const std::string& text)

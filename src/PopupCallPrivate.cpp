@@ -7,6 +7,7 @@
 #include "CommandText.h"
 #include "CurrentApplication.h"
 #include "GuiThread.h"
+#include "PartyText.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>
@@ -92,35 +93,13 @@ std::string withColon(const UString& prefix)
     return prefix.isEmpty() ? std::string() : prefix.toUTF8() + ": ";
 }
 
-std::string unknownParty()
+/// The same as in other popups, but that a withheld number without a name is called so.
+NameAndNumber caller(const CallPartyIdentifier& party)
 {
-    return TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator).getString();
-}
-
-/// What the popup shows of a party.
-struct NameAndNumber {
-    std::string name;
-    std::string number;
-};
-
-NameAndNumber firstParty(const CallPartyIdentifier& party)
-{
-    const std::string unknown = CallPartyIdentifier::UnknownParty;
-    if (party.number == unknown)
-        return {party.name == unknown ? unknownParty() : party.name, {}};
-    if (party.name == unknown)
-        return {{}, party.number};
+    if (!party.name.empty() || party.number != CallPartyIdentifier::WithheldNumber)
+        return firstParty(party);
     TranslatorIfc* translator = DisplayablePrivate::commonTranslator;
-    if (party.name.empty() && party.number == CallPartyIdentifier::WithheldNumber)
-        return {translator ? translator->translate("CVQVTDispIF.Number.Unavailable") : std::string(), {}};
-    return {party.name, party.number};
-}
-
-/// The party that the call was meant for: an unknown number is named, an unknown name is not.
-NameAndNumber secondParty(const CallPartyIdentifier& party)
-{
-    const std::string unknown = CallPartyIdentifier::UnknownParty;
-    return {party.name == unknown ? "" : party.name, party.number == unknown ? unknownParty() : party.number};
+    return {translator ? translator->translate("CVQVTDispIF.Number.Unavailable") : std::string(), {}};
 }
 
 }
@@ -214,7 +193,7 @@ void PopupCallPrivate::showParties(const CallPartyIdentifier& party, const CallP
 {
     if (!mWidget)
         return;
-    const auto [name, number] = firstParty(party);
+    const auto [name, number] = caller(party);
     if (second) {
         const auto [secondName, secondNumber] = secondParty(*second);
         mWidget->setLine2Icon1(ForwardedIcon);

@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupConfirm.h>
 #include <DisplayAPI/PopupConfirmPrivateIfc.h>
 
+#include "PartyText.h"
 #include "PopupConfirmPrivate.h"
 #include "Road.h"
 
@@ -115,11 +116,7 @@ void PopupConfirm::setLine2Text(TranslationInfo* text)
 
 void PopupConfirm::setPartyDetails(const CallPartyIdentifier& party, int)
 {
-    std::string text;
-    if (party.getInterimNameNumber(text, false))
-        setLine1Text(text);
-    else
-        setLine1Text(new TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator));
+    showNameElseNumber(party, [this](const auto& text) { setLine1Text(text); });
 }
 
 void PopupConfirm::setState(PopupState state)

@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupNotificationPrivateIfc.h>
 
+#include "PartyText.h"
 #include "PopupNotificationPrivate.h"
 #include "Road.h"
 
@@ -124,11 +125,7 @@ void PopupNotification::setLine3Text(TranslationInfo* text)
 
 void PopupNotification::setPartyDetails(const CallPartyIdentifier& party)
 {
-    std::string text;
-    if (party.getInterimNameNumber(text, false))
-        setLine2Text(text);
-    else
-        setLine2Text(new TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator));
+    showNameElseNumber(party, [this](const auto& text) { setLine2Text(text); });
 }
 
 // Icons and kinds

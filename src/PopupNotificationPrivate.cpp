@@ -5,6 +5,7 @@
 
 #include "CurrentApplication.h"
 #include "GuiThread.h"
+#include "PartyText.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>
@@ -56,32 +57,6 @@ const TypeIcon* iconOf(PopupNotification::InfoType type)
 UString fromUTF8(const std::string& text)
 {
     return UString::fromUTF8(text);
-}
-
-std::string unknownParty()
-{
-    return TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator).getString();
-}
-
-/// What a notice shows of a party.
-struct NameAndNumber {
-    std::string name;
-    std::string number;
-};
-
-NameAndNumber caller(const CallPartyIdentifier& party)
-{
-    const std::string unknown = CallPartyIdentifier::UnknownParty;
-    if (party.name == unknown && party.number == unknown)
-        return {unknownParty(), {}};
-    return {party.name == unknown ? "" : party.name, party.number == unknown ? "" : party.number};
-}
-
-/// The party whose call it was: an unknown number is named, an unknown name is not.
-NameAndNumber forwarder(const CallPartyIdentifier& party)
-{
-    const std::string unknown = CallPartyIdentifier::UnknownParty;
-    return {party.name == unknown ? "" : party.name, party.number == unknown ? unknownParty() : party.number};
 }
 
 }
@@ -218,9 +193,9 @@ void PopupNotificationPrivate::setForwardNotification(
 
 void PopupNotificationPrivate::showParties(const CallPartyIdentifier& party, const CallPartyIdentifier* second)
 {
-    const auto [name, number] = caller(party);
+    const auto [name, number] = firstParty(party);
     if (second) {
-        const auto [secondName, secondNumber] = forwarder(*second);
+        const auto [secondName, secondNumber] = secondParty(*second);
         mWidget->setLine1TextNN(fromUTF8(name), fromUTF8(number));
         mWidget->setLine2TextNN(fromUTF8(secondName), fromUTF8(secondNumber));
     } else if (!name.empty() && !number.empty()) {
