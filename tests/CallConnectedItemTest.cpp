@@ -105,14 +105,11 @@ TEST_F(CallConnectedItemTest, EachStateHasItsWordAndTheDurationRunsWhileConnecte
     EXPECT_EQ(screenField("icon0"), "CallStateClearing") << "shown by the next state";
     call.setState(Call::CALL_ACTIVE);
     EXPECT_EQ(screenField("icon0"), "CallStateActiveHD");
-    struct Security {
-        int state;
-        const char* word;
-    };
-    for (const Security& row : std::initializer_list<Security>{
-             {1, "SecureCall"}, {2, "InsecureCall"}, {3, "(no such field)"}, {0, "(no such field)"}}) {
-        call.setSecurityState(static_cast<Call::CallSecurityState>(row.state));
-        EXPECT_EQ(screenField("icon1"), row.word) << row.state;
+    const std::pair<int, const char*> security[]
+        = {{1, "SecureCall"}, {2, "InsecureCall"}, {3, "(no such field)"}, {0, "(no such field)"}};
+    for (const auto& [state, word] : security) {
+        call.setSecurityState(static_cast<Call::CallSecurityState>(state));
+        EXPECT_EQ(screenField("icon1"), word) << state;
     }
 }
 

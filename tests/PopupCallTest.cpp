@@ -191,44 +191,35 @@ TEST_F(PopupCallTest, HowACallWasForwardedIsWrittenBesideItsChoice)
 {
     struct Case {
         int type;
-        const char* alone;
-        const char* withSecond;
-        const char* withoutChoice;
+        const char* ofTheChoice;
+        const char* ofTwo;
+        const char* line2;
         std::uint16_t icon;
     };
-    constexpr const char* row = "|subitem:|name:VantoListBoxItem|";
     const Case cases[] = {
-        {0, "|icon0:Forwarded", "|icon0:Forwarded", "", 0},
-        {1, "", "", "", 17},
-        {2, "", "", "|icon0:DND", 2},
-        {3, "|icon0:Forwarded|icon1:Incoming", "|icon0:Forwarded|icon1:Incoming", "", 14},
-        {4, "", "", "=> ", 55},
-        {5, "", "", "", 0},
+        {0, "icon0:Forwarded|", "", "Carol 4713", 0},
+        {1, "", "", "Carol 4713", 17},
+        {2, "", "|icon0:DND", "Carol 4713", 2},
+        {3, "icon0:Forwarded|icon1:Incoming|", "", "Carol 4713", 14},
+        {4, "", "", "=> Carol 4713", 55},
+        {5, "", "", "Carol 4713", 0},
     };
     for (const Case& each : cases) {
-        const std::string name = "type " + std::to_string(each.type);
-        const std::string dnd = each.type == 2 ? "|icon0:DND" : "";
+        SCOPED_TRACE(each.type);
+        const auto type = static_cast<ForwardedCallType>(each.type);
         CallPartyIdentifier bob("Bob", "4712");
         CallPartyIdentifier carol("Carol", "4713");
         PopupCall popup;
         popup.setState(PopupCall::INCOMING, PopupCall::NORMAL);
-        const auto set = [&](CallPartyIdentifier* second) {
-            popup.setPopupCallDetails(bob, second, static_cast<ForwardedCallType>(each.type), "", nullptr);
-        };
-        set(&carol);
+        popup.setPopupCallDetails(bob, &carol, type, "", nullptr);
         show(popup);
-        EXPECT_EQ(fields(),
-            "icon0:Incoming|caption:Bob 4712" + dnd + "|string1:" + (each.type == 4 ? "=> " : "") + "Carol 4713")
-            << name;
-        EXPECT_TRUE(each.icon == 0 || hasIcon(1, 2, each.icon)) << name << glassLine(1);
-        popup.clearCommands();
-        set(nullptr);
+        const std::string caption = "icon0:Incoming|caption:Bob 4712";
+        EXPECT_EQ(fields(), caption + each.ofTwo + "|string1:" + each.line2);
+        EXPECT_TRUE(each.icon == 0 || hasIcon(1, 2, each.icon)) << glassLine(1);
+        popup.setPopupCallDetails(bob, nullptr, type, "", nullptr);
         popup.addCommand(&accept);
-        const std::string icons = each.alone;
-        EXPECT_EQ(fields(),
-            "icon0:Incoming|caption:Bob 4712" + std::string(row) + (icons.empty() ? "" : icons.substr(1) + "|")
-                + "string0:Accept?|endsubitem:")
-            << name;
+        EXPECT_EQ(
+            fields(), caption + "|subitem:|name:VantoListBoxItem|" + each.ofTheChoice + "string0:Accept?|endsubitem:");
         popup.dismiss();
     }
 }
