@@ -1,12 +1,14 @@
 #include "Calls.h"
 
 #include <DisplayAPI/Display.h>
+#include <DisplayAPI/ForwardedCallType.h>
 
 using namespace DisplayAPI;
 
 namespace {
 
-constexpr int MenuTime = 10; // seconds
+constexpr int MenuTime = 10;                 // seconds
+constexpr ForwardedCallType NotForwarded{5}; // none of the enumeration, so that no text says so
 
 CallPartyIdentifier partyOf(const std::string& text)
 {
@@ -65,7 +67,7 @@ void Calls::ring(const std::string& party)
 {
     std::lock_guard lock(mMutex);
     mParty = partyOf(party);
-    mIncoming.setPopupCallDetails(mParty, nullptr, {}, "", nullptr);
+    mIncoming.setPopupCallDetails(mParty, nullptr, NotForwarded, "", nullptr);
     mIncoming.setState(PopupCall::INCOMING, PopupCall::NORMAL);
     mIncoming.setDefaultCommand(&mAccept);
     mDisplay.setCurrent(&mIncoming);
@@ -87,7 +89,7 @@ void Calls::connect()
 {
     auto* row = new CallConnectedItem(
         CallConnectedItem::CALL_ACTIVE, nullptr, false, nullptr, false, true, true, false, false);
-    row->setPartyDetails(mParty, nullptr, {}, "", nullptr);
+    row->setPartyDetails(mParty, nullptr, NotForwarded, "", nullptr);
     mConnected.append(row);
     holdAllBut(row);
     mOutgoing.dismiss();
@@ -138,7 +140,7 @@ void Calls::dial()
     mParty = partyOf(mDialer.getLineEditText());
     mDialer.dismiss();
     mDialer.setLineEditText("");
-    mOutgoing.setPopupCallDetails(mParty, nullptr, {}, "", nullptr);
+    mOutgoing.setPopupCallDetails(mParty, nullptr, NotForwarded, "", nullptr);
     mOutgoing.setState(PopupCall::CONNECTING, PopupCall::NORMAL);
     mDisplay.setCurrent(&mOutgoing);
 }
