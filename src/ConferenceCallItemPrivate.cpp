@@ -6,6 +6,16 @@
 
 namespace DisplayAPI {
 
+namespace {
+
+/// A subclass of the application may have a half with a row of another kind, which cannot join.
+TreeItemMEG* rowOf(ListItemPrivateIfc* half)
+{
+    return half ? dynamic_cast<TreeItemMEG*>(half->getVantoListItem()) : nullptr;
+}
+
+}
+
 ConferenceCallItemPrivate::ConferenceCallItemPrivate(CallConnectedItem::CallStateIcon state, TranslationInfo* text,
     CallConnectedItem* handle, bool headset, bool widgetFlag1)
     : CallConnectedItemPrivate(state, text, headset, nullptr, widgetFlag1, true, false, false, false)
@@ -73,8 +83,7 @@ void ConferenceCallItemPrivate::appendCall(CallConnectedItem* call, bool)
 
 bool ConferenceCallItemPrivate::mayJoin(ListItem* call) const
 {
-    ListItemPrivateIfc* half = HeldRows::halfOf(call);
-    return half && half->getVantoListItem() && widget() && !mMembers.holds(call) && !isPartOf(call);
+    return rowOf(HeldRows::halfOf(call)) && widget() && !mMembers.holds(call) && !isPartOf(call);
 }
 
 /// True for the conference itself and for one that holds it, at any depth.
@@ -90,8 +99,8 @@ bool ConferenceCallItemPrivate::isPartOf(const ListItem* conference) const
 
 void ConferenceCallItemPrivate::join(ListItemPrivateIfc* half)
 {
+    TreeItemMEG* row = rowOf(half);
     half->releaseOwnership();
-    auto* row = static_cast<TreeItemMEG*>(half->getVantoListItem());
     row->setTreeType(TreeItemMEG::ConferenceType);
     row->cancelDurationTimer();
     widget()->addChildItem(row);
@@ -102,7 +111,7 @@ void ConferenceCallItemPrivate::takeOut(ListItemPrivateIfc* half)
     if (!half)
         return;
     if (widget())
-        widget()->removeChildItem(static_cast<TreeItemMEG*>(half->getVantoListItem()));
+        widget()->removeChildItem(rowOf(half));
     half->gainOwnership();
 }
 
