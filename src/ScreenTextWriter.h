@@ -10,70 +10,41 @@ namespace DisplayAPI {
 /// form has an operation of its own, so that the eye sees that it is meant.
 class ScreenTextWriter {
 public:
-    ScreenTextWriter() { mText.reserve(256); }
+    ScreenTextWriter();
 
     // Blocks
 
-    void object(std::string_view name) { put("object:\nname:", name, "\n"); }
-    void endObject() { mText += "end:\n"; }
+    void object(std::string_view name);
+    void endObject();
 
     /// An object whose name line is written as a field, or not at all.
-    void unnamedObject() { mText += "object:\n"; }
-    void subitem(std::string_view name) { put("subitem:\nname:", name, "\n"); }
-    void endSubitem() { mText += "endsubitem:\n"; }
+    void unnamedObject();
+    void subitem(std::string_view name);
+    void endSubitem();
 
     // Lines
 
     /// "key:value"
-    void field(std::string_view key, std::string_view value)
-    {
-        startField(key);
-        mText += value;
-        endField();
-    }
+    void field(std::string_view key, std::string_view value);
 
     /// "key: value", with a blank behind the colon
-    void spacedField(std::string_view key, std::string_view value)
-    {
-        startField(key);
-        mText += ' ';
-        mText += value;
-        endField();
-    }
+    void spacedField(std::string_view key, std::string_view value);
 
     // A line whose value comes in pieces
 
-    void startField(std::string_view key)
-    {
-        mText += key;
-        mText += ':';
-    }
-    void value(std::string_view text) { mText += text; }
-    void endField() { mText += '\n'; }
+    void startField(std::string_view key);
+    void value(std::string_view text);
+    void endField();
 
     /// Whole blocks that somebody else has written.
-    void blocks(std::string_view text) { mText += text; }
+    void blocks(std::string_view text);
 
     std::string take() { return std::move(mText); }
 
     /// The text with a blank for each line feed, for the lines that may not split.
-    static std::string flattened(std::string text)
-    {
-        for (char& byte : text) {
-            if (byte == '\n')
-                byte = ' ';
-        }
-        return text;
-    }
+    static std::string flattened(std::string text);
 
 private:
-    void put(std::string_view before, std::string_view text, std::string_view behind)
-    {
-        mText += before;
-        mText += text;
-        mText += behind;
-    }
-
     std::string mText;
 };
 
