@@ -15,12 +15,19 @@ std::atomic<bool> isSubscribed = false;
 
 std::string WaitingRequest::handle() const
 {
+    if (!mHandle)
+        return "handle";
     int status = 0;
     const std::unique_ptr<char, decltype(&std::free)> readable(
         abi::__cxa_demangle(mHandle->name(), nullptr, nullptr, &status), &std::free);
-    const std::string name = readable ? readable.get() : mHandle->name();
-    const std::string own = "DisplayAPI::";
-    return name.starts_with(own) ? name.substr(own.size()) : name;
+    std::string name = readable ? readable.get() : mHandle->name();
+    const std::string before = "DisplayAPI::";
+    const std::string behind = "::Request";
+    if (name.starts_with(before))
+        name.erase(0, before.size());
+    if (name.ends_with(behind))
+        name.resize(name.size() - behind.size());
+    return name;
 }
 
 void WaitingRequest::logDelay()

@@ -12,8 +12,9 @@ namespace DisplayAPI {
 /// name is the GUI thread's.
 class WaitingRequest {
 public:
-    WaitingRequest(const std::type_info& handle, int type)
-        : mHandle(&handle)
+    /// The class itself, or its enumeration of requests; null where it is not known.
+    WaitingRequest(const std::type_info* handle, int type)
+        : mHandle(handle)
         , mType(type)
     {
     }

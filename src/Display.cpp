@@ -120,7 +120,7 @@ void Display::init(DisplayPrivateIfc* displayPrivate)
 
 bool Display::postEvent(DisplayRequestEvent* event)
 {
-    WaitingRequest waiting(typeid(Display), event->getType());
+    WaitingRequest waiting(&typeid(Display), event->getType());
     Semaphore completion(Semaphore::NOT_AVAILABLE, 1);
     event->setSemaphore(&completion);
     postToApplication(event);

@@ -151,6 +151,7 @@ GuiRequestEvent* makeRequest(const Widget* requester, Request request, Arguments
 {
     // A const operation posts too: the GUI thread runs the request on the same handle.
     auto* event = new GuiRequestEvent(const_cast<Widget*>(requester), static_cast<int>(request));
+    event->setNumbers(typeid(Request));
     RequestSlots slots(*event);
     (slots.fill(std::forward<Arguments>(arguments)), ...);
     return event;
@@ -170,8 +171,8 @@ GuiRequestEvent* makeRequest(const Widget* requester, Request request, Arguments
 class Road {
 public:
     template <typename Half, typename Request, typename... Arguments>
-    requires(std::is_enum_v<Request> && !std::is_enum_v<Half>)
-    static auto wait(const Widget* handle, const Half& half, Request request, Arguments&&... arguments)
+    requires(std::is_enum_v<Request> && !std::is_enum_v<Half>) static auto wait(
+        const Widget* handle, const Half& half, Request request, Arguments&&... arguments)
     {
         decltype(pointerTo(half)) taker = nullptr;
         if (Widget::isGuiThread())
@@ -182,8 +183,8 @@ public:
     }
 
     template <typename Half, typename Request, typename... Arguments>
-    requires(std::is_enum_v<Request> && !std::is_enum_v<Half>)
-    static auto post(const Widget* handle, const Half& half, Request request, Arguments&&... arguments)
+    requires(std::is_enum_v<Request> && !std::is_enum_v<Half>) static auto post(
+        const Widget* handle, const Half& half, Request request, Arguments&&... arguments)
     {
         decltype(pointerTo(half)) taker = nullptr;
         if (Widget::isGuiThread())

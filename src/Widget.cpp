@@ -45,7 +45,7 @@ void Widget::postEvent(GuiRequestEvent* event) const
     // Behind the wait for the lock the handle itself may have gone: nothing of it is read from there on.
     if (!event)
         event = requestWithoutArguments(-1);
-    WaitingRequest waiting(typeid(*this), event->getType());
+    WaitingRequest waiting(event->numbers(), event->getType());
     WidgetImpl& impl = *mImpl;
     const WidgetImpl::User user(impl);
     awaitAnswer(impl.lock, waiting);

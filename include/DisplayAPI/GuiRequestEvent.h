@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <typeinfo>
 
 class Wait;
 
@@ -33,6 +34,10 @@ public:
 
     Widget* requesterWidget() const { return mRequester; }
     int getType() const { return mRequestType; }
+
+    /// The class's own enumeration of requests, where it is known; for the log.
+    void setNumbers(const std::type_info& numbers) { mNumbers = &numbers; }
+    const std::type_info* numbers() const { return mNumbers; }
     void setWaitCondition(Wait* wait) { mWait = wait; }
     Wait* waitCondition() const { return mWait; }
 
@@ -93,6 +98,7 @@ private:
     WidgetImpl* mImpl; // counted; null without a requester
     Wait* mWait;
     Owned* mOwned = nullptr;
+    const std::type_info* mNumbers = nullptr;
     int mRequestType;
     bool mIsAnswered = false;
 };
