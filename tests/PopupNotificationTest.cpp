@@ -4,7 +4,9 @@
 #include "TestTranslator.h"
 
 #include <DisplayAPI/CallPartyIdentifier.h>
+#include <DisplayAPI/List.h>
 #include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/PopupConfirm.h>
 #include <DisplayAPI/PopupNotification.h>
 
 #include "PopupNotificationPrivate.h"
@@ -188,4 +190,40 @@ TEST_F(PopupNotificationTest, ATranslationHidesThePopupUntilItComesUpAgain)
     display->localeChanged("fr");
     EXPECT_EQ(screenField("string0"), "fr text?");
     EXPECT_EQ(screenField("string2"), "third") << "the third line is not read again";
+}
+
+TEST_F(PopupNotificationTest, TwoPopupsOverAListLeaveInEitherOrder)
+{
+    List list(0);
+    list.append("Bob");
+    list.append("Carol");
+    PopupNotification notice;
+    notice.setText("one");
+    PopupConfirm question(true);
+    MenuCommand yes("Yes?", 1);
+    question.addCommand(&yes);
+    question.addCommand(&yes);
+    for (const bool isUpperFirst : {true, false}) {
+        SCOPED_TRACE(isUpperFirst ? "the upper one first" : "the lower one first");
+        show(list);
+        show(notice);
+        show(question);
+        if (isUpperFirst)
+            question.dismiss();
+        else
+            notice.dismiss();
+        EXPECT_EQ(display->getCurrent(), isUpperFirst ? static_cast<Displayable*>(&notice) : &question);
+        list.setSelectedIndex(0);
+        press(UGlobal::KeyDown);
+        EXPECT_EQ(list.getSelectedIndex(), isUpperFirst ? 1 : 0) << "only the question takes keys";
+        if (isUpperFirst)
+            notice.dismiss();
+        else
+            question.dismiss();
+        EXPECT_EQ(display->getCurrent(), &list);
+        list.setSelectedIndex(0);
+        press(UGlobal::KeyDown);
+        EXPECT_EQ(list.getSelectedIndex(), 1);
+        EXPECT_EQ(screenField("name"), "VantoListBox");
+    }
 }
