@@ -2,10 +2,17 @@
 #include "Phone.h"
 #include "Report.h"
 
+#include <DisplayAPI/ContextMenu.h>
+#include <DisplayAPI/Desktop.h>
+#include <DisplayAPI/IdleDisplay.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/PopupCall.h>
 #include <DisplayAPI/PopupConfirm.h>
+#include <DisplayAPI/PopupDialer.h>
+#include <DisplayAPI/PopupNotification.h>
+#include <DisplayAPI/PopupProgress.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -86,6 +93,13 @@ double measureAllHandles(const std::string& mode)
     Phone phone;
     phone.onGui([&mode] {
         measureHandles(mode, "PopupConfirm", [] { return std::make_unique<PopupConfirm>(true); });
+        measureHandles(mode, "PopupNotification", [] { return std::make_unique<PopupNotification>(); });
+        measureHandles(mode, "PopupProgress", [] { return std::make_unique<PopupProgress>(); });
+        measureHandles(mode, "ContextMenu", [] { return std::make_unique<ContextMenu>(false); });
+        measureHandles(mode, "PopupCall", [] { return std::make_unique<PopupCall>(); });
+        measureHandles(mode, "PopupDialer", [] { return std::make_unique<PopupDialer>(true, 0); });
+        measureHandles(mode, "IdleDisplay", [] { return std::make_unique<IdleDisplay>(""); });
+        measureHandles(mode, "Desktop", [] { return std::make_unique<Desktop>(); });
         measureHandles(mode, "List", [] { return std::make_unique<List>(0); });
         List list(0);
         measureHandles(mode, "row of a list", [&list] {
