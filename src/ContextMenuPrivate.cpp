@@ -33,15 +33,6 @@ bool isPlainIconType(int type)
     return type == 0 || (type >= 2 && type <= 7) || type == 51 || type == 52;
 }
 
-/// The icon type of a menu command that may have gone.
-std::optional<int> livingIconType(MenuCommand* command)
-{
-    CriticalSection section(Command::commandListMutex());
-    if (!Command::exists(command))
-        return std::nullopt;
-    return static_cast<int>(command->getIconType());
-}
-
 }
 
 std::vector<UGlobal::Key> ContextMenuPrivate::missedKeys;
@@ -106,13 +97,20 @@ unsigned short ContextMenuPrivate::markStatus(const std::string& statusName)
 
 void ContextMenuPrivate::addCommandWithIcon(MenuCommand* command)
 {
-    const std::optional<CommandText> shown = readCommand(command);
-    const std::optional<int> iconType = livingIconType(command);
-    if (!shown || !iconType)
+    std::optional<CommandText> shown;
+    int iconType = 0;
+    {
+        // One step with the text: the command can't die meanwhile.
+        CriticalSection section(Command::commandListMutex());
+        shown = readCommand(command);
+        if (shown)
+            iconType = command->getIconType();
+    }
+    if (!shown)
         return;
-    if (shown->type == Command::Menu && list() && (*iconType == GroupIconType || isPlainIconType(*iconType))) {
-        addRow(*shown, false, *iconType == GroupIconType ? GroupIcon : 0);
-        if (*iconType != GroupIconType)
+    if (shown->type == Command::Menu && list() && (iconType == GroupIconType || isPlainIconType(iconType))) {
+        addRow(*shown, false, iconType == GroupIconType ? GroupIcon : 0);
+        if (iconType != GroupIconType)
             countCommands(mCommandCount + 1);
     }
     generateDisplayChangedEvent();
