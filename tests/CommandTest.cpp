@@ -1,5 +1,6 @@
 #include "CommandExecutor.h"
 #include "CommandText.h"
+#include "RecordingListener.h"
 #include "TestTranslator.h"
 
 #include <DisplayAPI/CommandListener.h>
@@ -19,7 +20,6 @@
 #include <array>
 #include <atomic>
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -49,19 +49,13 @@ struct Story {
     void add(const std::string& word) { text += (text.empty() ? "" : " ") + word; }
 };
 
-class Listener : public CommandListener, public ItemStateListener {
-public:
-    Listener(std::string name, Story& story)
-        : mName(std::move(name))
-        , mStory(story)
+/// Tells what it hears to the story, under its name.
+struct Teller : RecordingListener {
+    Teller(const std::string& name, Story& story)
     {
+        reaction = [name, &story](Command* command) { story.add(name + ":" + command->getText()); };
+        changeReaction = [name, &story](Item*) { story.add(name + ":changed"); };
     }
-    void commandAction(Command* command, Displayable*) override { mStory.add(mName + ":" + command->getText()); }
-    void itemStateChanged(Item*) override { mStory.add(mName + ":changed"); }
-
-private:
-    std::string mName;
-    Story& mStory;
 };
 
 /// Queues without calling a worker; deliver() is the worker's work on this thread.
@@ -85,8 +79,8 @@ protected:
     }
 
     Story story;
-    Listener anna{"anna", story};
-    Listener otto{"otto", story};
+    Teller anna{"anna", story};
+    Teller otto{"otto", story};
     Command yes{"yes", Command::Select};
     Command no{"no", Command::Back};
     Screen screen;
@@ -295,7 +289,7 @@ TEST_F(QueueTest, ARecalledChangeMayBePostedAgain)
 
 TEST_F(QueueTest, WhateverDiesTakesItsDeliveriesAlong)
 {
-    auto shortListener = std::make_unique<Listener>("short", story);
+    auto shortListener = std::make_unique<Teller>("short", story);
     auto shortCommand = std::make_unique<MenuCommand>("short", 1);
     auto shortScreen = std::make_unique<Screen>();
     auto shortField = std::make_unique<Field>();
@@ -316,7 +310,7 @@ TEST_F(QueueTest, WhateverDiesTakesItsDeliveriesAlong)
 
 TEST_F(QueueTest, NobodyPostsToNullOrToTheDead)
 {
-    auto shortListener = std::make_unique<Listener>("short", story);
+    auto shortListener = std::make_unique<Teller>("short", story);
     CommandListener* commands = shortListener.get();
     ItemStateListener* changes = shortListener.get();
     ListenerList<CommandListener> listeners;
@@ -338,14 +332,14 @@ TEST_F(QueueTest, NobodyPostsToNullOrToTheDead)
 
 TEST_F(QueueTest, AnotherListenerAtTheSameAddressIsANewOne)
 {
-    alignas(Listener) std::array<std::byte, sizeof(Listener)> place;
+    alignas(Teller) std::array<std::byte, sizeof(Teller)> place;
     ListenerList<CommandListener> listeners;
-    auto* first = new (place.data()) Listener("first", story);
+    auto* first = new (place.data()) Teller("first", story);
     listeners.addOnce(first);
     listeners.addOnce(&anna);
-    first->~Listener();
+    first->~Teller();
 
-    auto* second = new (place.data()) Listener("second", story);
+    auto* second = new (place.data()) Teller("second", story);
     listeners.forEach([this](CommandListener* listener) { post(*listener, yes); });
     EXPECT_EQ(deliver(), "anna:yes");
     EXPECT_EQ(listeners.size(), 1U);
@@ -356,7 +350,7 @@ TEST_F(QueueTest, AnotherListenerAtTheSameAddressIsANewOne)
     EXPECT_EQ(deliver(), "anna:yes second:yes");
     listeners.remove(second);
     EXPECT_EQ(listeners.size(), 1U);
-    second->~Listener();
+    second->~Teller();
     listeners.addOnce(second);
     EXPECT_EQ(listeners.size(), 1U);
 }
@@ -370,17 +364,13 @@ TEST_F(QueueTest, ACommandThatIsReplacedInAPostIsNotToldToTheNextListener)
         void show() override { }
         void lostFocus() override { }
     };
-    struct Replacing : Listener {
-        using Listener::Listener;
-        void postCommandAction(Command* command, Displayable*) override
-        {
-            command->~Command();
-            new (command) Command("delete all", Command::Select);
-        }
-    };
     alignas(Command) std::array<std::byte, sizeof(Command)> place;
     auto* cancel = new (place.data()) Command("cancel", Command::Select);
-    Replacing replacing("replacing", story);
+    RecordingListener replacing;
+    replacing.postReaction = [](Command* command) {
+        command->~Command();
+        new (command) Command("delete all", Command::Select);
+    };
     Half half;
     half.addCommandListener(&replacing);
     half.addCommandListener(&anna);
@@ -391,19 +381,20 @@ TEST_F(QueueTest, ACommandThatIsReplacedInAPostIsNotToldToTheNextListener)
 
 TEST_F(QueueTest, ACopyOfAListenerLives)
 {
-    const Listener copy(anna);
+    struct Copied : CommandListener, ItemStateListener {
+        void commandAction(Command*, Displayable*) override { }
+        void itemStateChanged(Item*) override { }
+    };
+    const Copied original;
+    const Copied copy(original);
     EXPECT_TRUE(CommandListener::exists(&copy) && ItemStateListener::exists(&copy));
-    EXPECT_TRUE(CommandListener::exists(&anna) && ItemStateListener::exists(&anna));
+    EXPECT_TRUE(CommandListener::exists(&original) && ItemStateListener::exists(&original));
 }
 
 TEST_F(QueueTest, AListenerMayPostAndRecallFromItsDelivery)
 {
-    struct Insistent : CommandListener {
-        void commandAction(Command* command, Displayable*) override { act(command); }
-        std::function<void(Command*)> act;
-    };
-    Insistent insistent;
-    insistent.act = [&](Command* command) {
+    RecordingListener insistent;
+    insistent.reaction = [&](Command* command) {
         insistent.retrievePendingCommandAction(&no, nullptr);
         if (command == &yes)
             post(anna, no);

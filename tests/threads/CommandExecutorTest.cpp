@@ -3,8 +3,8 @@
 #include "DisplayThreadPool.h"
 #include "Disturbance.h"
 #include "Log.h"
+#include "RecordingListener.h"
 #include "Semaphore.h"
-#include "Threadable.h"
 
 #include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
@@ -17,60 +17,29 @@
 #include <atomic>
 #include <chrono>
 #include <functional>
-#include <latch>
 #include <memory>
 #include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
 using namespace DisplayAPI;
 
 namespace {
 
-/// Records what it is told; only workers write, and the test reads behind waitFor().
-class Recorder : public CommandListener, public ItemStateListener {
-public:
-    /// The number of deliveries that waitFor() is to wait for.
-    explicit Recorder(int expected)
-        : mExpected(expected)
-    {
-    }
-    void commandAction(Command* command, Displayable*) override { record(command); }
-    void itemStateChanged(Item* item) override { record(item); }
-    void wait() { mExpected.wait(); }
-
-    std::vector<const void*> told;
-    std::set<unsigned int> threads;
-    bool overlapped = false;
-
-private:
-    void record(const void* what)
-    {
-        overlapped = overlapped || mInside.exchange(true);
-        told.push_back(what);
-        threads.insert(Threadable::currentThreadId());
-        mInside = false;
-        mExpected.count_down();
-    }
-
-    std::atomic<bool> mInside = false;
-    std::latch mExpected;
-};
-
 /// Keeps the worker inside a delivery until it is let go.
-class Blocker : public CommandListener {
+class Blocker : public RecordingListener {
 public:
-    ~Blocker() override { mLeft.take(); }
-    void commandAction(Command*, Displayable*) override
+    Blocker()
     {
-        mEntered.give();
-        mMayLeave.take();
-        mLeft.give();
+        reaction = [this](Command*) {
+            mEntered.give();
+            mMayLeave.take();
+        };
     }
+    ~Blocker() override { told(1); }
     /// Returns with the worker inside.
     void block(Command* command = nullptr, Displayable* displayable = nullptr)
     {
@@ -82,7 +51,6 @@ public:
 private:
     Semaphore mEntered{Semaphore::NOT_AVAILABLE};
     Semaphore mMayLeave{Semaphore::NOT_AVAILABLE};
-    Semaphore mLeft{Semaphore::NOT_AVAILABLE};
 };
 
 Item* itemNumber(int number)
@@ -100,7 +68,13 @@ TEST(CommandExecutorTest, EachThreadsCommandsComeInItsOrderAndOneByOne)
     Command ofSecond("second", Command::Select);
     Command last("last", Command::Select);
     underDisturbance([&] {
-        Recorder recorder(4 * perThread);
+        RecordingListener recorder;
+        std::atomic<int> inside = 0;
+        std::atomic<bool> hasOverlapped = false;
+        recorder.reaction = [&](Command*) {
+            hasOverlapped = hasOverlapped || ++inside > 1;
+            --inside;
+        };
         auto postMany = [&recorder](Command& own, Command& other) {
             for (int i = 0; i < perThread; ++i) {
                 recorder.postCommandAction(&own, nullptr);
@@ -110,12 +84,12 @@ TEST(CommandExecutorTest, EachThreadsCommandsComeInItsOrderAndOneByOne)
         std::thread second(postMany, std::ref(ofSecond), std::ref(last));
         postMany(ofFirst, last);
         second.join();
-        recorder.wait();
-        EXPECT_EQ(recorder.told.size(), 4U * perThread);
-        EXPECT_FALSE(recorder.overlapped);
+        const auto told = recorder.told(4U * perThread);
+        EXPECT_EQ(told.size(), 4U * perThread);
+        EXPECT_FALSE(hasOverlapped);
         // Of each thread an own command and a last one take turns, so no beginning has more last ones.
         int balance = 0;
-        for (const void* command : recorder.told) {
+        for (const void* command : told) {
             balance += command == &last ? -1 : 1;
             EXPECT_TRUE(balance >= 0 && balance <= 2);
         }
@@ -129,7 +103,7 @@ TEST(CommandExecutorTest, WhatComesDuringASlowDeliveryFollowsOnTheSameWorker)
     for (auto& command : commands)
         command = std::make_unique<Command>("", Command::Select);
     underDisturbance([&] {
-        Recorder recorder(commands.size());
+        RecordingListener recorder;
         Blocker slow;
         slow.block();
         for (std::size_t i = 0; i < commands.size(); ++i) {
@@ -137,13 +111,14 @@ TEST(CommandExecutorTest, WhatComesDuringASlowDeliveryFollowsOnTheSameWorker)
                 slow.letGo();
             recorder.postCommandAction(commands[i].get(), nullptr);
         }
-        recorder.wait();
+        const auto told = recorder.told(commands.size());
+        ASSERT_EQ(told.size(), commands.size());
         for (std::size_t i = 0; i < commands.size(); ++i)
-            EXPECT_EQ(recorder.told[i], commands[i].get());
+            EXPECT_EQ(told[i], commands[i].get());
     });
 
     // None of the posts asks the pool for a worker while one is inside a delivery.
-    Recorder recorder(static_cast<int>(commands.size()));
+    RecordingListener recorder;
     Blocker slow;
     slow.block();
     const int free = DisplayThreadPool::instance(10)->availableThreads();
@@ -153,8 +128,8 @@ TEST(CommandExecutorTest, WhatComesDuringASlowDeliveryFollowsOnTheSameWorker)
     EXPECT_GE(DisplayThreadPool::instance(10)->availableThreads(), free);
     EXPECT_EQ(DisplayThreadPool::instance(10)->poolSize(), size);
     slow.letGo();
-    recorder.wait();
-    EXPECT_EQ(recorder.threads.size(), 1U);
+    EXPECT_EQ(recorder.told(commands.size()).size(), commands.size());
+    EXPECT_EQ(recorder.threads().size(), 1U);
 }
 
 TEST(CommandExecutorTest, ASleepingWorkerIsWokenEachTime)
@@ -162,9 +137,9 @@ TEST(CommandExecutorTest, ASleepingWorkerIsWokenEachTime)
     Command command("", Command::Select);
     underDisturbance([&command] {
         for (int i = 0; i < 5; ++i) {
-            Recorder recorder(1);
+            RecordingListener recorder;
             recorder.postCommandAction(&command, nullptr);
-            recorder.wait();
+            ASSERT_EQ(recorder.told(1).size(), 1U);
         }
     });
     EXPECT_LE(DisplayThreadPool::instance(10)->poolSize(), 10);
@@ -172,33 +147,24 @@ TEST(CommandExecutorTest, ASleepingWorkerIsWokenEachTime)
 
 TEST(CommandExecutorTest, AListenerThatPostsIsToldNextOnTheSameWorker)
 {
-    class Chain : public CommandListener {
-    public:
-        void commandAction(Command* command, Displayable*) override
-        {
-            threads.insert(Threadable::currentThreadId());
-            if (++told < 10)
-                postCommandAction(command, nullptr);
-            if (told == 10)
-                done.give();
-        }
-        int told = 0;
-        std::set<unsigned int> threads;
-        Semaphore done{Semaphore::NOT_AVAILABLE};
-    };
     Command command("", Command::Select);
     underDisturbance([&command] {
-        Chain chain;
+        RecordingListener chain;
+        int times = 0;
+        chain.reaction = [&](Command* told) {
+            if (++times < 10)
+                chain.postCommandAction(told, nullptr);
+        };
         chain.postCommandAction(&command, nullptr);
-        chain.done.take();
-        EXPECT_EQ(chain.threads.size(), 1U);
+        EXPECT_EQ(chain.told(10).size(), 10U);
+        EXPECT_EQ(chain.threads().size(), 1U);
     });
 }
 
 TEST(CommandExecutorTest, ChangesThatWaitAreMerged)
 {
     underDisturbance([] {
-        Recorder recorder(8);
+        RecordingListener recorder;
         Blocker slow;
         slow.block();
         std::thread second([&recorder] {
@@ -209,33 +175,23 @@ TEST(CommandExecutorTest, ChangesThatWaitAreMerged)
             recorder.postItemStateChange(itemNumber(i));
         second.join();
         slow.letGo();
-        recorder.wait();
-        EXPECT_EQ(recorder.told.size(), 8U);
-        EXPECT_EQ(std::set<const void*>(recorder.told.begin(), recorder.told.end()).size(), 8U);
+        const auto told = recorder.told(8);
+        EXPECT_EQ(told.size(), 8U);
+        EXPECT_EQ(std::set<const void*>(told.begin(), told.end()).size(), 8U);
     });
 }
 
 TEST(CommandExecutorTest, AListenerThatDiesWhileDeliveriesWaitIsNotCalled)
 {
-    class Victim : public CommandListener, public ItemStateListener {
-    public:
-        explicit Victim(std::atomic<int>& calls)
-            : mCalls(calls)
-        {
-        }
-        void commandAction(Command*, Displayable*) override { ++mCalls; }
-        void itemStateChanged(Item*) override { ++mCalls; }
-
-    private:
-        std::atomic<int>& mCalls;
-    };
     Command command("", Command::Select);
     underDisturbance([&command] {
         std::atomic<int> calls = 0;
-        Recorder survivor(10);
+        RecordingListener survivor;
         Blocker slow;
         slow.block();
-        auto victim = std::make_unique<Victim>(calls);
+        auto victim = std::make_unique<RecordingListener>();
+        victim->reaction = [&calls](Command*) { ++calls; };
+        victim->changeReaction = [&calls](Item*) { ++calls; };
         std::thread poster([&] {
             for (int i = 0; i < 10; ++i)
                 survivor.postCommandAction(&command, nullptr);
@@ -247,7 +203,7 @@ TEST(CommandExecutorTest, AListenerThatDiesWhileDeliveriesWaitIsNotCalled)
         victim.reset();
         slow.letGo();
         poster.join();
-        survivor.wait();
+        EXPECT_EQ(survivor.told(10).size(), 10U);
         EXPECT_EQ(calls, 0);
     });
 }
@@ -257,22 +213,16 @@ TEST(CommandExecutorTest, CommandsMayDieWhileOthersAreDelivered)
     underDisturbance([] {
         constexpr int rounds = 10;
         Command lasting("", Command::Select);
-        Recorder recorder(rounds);
+        RecordingListener recorder;
         // Told of the short-lived ones; whether before or not is a matter of luck, but never twice.
-        class Counter : public CommandListener {
-        public:
-            void commandAction(Command*, Displayable*) override { ++told; }
-            std::atomic<int> told = 0;
-        };
-        auto counter = std::make_unique<Counter>();
+        auto counter = std::make_unique<RecordingListener>();
         for (int i = 0; i < rounds; ++i) {
             Command brief("", Command::Select);
             counter->postCommandAction(&brief, nullptr);
             recorder.postCommandAction(&lasting, nullptr);
         }
-        recorder.wait();
-        EXPECT_LE(counter->told, rounds);
-        EXPECT_EQ(recorder.told.size(), static_cast<std::size_t>(rounds));
+        EXPECT_EQ(recorder.told(rounds).size(), static_cast<std::size_t>(rounds));
+        EXPECT_LE(counter->count(), static_cast<std::size_t>(rounds));
     });
 }
 
@@ -280,7 +230,7 @@ TEST(CommandExecutorTest, TheEndRecallsWhatWaitsAndAwaitsWhatHasBegun)
 {
     Command command("", Command::Select);
     underDisturbance([&command] {
-        Recorder recorder(2);
+        RecordingListener recorder;
         std::atomic<bool> isClosed = false;
         Blocker slow;
         slow.block();
@@ -302,11 +252,10 @@ TEST(CommandExecutorTest, TheEndRecallsWhatWaitsAndAwaitsWhatHasBegun)
         recorder.postItemStateChange(itemNumber(0));
         EXPECT_TRUE(CommandExecutor::closeDeliveries(std::chrono::minutes(1)));
         CommandExecutor::openDeliveries();
-        EXPECT_TRUE(recorder.told.empty());
+        EXPECT_EQ(recorder.count(), 0U);
         recorder.postCommandAction(&command, nullptr);
         recorder.postItemStateChange(itemNumber(1));
-        recorder.wait();
-        EXPECT_EQ(recorder.told, (std::vector<const void*>{&command, itemNumber(1)}));
+        EXPECT_EQ(recorder.told(2), (std::vector<const void*>{&command, itemNumber(1)}));
     });
 }
 
@@ -337,31 +286,21 @@ TEST(CommandExecutorTest, ADeliveryThatDoesNotEndIsNamedAndLeftAlone)
 
 TEST(CommandExecutorTest, ADeliveryThatClosesDoesNotWaitForItself)
 {
-    class Closer : public CommandListener {
-    public:
-        void commandAction(Command*, Displayable*) override
-        {
-            isClosed = CommandExecutor::closeDeliveries(std::chrono::minutes(1));
-            done.count_down();
-        }
-        bool isClosed = false;
-        std::latch done{1};
-    };
-    Closer closer;
+    RecordingListener closer;
+    std::atomic<bool> isClosed = false;
+    closer.reaction = [&isClosed](Command*) { isClosed = CommandExecutor::closeDeliveries(std::chrono::minutes(1)); };
     closer.postCommandAction(nullptr, nullptr);
-    closer.done.wait();
-    EXPECT_TRUE(closer.isClosed);
+    EXPECT_EQ(closer.told(1).size(), 1U);
+    EXPECT_TRUE(isClosed);
     CommandExecutor::openDeliveries();
 }
 
 TEST(CommandExecutorDeathTest, AnExceptionEndsTheProcessBehindALineInTheLog)
 {
-    class Thrower : public CommandListener {
-        void commandAction(Command*, Displayable*) override { throw std::runtime_error("no line"); }
-    };
     const auto throwFromWorker = [] {
         LogControl::setLevel("DisplayAPI", 2);
-        Thrower thrower;
+        RecordingListener thrower;
+        thrower.reaction = [](Command*) { throw std::runtime_error("no line"); };
         Command command("Call", Command::Select);
         thrower.postCommandAction(&command, nullptr);
         Semaphore(Semaphore::NOT_AVAILABLE).take(30'000); // the worker ends the process meanwhile
@@ -374,10 +313,9 @@ TEST(CommandExecutorTest, WhatWasQueuedWithoutAStartGoesWithTheNextOne)
     Command early("", Command::Select);
     Command late("", Command::Select);
     underDisturbance([&] {
-        Recorder recorder(2);
+        RecordingListener recorder;
         CommandExecutor::postCommand(&recorder, &early, nullptr, false);
         recorder.postCommandAction(&late, nullptr);
-        recorder.wait();
-        EXPECT_EQ(recorder.told, (std::vector<const void*>{&early, &late}));
+        EXPECT_EQ(recorder.told(2), (std::vector<const void*>{&early, &late}));
     });
 }

@@ -1,8 +1,8 @@
 #include "ExistingDisplayables.h"
 #include "CommandExecutor.h"
+#include "RecordingListener.h"
 
 #include <DisplayAPI/Command.h>
-#include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/YRCWindow.h>
 
@@ -33,10 +33,6 @@ public:
 
 private:
     char mHalf = 0;
-};
-
-class Listener : public CommandListener {
-    void commandAction(Command*, Displayable*) override { }
 };
 
 }
@@ -90,7 +86,7 @@ TEST(ExistingDisplayablesTest, AScreenLeavesBeforeItsDeliveriesAreRecalled)
         EXPECT_EQ(privateOfLiving(dying), nullptr);
         EXPECT_EQ(nameOfLiving(dying), "");
     });
-    Listener listener;
+    RecordingListener listener;
     Command command("", Command::Select);
     const auto kill = [&](std::unique_ptr<Displayable> screen) {
         dying = screen.get();
