@@ -271,25 +271,20 @@ TEST_F(PopupConfirmTest, AChoiceWhoseCommandHasDiedPostsNothing)
 
 TEST_F(PopupConfirmTest, NobodyIsToldOfAPopupThatHasDied)
 {
-    struct Deleter : CommandListener {
-        void commandAction(Command*, Displayable*) override { }
-        void postCommandAction(Command*, Displayable*) override { popup.reset(); }
-        std::unique_ptr<PopupConfirm> popup;
-    } deleter;
-    struct Counter : CommandListener {
-        void commandAction(Command*, Displayable*) override { }
-        void postCommandAction(Command*, Displayable*) override { ++posts; }
-        int posts = 0;
-    } counter;
-    deleter.popup = std::make_unique<PopupConfirm>(true);
-    deleter.popup->addCommand(&yes);
-    for (CommandListener* each : {static_cast<CommandListener*>(&counter), static_cast<CommandListener*>(&deleter)}) {
-        deleter.popup->addCommandListener(each);
-        deleter.popup->addCommandListener(&counter);
+    RecordingListener deleter;
+    RecordingListener counter;
+    auto popup = std::make_unique<PopupConfirm>(true);
+    int posts = 0;
+    deleter.postReaction = [&popup](Command*) { popup.reset(); };
+    counter.postReaction = [&posts](Command*) { ++posts; };
+    popup->addCommand(&yes);
+    for (RecordingListener* each : {&counter, &deleter}) {
+        popup->addCommandListener(each);
+        popup->addCommandListener(&counter);
     }
-    show(*deleter.popup);
+    show(*popup);
     press(UGlobal::KeyOk);
-    EXPECT_EQ(counter.posts, 2);
+    EXPECT_EQ(posts, 2);
 }
 
 TEST_F(PopupConfirmTest, ACommandMayDieWhileItIsAdded)

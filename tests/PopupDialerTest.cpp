@@ -14,29 +14,12 @@
 #include <VantoListBoxMEG.h>
 
 #include <atomic>
-#include <chrono>
 #include <cstddef>
 #include <memory>
-#include <semaphore>
 
 using namespace DisplayAPI;
 
 namespace {
-
-/// Lets a test wait for each change of the edit line, since one that still waits is not queued twice.
-struct TypingListener : ItemStateListener {
-    void itemStateChanged(Item* item) override
-    {
-        isAnItem = item && !item->getPrivateImpl();
-        ++count;
-        changed.release();
-    }
-    bool hears() { return changed.try_acquire_for(std::chrono::seconds(20)); }
-
-    std::atomic<int> count = 0;
-    std::atomic<bool> isAnItem = false;
-    std::counting_semaphore<> changed{0};
-};
 
 class PopupDialerTest : public PhoneTest {
 protected:
@@ -128,7 +111,15 @@ TEST_F(PopupDialerTest, LinesAndChoicesAreWrittenAndPainted)
 
 TEST_F(PopupDialerTest, TypingMovingAndChoosingAreToldInOrder)
 {
-    TypingListener typing;
+    RecordingListener typing;
+    std::atomic<bool> isAnItem = false;
+    typing.changeReaction = [&isAnItem](Item* item) { isAnItem = item && !item->getPrivateImpl(); };
+    // Each change is waited for, since one that still waits is not queued twice.
+    std::size_t heard = 0;
+    const auto hears = [&] {
+        ++heard;
+        return typing.told(heard).size() == heard;
+    };
     dialer.addItemStateListener(&typing);
     dialer.addItemStateListener(&typing);
     dialer.addCommandListener(&listener);
@@ -139,9 +130,9 @@ TEST_F(PopupDialerTest, TypingMovingAndChoosingAreToldInOrder)
     show(dialer);
     for (const char* key : {"1", "2"}) {
         type(key);
-        EXPECT_TRUE(typing.hears());
+        EXPECT_TRUE(hears());
     }
-    EXPECT_TRUE(typing.isAnItem);
+    EXPECT_TRUE(isAnItem);
     EXPECT_FALSE(dialer.selectionHasChanged());
     press(UGlobal::KeyDown);
     EXPECT_TRUE(dialer.selectionHasChanged());
@@ -150,16 +141,16 @@ TEST_F(PopupDialerTest, TypingMovingAndChoosingAreToldInOrder)
     press(UGlobal::KeyDown);
     press(UGlobal::KeyOk); // the row that deletes
     EXPECT_EQ(dialer.getLineEditText(), "1");
-    EXPECT_TRUE(typing.hears());
+    EXPECT_TRUE(hears());
     press(UGlobal::KeyLeft);
-    EXPECT_TRUE(typing.hears());
+    EXPECT_TRUE(hears());
     dialer.removeItemStateListener(&typing);
     type("3");
     press(UGlobal::KeyLeft);
     press(UGlobal::KeyLeft);
     const std::vector<Command*> told{PopupDialer::EditFieldShownCommand(), &save, PopupDialer::BackCommand()};
     EXPECT_EQ(listener.commands(3), told);
-    EXPECT_EQ(typing.count, 4) << "once for each change, although it was added twice";
+    EXPECT_EQ(typing.count(), 4U) << "once for each change, although it was added twice";
     EXPECT_EQ(display->getCurrent(), &dialer) << "the application dismisses the dialer, nobody else";
 }
 
