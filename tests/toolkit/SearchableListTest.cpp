@@ -43,7 +43,7 @@ TEST_F(SearchableListTest, KeysOpenFillEmptyAndCloseTheField)
     list->setTitle(text("Directory"));
     list->setCountIndicator(99);
     list->setSearchCountIndicator(1);
-    EXPECT_EQ(list->searchFieldText().toUTF8(), "caption:Directory\nstring0:B\nstring1:1/99\n");
+    EXPECT_EQ(list->getSearchFieldText().toUTF8(), "caption:Directory\nstring0:B\nstring1:1/99\n");
     press(UGlobal::KeyDown);
     press(UGlobal::KeyOk);
     EXPECT_EQ(recorder.takeTypes(), (Types{EventType::RowMoved, EventType::RowChosen}));

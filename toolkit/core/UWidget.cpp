@@ -86,11 +86,6 @@ void UWidget::setStatusMessageAvailable(bool available)
     refresh();
 }
 
-bool UWidget::isFirstLineTaken() const
-{
-    return mIsStatusMessageAvailable || (mParent && mParent->keepsFirstLine());
-}
-
 void UWidget::refresh()
 {
     UWindowManager::instance().repaint();

@@ -81,9 +81,12 @@ public:
     void setStatusMessageAvailable(bool available);
     bool isStatusMessageAvailable() const { return mIsStatusMessageAvailable; }
 
+    /// True while the widget around this one keeps the first line: what stands there was painted before.
+    bool isFirstLineKept() const { return mParent && mParent->keepsFirstLine(); }
+
     /// True while the first line is not this widget's to use: a status message lies over it, or the widget
     /// around this one keeps it. Whoever places lines asks each time.
-    bool isFirstLineTaken() const;
+    bool isFirstLineTaken() const { return mIsStatusMessageAvailable || isFirstLineKept(); }
 
     /// True for a widget that has the first line for itself, so that its children begin on the second. It is
     /// asked by isFirstLineTaken() of the children; a widget that does not have the line passes that on.

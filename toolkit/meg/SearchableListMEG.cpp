@@ -100,7 +100,7 @@ UString SearchableListMEG::counters() const
     return ratio(mFoundCount < 0 ? rows : mFoundCount, mCount < 0 ? rows : mCount);
 }
 
-UString SearchableListMEG::searchFieldText() const
+UString SearchableListMEG::getSearchFieldText() const
 {
     const auto line
         = [](const char* key, const UString& value) { return key + TextBlock::oneLine(value.toUTF8()) + "\n"; };
@@ -181,8 +181,7 @@ bool SearchableListMEG::isRowShown() const
 
 void SearchableListMEG::paint(UPainter& painter)
 {
-    const bool isLineKept = parentWidget() && parentWidget()->keepsFirstLine();
-    painter.clearLines(isLineKept ? 1 : 0, 1);
+    painter.clearLines(isFirstLineKept() ? 1 : 0, 1);
     const int fieldLine = isFirstLineTaken() ? 1 : 0;
     if (mIsOpen)
         paintField(painter, fieldLine);

@@ -46,7 +46,7 @@ public:
     void setSearchCountIndicator(int count);
 
     /// The open field as lines of the screen text: title if there is one, text or hint, and the counters.
-    virtual UString searchFieldText() const;
+    virtual UString getSearchFieldText() const;
 
     // Overrides
 

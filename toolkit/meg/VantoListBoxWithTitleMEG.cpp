@@ -103,9 +103,7 @@ UWidget* VantoListBoxWithTitleMEG::focusTarget()
 
 void VantoListBoxWithTitleMEG::paint(UPainter& painter)
 {
-    // What the widget around this one has on the first line was painted before.
-    const bool isLineKept = parentWidget() && parentWidget()->keepsFirstLine();
-    painter.clearLines(isLineKept ? 1 : 0, 1);
+    painter.clearLines(isFirstLineKept() ? 1 : 0, 1);
     if (mList->firstLine() == 0 || isFirstLineTaken())
         return;
     const UString suffix = titleSuffix();
