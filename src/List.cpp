@@ -78,7 +78,7 @@ List::List(int kind)
 }
 
 List::List(bool hasBackItem)
-    : mItems(std::make_unique<Rows>(*this))
+    : mItems(std::make_unique<Rows>(mPrivate))
     , mHasBackItem(hasBackItem)
 {
 }

@@ -17,50 +17,6 @@
 
 namespace DisplayAPI {
 
-// The rows
-
-void List::Rows::exchange(int index, ListItemPrivateIfc* before, const Row& row)
-{
-    const Step step(*this);
-    ListBoxPrivateIfc* box = mList.mPrivate.get();
-    const bool wasCurrent = box && box->getSelectedIndex() == index;
-    // Not remove(), which takes a list without rows off the screen.
-    if (box)
-        box->removeAt(index, before);
-    if (!step)
-        return;
-    bringIn(row, [this, box, &row, wasCurrent, &step](ListItemPrivateIfc* half) {
-        if (!box)
-            return;
-        box->insertAt(half, indexOf(row));
-        if (step && wasCurrent && indexOf(row) >= 0)
-            box->setSelected(half);
-    });
-}
-
-void List::Rows::rowChanged(ListItem& row, ListItemPrivateIfc* before)
-{
-    const Row changed(&row);
-    const int index = indexOf(changed);
-    if (index < 0)
-        return;
-    expect(row, index);
-    exchange(index, before, changed);
-}
-
-void List::Rows::takeOut(int index, ListItemPrivateIfc* half)
-{
-    if (mList.mPrivate)
-        mList.mPrivate->removeAt(index, half);
-}
-
-void List::Rows::forgetDead()
-{
-    // With the halves go their rows of the toolkit.
-    if (HeldRows::forgetDead())
-        deleteKeptHalves();
-}
-
 // The steps of the requests
 
 void List::create(bool hasBackItem)
@@ -96,55 +52,28 @@ void List::createAndAppendItem(ListItem* item)
 void List::privateAppend(ListItem* item)
 {
     TRACE_LIST("privateAppend() this: %p\n", static_cast<void*>(this));
-    if (!Rows::isFree(item))
-        return;
-    bringToEnd(item);
-}
-
-void List::bringToEnd(ListItem* item)
-{
-    mItems->expect(*item, INT_MAX);
-    mItems->bringIn(Rows::Row(item), [this](ListItemPrivateIfc* half) {
-        if (mPrivate)
-            mPrivate->append(half);
-    });
+    mItems->append(item);
 }
 
 void List::privateInsertAt(ListItem* item, int index)
 {
     TRACE_LIST("privateInsertAt() this: %p\n", static_cast<void*>(this));
-    if (!Rows::isFree(item))
-        return;
-    mItems->expect(*item, index);
-    mItems->bringIn(Rows::Row(item), [this, index](ListItemPrivateIfc* half) {
-        if (mPrivate)
-            mPrivate->insertAt(half, index);
-    });
+    mItems->insertAt(item, index);
 }
 
 ListItem* List::privateRemoveAt(int index)
 {
     TRACE_LIST("privateRemoveAt() this: %p\n", static_cast<void*>(this));
     const int place = std::max(index, 0);
-    ListItem* item = mItems->at(place);
-    if (!item) {
+    if (!mItems->at(place))
         LOG_LIST(3, "removeAt() this %p, cannot remove item at index %d", static_cast<void*>(this), index);
-        return nullptr;
-    }
-    const bool isGiven = mItems->giveBack(Rows::Row(item), [this, place, item] {
-        if (mPrivate)
-            mPrivate->removeAt(place, Rows::halfOf(item));
-    });
-    return isGiven ? item : nullptr;
+    return mItems->removeAt(place);
 }
 
 void List::privateRemove(ListItem* item)
 {
     TRACE_LIST("privateRemove() this: %p\n", static_cast<void*>(this));
-    mItems->giveBack(Rows::Row(item), [this, item] {
-        if (mPrivate)
-            mPrivate->remove(Rows::halfOf(item));
-    });
+    mItems->remove(item);
 }
 
 void List::privateRemoveAll()
@@ -157,17 +86,7 @@ void List::privateRemoveAll()
 
 void List::privateClear()
 {
-    const Rows::Step step(*mItems);
-    mItems->loseToolkitRows();
-    if (mPrivate)
-        mPrivate->clear();
-    if (!step)
-        return;
-    // A row that has come in the notice goes with the rest, and so does what the glass has of it.
-    const bool haveCome = mItems->at(0) != nullptr;
-    mItems->deleteAll();
-    if (step && haveCome && mPrivate)
-        mPrivate->generateDisplayChangedEvent();
+    mItems->clear();
 }
 
 void List::privateReplace(ListItem* old, ListItem* replacement)
@@ -192,7 +111,7 @@ void List::privateReplace(ListItem* old, ListItem* replacement)
         if (mPrivate)
             mPrivate->remove(Rows::halfOf(old));
         if (step && mItems->isExpected(coming))
-            bringToEnd(replacement);
+            mItems->bringToEnd(*replacement);
     }
     if (step)
         mItems->finishLeaving(leaving);

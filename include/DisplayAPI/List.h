@@ -267,7 +267,6 @@ private:
     void privateClear();
     ListItem* findSelectedItem();
     void privateSetSelected(ListItem* item);
-    void bringToEnd(ListItem* item);
     void privateInsertAt(ListItem* item, int index);
     ListItem* privateRemoveAt(int index);
     void privateRemove(ListItem* item);
