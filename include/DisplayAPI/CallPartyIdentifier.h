@@ -11,7 +11,7 @@ namespace DisplayAPI {
 /// A name or number that is not known holds the text UnknownParty; a withheld number the text WithheldNumber.
 class DISPLAYAPI_EXPORT CallPartyIdentifier {
 public:
-    /// The kind of a number, for icons in lists.
+    /// The kind of a number, for icons in lists: 1 private, 2 and 3 business, 4 mobile; any other shows none.
     enum PhoneNumberIconType : int {};
 
     static constexpr const char* UnknownParty = "Caller.Unknown.XXX";
@@ -33,6 +33,7 @@ public:
     std::string number = UnknownParty;
     std::string displayText; ///< Ready-made text for a row or an address.
     PhoneNumberIconType numberIconType{};
+    bool isMarked = false; ///< A mark of the application's. Rows of the call log are told of it, and show nothing of it.
 };
 
 }
