@@ -57,12 +57,7 @@ std::string tell(Call& call)
 }
 
 INSTANTIATE_TEST_SUITE_P(CallConnectedItem, EveryRowTest,
-    rowFamily(Holder<List, Call>{
-                  [] { return std::make_unique<List>(0); },
-                  [](List& list, Call& row) { list.append(&row); },
-                  [](List& list, Call& row) { list.remove(&row); },
-              },
-        makeCall,
+    rowFamily(inList<Call>(), makeCall,
         {
             {"setText", [](auto& call, auto& stage) { call.setText(stage.translation("Carol")); }},
             {"setSecondLineText",

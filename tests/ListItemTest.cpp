@@ -30,12 +30,6 @@ Icons::IconType icon(int number)
 class ListItemTest : public PhoneTest { };
 class ThreadedListItemTest : public ThreadedPhoneTest { };
 
-const Holder<List, ListItem> inList{
-    [] { return std::make_unique<List>(0); },
-    [](List& list, ListItem& row) { list.append(&row); },
-    [](List& list, ListItem& row) { list.remove(&row); },
-};
-
 std::string tell(ListItem& row)
 {
     return row.getText() + "|" + row.getRightText() + "|" + std::to_string(row.getLeftIcon());
@@ -45,7 +39,7 @@ std::string tell(ListItem& row)
 
 INSTANTIATE_TEST_SUITE_P(ListItem, EveryRowTest,
     rowFamily(
-        inList, [](Stage& stage) { return std::make_unique<ListItem>(stage.translation("Anna"), true); },
+        inList<ListItem>(), [](Stage& stage) { return std::make_unique<ListItem>(stage.translation("Anna"), true); },
         {
             {"setText", [](auto& row, auto&) { row.setText("Bob"); }},
             {"setRightText", [](auto& row, auto&) { row.setRightText("noon"); }},

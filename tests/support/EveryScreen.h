@@ -6,6 +6,7 @@
 #include "TestTranslator.h"
 
 #include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/MenuCommand.h>
 
@@ -85,6 +86,18 @@ struct Holder {
     std::function<void(Screen&, Row&)> put;
     std::function<void(Screen&, Row&)> take;
 };
+
+/// A list as the holder of its rows.
+template <typename Row>
+Holder<DisplayAPI::List, Row> inList()
+{
+    using DisplayAPI::List;
+    return {
+        [] { return std::make_unique<List>(0); },
+        [](List& list, Row& row) { list.append(&row); },
+        [](List& list, Row& row) { list.remove(&row); },
+    };
+}
 
 /// The operations of a class, for a caller who knows the base alone.
 template <typename Base, typename Class>
