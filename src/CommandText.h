@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace DisplayAPI {
 
@@ -21,17 +22,26 @@ struct CommandText {
     TranslatorIfc* translator = nullptr; // of its translation; null too where that has none
 };
 
-/// Reads a command that may have gone, or whose address may be another's by now; empty-handed then. All of it is one
-/// step under the lock of all commands, in which no command dies. Threads: any.
-inline std::optional<CommandText> readCommand(const Living<Command>& command)
+/// Asks a command that may have gone, or whose address may be another's by now; empty-handed then. `ask(command)` is
+/// one step under the lock of all commands, in which no command dies. Threads: any.
+template <typename Ask>
+auto askCommand(const Living<Command>& command, Ask ask) -> std::optional<decltype(ask(std::declval<const Command&>()))>
 {
     CriticalSection section(Command::commandListMutex());
     const Command* living = command.get();
     if (!living)
         return std::nullopt;
-    const TranslationInfo* info = living->getTranslationInfo();
-    return CommandText{
-        command, living->getType(), living->getText(), info != nullptr, info ? info->translator() : nullptr};
+    return ask(*living);
+}
+
+/// What a screen shows of a command, read in such a step.
+inline std::optional<CommandText> readCommand(const Living<Command>& command)
+{
+    return askCommand(command, [&command](const Command& living) {
+        const TranslationInfo* info = living.getTranslationInfo();
+        return CommandText{
+            command, living.getType(), living.getText(), info != nullptr, info ? info->translator() : nullptr};
+    });
 }
 
 inline std::optional<CommandText> readCommand(Command* command)
