@@ -3,14 +3,9 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "CommandText.h"
-#include "CurrentApplication.h"
-#include "GuiThread.h"
 #include "ScreenTextWriter.h"
-#include "TranslationHolder.h"
 
 #include <EventTypes.h>
-#include <PopupCallMEG.h>
 #include <Semaphore.h>
 #include <UEvent.h>
 #include <UWindowManager.h>
@@ -44,97 +39,28 @@ const StateIcon* iconOf(int state)
     return found == std::end(StateIcons) ? nullptr : found;
 }
 
-UString fromUTF8(const std::string& text)
-{
-    return UString::fromUTF8(text);
-}
-
 }
 
 PopupConfirmPrivate::PopupConfirmPrivate(Displayable* parent)
-    : mParent(parent)
+    : ChoicePopupPrivate(new PopupDialogMEG)
+    , mParent(parent)
 {
-    create();
-}
-
-PopupConfirmPrivate::PopupConfirmPrivate(bool)
-    : mParent(nullptr)
-{
-    create();
-}
-
-PopupConfirmPrivate::~PopupConfirmPrivate()
-{
-    assertGuiThread();
-}
-
-void PopupConfirmPrivate::create()
-{
-    assertGuiThread();
-    mWidget->setListener(this);
     mWidget->setDownArrowDisplayable(true);
-    joinApplication(this);
-}
-
-VantoListBoxMEG* PopupConfirmPrivate::list() const
-{
-    return mWidget ? mWidget->listBox : nullptr;
 }
 
 // Texts
 
-void PopupConfirmPrivate::setLine1PrefixText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.show(text));
-}
-
 void PopupConfirmPrivate::setLine1PrefixText(TranslationInfo* text)
 {
-    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.showBare(text));
-}
-
-void PopupConfirmPrivate::setText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
-}
-
-void PopupConfirmPrivate::setText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
-}
-
-void PopupConfirmPrivate::setLine2PrefixText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
-}
-
-void PopupConfirmPrivate::setLine2PrefixText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
-}
-
-void PopupConfirmPrivate::setLine2Text(const std::string& text)
-{
-    appendToText(mLine2Info.show(text));
-}
-
-void PopupConfirmPrivate::setLine2Text(TranslationInfo* text)
-{
-    appendToText(mLine2Info.show(text));
+    put(mLine1Prefix.field, mLine1Prefix.info.showBare(text));
+    generateDisplayChangedEvent();
 }
 
 // The second line belongs to the list, so its text goes behind the question.
 void PopupConfirmPrivate::appendToText(const std::string& text)
 {
     if (mWidget)
-        mWidget->setText(mWidget->getText() + fromUTF8(" " + text));
-    generateDisplayChangedEvent();
-}
-
-void PopupConfirmPrivate::write(Field field, const std::string& text)
-{
-    if (mWidget)
-        (mWidget->*field)(fromUTF8(text));
+        mWidget->setText(mWidget->getText() + UString(" " + text));
     generateDisplayChangedEvent();
 }
 
@@ -150,16 +76,7 @@ void PopupConfirmPrivate::localeChanged(std::string)
 {
     if (!list())
         return;
-    const std::pair<Field, const TranslationHolder&> lines[] = {
-        {&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo},
-        {&PopupNotificationMEG::setText, mTextInfo},
-        {&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo},
-        {&PopupNotificationMEG::setLine2Text, mLine2Info},
-    };
-    for (const auto& [field, line] : lines) {
-        if (line)
-            (mWidget->*field)(fromUTF8(line.completeString()));
-    }
+    readAgain({&mLine1Prefix, &mText, &mLine2Prefix, &mLine2});
     updateRows();
 }
 
@@ -174,7 +91,7 @@ void PopupConfirmPrivate::updateRows()
             if (!row || std::find(mCommands.begin(), mCommands.end(), row->command()) == mCommands.end())
                 continue;
             if (const auto shown = readCommand(row->command()))
-                row->setText(fromUTF8(shown->text));
+                row->setText(UString(shown->text));
         }
         if (const auto first = mCommands.empty() ? std::nullopt : readCommand(mCommands.front()))
             translator = first->translator;
@@ -205,19 +122,7 @@ void PopupConfirmPrivate::addCommand(Command* command)
 
 void PopupConfirmPrivate::setDefaultCommand(Command* command)
 {
-    mDefaultIndex = -1;
-    if (const auto found = find(command); found != mCommands.end()) {
-        mDefaultIndex = static_cast<int>(found - mCommands.begin());
-    } else {
-        // The notice of the new choice may delete this object.
-        LifeNode life(this);
-        addCommand(command);
-        if (!life.isAlive())
-            return;
-        mDefaultIndex = static_cast<int>(mCommands.size()) - 1;
-    }
-    if (list())
-        list()->setCurrentItem(mDefaultIndex);
+    makeDefault(command);
 }
 
 void PopupConfirmPrivate::removeCommand(Command* command)
@@ -225,14 +130,6 @@ void PopupConfirmPrivate::removeCommand(Command* command)
     if (const auto found = find(command); found != mCommands.end())
         mCommands.erase(found);
     generateDisplayChangedEvent();
-}
-
-/// A command that has died is still found by its address, unless another one lives there.
-std::vector<Living<Command>>::iterator PopupConfirmPrivate::find(Command* command)
-{
-    const Living<Command> living(command);
-    return std::find_if(mCommands.begin(), mCommands.end(),
-        [&](const Living<Command>& entry) { return living ? entry == living : entry.isAt(command); });
 }
 
 void PopupConfirmPrivate::clearCommands()
@@ -263,16 +160,6 @@ void PopupConfirmPrivate::show()
     mWidget->popupAsNotification();
 }
 
-void PopupConfirmPrivate::dismiss()
-{
-    // What the popup raises on its way down may delete this object.
-    LifeNode life(this);
-    if (mWidget)
-        mWidget->dismiss();
-    if (life.isAlive())
-        widgetDismissed(this);
-}
-
 void PopupConfirmPrivate::setTimeout(int milliseconds)
 {
     if (mWidget)
@@ -296,7 +183,7 @@ void PopupConfirmPrivate::event(UEvent* event)
         break;
     case EventType::RowChosen:
         if (auto* row = dynamic_cast<CommandRow*>(event->source()))
-            rowChosen(*row);
+            tellChoice(row, mParent);
         break;
     case EventType::LeftPressed: backSelected(); break;
     case EventType::LocaleChanged: localeChanged(""); break;
@@ -342,16 +229,6 @@ void PopupConfirmPrivate::selectionMoved()
     generateDisplayChangedEvent();
 }
 
-void PopupConfirmPrivate::rowChosen(const CommandRow& row)
-{
-    // A listener that overrides the posting may delete this object.
-    LifeNode life(this);
-    if (Command* command = row.command().get())
-        postCommand(command, mParent);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
-}
-
 void PopupConfirmPrivate::backSelected()
 {
     postCommand(&mBackCommand, mParent);
@@ -375,10 +252,7 @@ std::string PopupConfirmPrivate::serialise()
 
 std::string PopupConfirmPrivate::serialise(const std::vector<URect>& rects)
 {
-    if (!list())
-        return {};
-    const URect own = mWidget->getRect();
-    if (std::none_of(rects.begin(), rects.end(), [&own](const URect& rect) { return rect.contains(own); }))
+    if (!list() || !isWhollyIn(rects))
         return {};
     ScreenTextWriter writer;
     writer.object("PopupDialog");
