@@ -3,8 +3,6 @@
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "CurrentApplication.h"
-#include "GuiThread.h"
 #include "PartyText.h"
 #include "ScreenTextWriter.h"
 
@@ -15,7 +13,6 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
-#include <utility>
 
 namespace DisplayAPI {
 
@@ -62,58 +59,16 @@ UString fromUTF8(const std::string& text)
 }
 
 PopupNotificationPrivate::PopupNotificationPrivate(Displayable* owner)
-    : mOwner(owner)
+    : PopupPrivate(new PopupNotificationMEG)
+    , mOwner(owner)
 {
-    assertGuiThread();
-    mWidget->setListener(this);
-    joinApplication(this);
-}
-
-PopupNotificationPrivate::~PopupNotificationPrivate()
-{
-    assertGuiThread();
 }
 
 // Texts
 
-void PopupNotificationPrivate::setLine1PrefixText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.show(text));
-}
-
-void PopupNotificationPrivate::setLine1PrefixText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo.show(text));
-}
-
-void PopupNotificationPrivate::setLine2PrefixText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
-}
-
-void PopupNotificationPrivate::setLine2PrefixText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
-}
-
-void PopupNotificationPrivate::setLine3Text(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine3Text, mLine3Info.show(text));
-}
-
-void PopupNotificationPrivate::setLine3Text(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine3Text, mLine3Info.show(text));
-}
-
-void PopupNotificationPrivate::setText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
-}
-
 void PopupNotificationPrivate::setText(TranslationInfo* text)
 {
-    const std::string shown = mTextInfo.show(text);
+    const std::string shown = mText.info.show(text);
     if (mWidget) {
         mWidget->setText(fromUTF8(shown));
         mWidget->setVisible(false);
@@ -125,33 +80,12 @@ void PopupNotificationPrivate::setLine2Text(const std::string& text)
 {
     if (mWidget && !text.empty() && !mWidget->getText().isEmpty())
         mWidget->setIsSplit(true);
-    write(&PopupNotificationMEG::setLine2Text, mLine2Info.show(text));
-}
-
-void PopupNotificationPrivate::setLine2Text(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine2Text, mLine2Info.show(text));
-}
-
-void PopupNotificationPrivate::write(Field field, const std::string& text)
-{
-    if (mWidget)
-        (mWidget->*field)(fromUTF8(text));
-    generateDisplayChangedEvent();
+    setLine(mLine2, text);
 }
 
 void PopupNotificationPrivate::localeChanged(std::string)
 {
-    const std::pair<Field, const TranslationHolder&> lines[] = {
-        {&PopupNotificationMEG::setLine1PrefixText, mLine1PrefixInfo},
-        {&PopupNotificationMEG::setText, mTextInfo},
-        {&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo},
-        {&PopupNotificationMEG::setLine2Text, mLine2Info},
-    };
-    for (const auto& [field, line] : lines) {
-        if (mWidget && line)
-            (mWidget->*field)(fromUTF8(line.completeString()));
-    }
+    readAgain({&mLine1Prefix, &mText, &mLine2Prefix, &mLine2});
 }
 
 // Icons and kinds
@@ -215,16 +149,6 @@ void PopupNotificationPrivate::show()
         mWidget->setIsSplit(true);
     mWidget->updatePopupNotificationCoordinates();
     mWidget->popupAsNotification();
-}
-
-void PopupNotificationPrivate::dismiss()
-{
-    // What the popup raises on its way down may delete this object.
-    LifeNode life(this);
-    if (mWidget)
-        mWidget->dismiss();
-    if (life.isAlive())
-        widgetDismissed(this);
 }
 
 void PopupNotificationPrivate::setTimeout(int milliseconds)
@@ -302,12 +226,7 @@ std::string PopupNotificationPrivate::serialise()
 
 std::string PopupNotificationPrivate::serialise(const std::vector<URect>& rects)
 {
-    if (!mWidget)
-        return {};
-    const URect own = mWidget->getRect();
-    const bool isInside
-        = std::any_of(rects.begin(), rects.end(), [&own](const URect& rect) { return rect.contains(own); });
-    return isInside ? block(Form::InRects) : std::string();
+    return isWhollyIn(rects) ? block(Form::InRects) : std::string();
 }
 
 std::string PopupNotificationPrivate::block(Form form) const

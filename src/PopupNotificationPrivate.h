@@ -2,35 +2,31 @@
 
 #include <DisplayAPI/PopupNotificationPrivateIfc.h>
 
-#include "OwnershipDelegate.h"
-#include "TranslationHolder.h"
+#include "PopupPrivate.h"
 
 #include <PopupNotificationMEG.h>
-
-#include <vector>
 
 namespace DisplayAPI {
 
 /// The notification popup on the GUI thread: a PopupNotificationMEG with its texts.
 ///
 /// A toolkit tree that holds the widget may delete it; then everything here is without effect.
-class PopupNotificationPrivate final : public PopupNotificationPrivateIfc {
+class PopupNotificationPrivate final : public PopupPrivate<PopupNotificationPrivateIfc, PopupNotificationMEG> {
 public:
     explicit PopupNotificationPrivate(Displayable* owner);
-    ~PopupNotificationPrivate() override;
 
     // Texts
 
-    void setLine1PrefixText(const std::string& text) override;
-    void setLine1PrefixText(TranslationInfo* text) override;
-    void setText(const std::string& text) override;
+    void setLine1PrefixText(const std::string& text) override { setLine(mLine1Prefix, text); }
+    void setLine1PrefixText(TranslationInfo* text) override { setLine(mLine1Prefix, text); }
+    void setText(const std::string& text) override { setLine(mText, text); }
     void setText(TranslationInfo* text) override;
-    void setLine2PrefixText(const std::string& text) override;
-    void setLine2PrefixText(TranslationInfo* text) override;
+    void setLine2PrefixText(const std::string& text) override { setLine(mLine2Prefix, text); }
+    void setLine2PrefixText(TranslationInfo* text) override { setLine(mLine2Prefix, text); }
     void setLine2Text(const std::string& text) override;
-    void setLine2Text(TranslationInfo* text) override;
-    void setLine3Text(const std::string& text) override;
-    void setLine3Text(TranslationInfo* text) override;
+    void setLine2Text(TranslationInfo* text) override { setLine(mLine2, text); }
+    void setLine3Text(const std::string& text) override { setLine(mLine3, text); }
+    void setLine3Text(TranslationInfo* text) override { setLine(mLine3, text); }
     void localeChanged(std::string locale);
 
     // Icons and kinds
@@ -47,17 +43,9 @@ public:
 
     // Life on the screen
 
-    UWidget* getWidget() override { return mWidget; }
-    void releaseOwnership() override { mOwnership.releaseOwnership(); }
-    void gainOwnership() override { mOwnership.gainOwnership(); }
-    bool hasOwnership() const { return mOwnership.hasOwnership(); }
     void show() override;
-    void dismiss() override;
-    void lostFocus() override { }
     void setTimeout(int milliseconds) override;
     void setDismissible(bool dismissible) override;
-    bool hideOldWidgetOnFocusGained() override { return false; }
-    int widgetPosition() override { return 1; }
     void event(UEvent* event) override;
 
     // Screen text
@@ -69,13 +57,11 @@ public:
     std::string serialise(const std::vector<URect>& rects);
 
 private:
-    using Field = void (PopupNotificationMEG::*)(const UString& text);
     enum class Form {
         Whole,
         InRects,
     };
 
-    void write(Field field, const std::string& text);
     void showParties(const CallPartyIdentifier& party, const CallPartyIdentifier* second);
     void popupCameUp();
     void popupWentDown();
@@ -86,15 +72,13 @@ private:
     std::string line2(Form form) const;
 
     Displayable* mOwner;
-    PopupNotificationMEG* mWidget = new PopupNotificationMEG;
     PopupNotification::InfoType mType = PopupNotification::NONE;
-    TranslationHolder mLine1PrefixInfo;
-    TranslationHolder mTextInfo;
-    TranslationHolder mLine2PrefixInfo;
-    TranslationHolder mLine2Info;
-    TranslationHolder mLine3Info;
+    Line mLine1Prefix{&PopupNotificationMEG::setLine1PrefixText};
+    Line mText{&PopupNotificationMEG::setText};
+    Line mLine2Prefix{&PopupNotificationMEG::setLine2PrefixText};
+    Line mLine2{&PopupNotificationMEG::setLine2Text};
+    Line mLine3{&PopupNotificationMEG::setLine3Text};
     bool mLine2Arrow = false;
-    OwnershipDelegate<PopupNotificationMEG> mOwnership{&mWidget};
 };
 
 }
