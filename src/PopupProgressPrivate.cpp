@@ -1,7 +1,5 @@
 #include "PopupProgressPrivate.h"
 
-#include "CurrentApplication.h"
-#include "GuiThread.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>
@@ -9,7 +7,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace DisplayAPI {
 
@@ -39,17 +36,9 @@ const TypeIcon& iconOf(PopupProgress::InfoType type)
 }
 
 PopupProgressPrivate::PopupProgressPrivate(Displayable* parent, PopupProgress::ProgressType type)
-    : mParent(parent)
-    , mWidget(new PopupProgressActualMEG(static_cast<PopupProgressActualMEG::ProgressType>(type)))
+    : PopupPrivate(new PopupProgressActualMEG(static_cast<PopupProgressActualMEG::ProgressType>(type)))
+    , mParent(parent)
 {
-    assertGuiThread();
-    mWidget->setListener(this);
-    joinApplication(this);
-}
-
-PopupProgressPrivate::~PopupProgressPrivate()
-{
-    assertGuiThread();
 }
 
 UWidget* PopupProgressPrivate::getWidget()
@@ -59,56 +48,9 @@ UWidget* PopupProgressPrivate::getWidget()
     return mWidget->getWidget();
 }
 
-// Texts
-
-void PopupProgressPrivate::setText(const std::string& text)
-{
-    write(&PopupProgressActualMEG::setText, mTextInfo.show(text));
-}
-
-void PopupProgressPrivate::setText(TranslationInfo* text)
-{
-    write(&PopupProgressActualMEG::setText, mTextInfo.show(text));
-}
-
-void PopupProgressPrivate::setCurrentStageText(const std::string& text)
-{
-    write(&PopupProgressActualMEG::setStatusText1, mStageInfo.show(text));
-}
-
-void PopupProgressPrivate::setCurrentStageText(TranslationInfo* text)
-{
-    write(&PopupProgressActualMEG::setStatusText1, mStageInfo.show(text));
-}
-
-void PopupProgressPrivate::setCurrentActivityText(const std::string& text)
-{
-    write(&PopupProgressActualMEG::setStatusText2, mActivityInfo.show(text));
-}
-
-void PopupProgressPrivate::setCurrentActivityText(TranslationInfo* text)
-{
-    write(&PopupProgressActualMEG::setStatusText2, mActivityInfo.show(text));
-}
-
-void PopupProgressPrivate::write(Field field, const std::string& text)
-{
-    if (mWidget)
-        (mWidget->*field)(UString::fromUTF8(text));
-    generateDisplayChangedEvent();
-}
-
 void PopupProgressPrivate::localeChanged(std::string)
 {
-    const std::pair<Field, const TranslationHolder&> lines[] = {
-        {&PopupProgressActualMEG::setText, mTextInfo},
-        {&PopupProgressActualMEG::setStatusText1, mStageInfo},
-        {&PopupProgressActualMEG::setStatusText2, mActivityInfo},
-    };
-    for (const auto& [field, line] : lines) {
-        if (mWidget && line)
-            (mWidget->*field)(UString::fromUTF8(line.completeString()));
-    }
+    readAgain({&mText, &mStage, &mActivity});
 }
 
 // Icon and bar
@@ -133,16 +75,6 @@ void PopupProgressPrivate::show()
 {
     if (mWidget)
         mWidget->popupAsNotification();
-}
-
-void PopupProgressPrivate::dismiss()
-{
-    // What the popup raises on its way down may delete this object.
-    LifeNode life(this);
-    if (mWidget)
-        mWidget->dismiss();
-    if (life.isAlive())
-        widgetDismissed(this);
 }
 
 void PopupProgressPrivate::event(UEvent* event)
