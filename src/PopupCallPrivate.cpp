@@ -4,16 +4,12 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/MenuCommand.h>
 
-#include "CommandText.h"
-#include "CurrentApplication.h"
-#include "GuiThread.h"
 #include "PartyText.h"
 #include "ScreenTextWriter.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
 #include <UWindowManager.h>
-#include <VantoListBoxMEG.h>
 
 #include <algorithm>
 #include <iterator>
@@ -105,27 +101,14 @@ NameAndNumber caller(const CallPartyIdentifier& party)
 }
 
 PopupCallPrivate::PopupCallPrivate(PopupCall* owner)
-    : mOwner(owner)
-    , mWidget(VantoUApplication::getCurrentApplication() ? new PopupCallMEG : nullptr)
+    : ChoicePopupPrivate(VantoUApplication::getCurrentApplication() ? new PopupCallMEG : nullptr)
+    , mOwner(owner)
 {
-    assertGuiThread();
     if (!mWidget)
         return;
-    joinApplication(this);
-    mWidget->setListener(this);
     mWidget->listBox->setListener(this);
     mWidget->setDownArrowDisplayable(true);
     mWidget->listBox->setRightArrowEqualsOK(true);
-}
-
-PopupCallPrivate::~PopupCallPrivate()
-{
-    assertGuiThread();
-}
-
-VantoListBoxMEG* PopupCallPrivate::list() const
-{
-    return mWidget ? mWidget->listBox : nullptr;
 }
 
 // Parties
@@ -135,7 +118,7 @@ void PopupCallPrivate::setPopupCallDetails(CallPartyIdentifier* party, CallParty
 {
     const std::unique_ptr<CallPartyIdentifier> owned(party);
     const std::unique_ptr<CallPartyIdentifier> ownedSecond(second);
-    const bool isHeld = auxInfo && mAuxInfo.holds(auxInfo);
+    const bool isHeld = auxInfo && mAux.info.holds(auxInfo);
     showForwarding(type);
     if (!party) {
         if (!isHeld)
@@ -143,7 +126,7 @@ void PopupCallPrivate::setPopupCallDetails(CallPartyIdentifier* party, CallParty
         return;
     }
     // The subscriber may delete this object, or set another text, while the translation is on its way.
-    std::unique_ptr<TranslationInfo> aux(isHeld ? mAuxInfo.release() : auxInfo);
+    std::unique_ptr<TranslationInfo> aux(isHeld ? mAux.info.release() : auxInfo);
     LifeNode life(this);
     showParties(*party, second);
     if (!second) {
@@ -210,51 +193,31 @@ void PopupCallPrivate::showParties(const CallPartyIdentifier& party, const CallP
 
 // Texts
 
-void PopupCallPrivate::setLine1PrefixText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine1PrePrefixText, mLine1PrefixInfo.show(text));
-}
-
-void PopupCallPrivate::setLine1PrefixText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine1PrePrefixText, mLine1PrefixInfo.show(text));
-}
-
-void PopupCallPrivate::setText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
-}
-
-void PopupCallPrivate::setText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setText, mTextInfo.show(text));
-}
-
 void PopupCallPrivate::setLine2PrefixText(const std::string& text)
 {
     if (!ignoreLine2Text())
-        write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
+        setLine(mLine2Prefix, text);
 }
 
 void PopupCallPrivate::setLine2PrefixText(TranslationInfo* text)
 {
     if (!ignoreLine2Text())
-        write(&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo.show(text));
-    else if (!mLine2PrefixInfo.holds(text))
+        setLine(mLine2Prefix, text);
+    else if (!mLine2Prefix.info.holds(text))
         delete text;
 }
 
 void PopupCallPrivate::setLine2Text(const std::string& text)
 {
     if (!ignoreLine2Text())
-        writeLine2(mLine2Info.show(text));
+        writeLine2(mLine2.info.show(text));
 }
 
 void PopupCallPrivate::setLine2Text(TranslationInfo* text)
 {
     if (!ignoreLine2Text())
-        writeLine2(mLine2Info.show(text));
-    else if (!mLine2Info.holds(text))
+        writeLine2(mLine2.info.show(text));
+    else if (!mLine2.info.holds(text))
         delete text;
 }
 
@@ -275,39 +238,13 @@ void PopupCallPrivate::writeLine2(const std::string& text)
     // An empty one would change nothing, but take from a party's number that it is never cut.
     if (mWidget && mState == PopupCall::INCOMING && !text.empty())
         mWidget->setText(fromUTF8(text) + mWidget->getText());
-    write(&PopupNotificationMEG::setLine2Text, text);
-}
-
-void PopupCallPrivate::setAuxText(const std::string& text)
-{
-    write(&PopupNotificationMEG::setLine1PrefixText, mAuxInfo.show(text));
-}
-
-void PopupCallPrivate::setAuxText(TranslationInfo* text)
-{
-    write(&PopupNotificationMEG::setLine1PrefixText, mAuxInfo.show(text));
-}
-
-void PopupCallPrivate::write(Field field, const std::string& text)
-{
-    if (mWidget)
-        (mWidget->*field)(fromUTF8(text));
+    put(mLine2.field, text);
     generateDisplayChangedEvent();
 }
 
 void PopupCallPrivate::localeChanged(std::string)
 {
-    const std::pair<Field, const TranslationHolder&> lines[] = {
-        {&PopupNotificationMEG::setLine1PrefixText, mAuxInfo},
-        {&PopupNotificationMEG::setLine1PrePrefixText, mLine1PrefixInfo},
-        {&PopupNotificationMEG::setText, mTextInfo},
-        {&PopupNotificationMEG::setLine2PrefixText, mLine2PrefixInfo},
-        {&PopupNotificationMEG::setLine2Text, mLine2Info},
-    };
-    for (const auto& [field, line] : lines) {
-        if (mWidget && line)
-            (mWidget->*field)(fromUTF8(line.completeString()));
-    }
+    readAgain({&mAux, &mLine1Prefix, &mText, &mLine2Prefix, &mLine2});
     // By command: a row of line 2 shifts the others.
     for (int i = 0; list() && i < list()->numItems(); ++i) {
         if (auto* row = dynamic_cast<CommandRow*>(list()->item(i))) {
@@ -456,23 +393,14 @@ void PopupCallPrivate::show()
     }
 }
 
-void PopupCallPrivate::dismiss()
-{
-    // What the popup raises on its way down may delete this object.
-    LifeNode life(this);
-    if (mWidget)
-        mWidget->dismiss();
-    if (life.isAlive())
-        widgetDismissed(this);
-}
-
 void PopupCallPrivate::event(UEvent* event)
 {
     switch (event->type) {
     case EventType::PopupDown: popupWentDown(); break;
     case EventType::RowMoved: selectionMoved(); break;
     case EventType::PopupRowMoved: line2GaveWay(); break;
-    case EventType::RowChosen: rowChosen(*event); break;
+    // The row of line 2 has no command.
+    case EventType::RowChosen: tellChoice(dynamic_cast<CommandRow*>(event->source()), mOwner); break;
     case EventType::LeftPressed: postCommand(&mBackCommand, mOwner); break;
     case EventType::LocaleChanged: localeChanged(""); break;
     default: break;
@@ -503,18 +431,6 @@ void PopupCallPrivate::selectionMoved()
     generateDisplayChangedEvent();
 }
 
-void PopupCallPrivate::rowChosen(UEvent& event)
-{
-    // A listener that overrides the posting may delete this object. The row of line 2 has no command.
-    LifeNode life(this);
-    if (auto* row = dynamic_cast<CommandRow*>(event.source())) {
-        if (Command* command = row->command().get())
-            postCommand(command, mOwner);
-    }
-    if (life.isAlive())
-        generateDisplayChangedEvent();
-}
-
 // Screen text
 
 std::string PopupCallPrivate::serialise()
@@ -542,12 +458,7 @@ std::string PopupCallPrivate::serialise()
 
 std::string PopupCallPrivate::serialise(const std::vector<URect>& rects)
 {
-    if (!mWidget)
-        return {};
-    const URect own = mWidget->getRect();
-    const bool isInside
-        = std::any_of(rects.begin(), rects.end(), [&own](const URect& rect) { return rect.contains(own); });
-    return isInside ? serialise() : std::string();
+    return isWhollyIn(rects) ? serialise() : std::string();
 }
 
 bool PopupCallPrivate::isChoiceWritten() const

@@ -1,33 +1,23 @@
 #pragma once
 
 #include <DisplayAPI/Command.h>
-#include <DisplayAPI/Living.h>
 #include <DisplayAPI/PopupCallPrivateIfc.h>
 
-#include "OwnershipDelegate.h"
-#include "TranslationHolder.h"
+#include "PopupPrivate.h"
 
 #include <PopupCallMEG.h>
-#include <UString.h>
-
-#include <cstddef>
-#include <vector>
 
 class UEvent;
-class VantoListBoxMEG;
 
 namespace DisplayAPI {
-
-class CommandRow;
 
 /// The popup of a call on the GUI thread: a PopupCallMEG with its parties, its state and a row for each choice.
 ///
 /// Without an application there is no widget, and a toolkit tree that holds it may delete it; then everything here
 /// changes nothing that can be seen.
-class PopupCallPrivate final : public PopupCallPrivateIfc {
+class PopupCallPrivate final : public ChoicePopupPrivate<PopupCallPrivateIfc, PopupCallMEG> {
 public:
     explicit PopupCallPrivate(PopupCall* owner);
-    ~PopupCallPrivate() override;
 
     Displayable* getParent() const { return mOwner; }
     PopupCallMEG* getPopupCallMEG() const { return mWidget; }
@@ -39,16 +29,16 @@ public:
 
     // Texts
 
-    void setLine1PrefixText(const std::string& text) override;
-    void setLine1PrefixText(TranslationInfo* text) override;
-    void setText(const std::string& text) override;
-    void setText(TranslationInfo* text) override;
+    void setLine1PrefixText(const std::string& text) override { setLine(mLine1Prefix, text); }
+    void setLine1PrefixText(TranslationInfo* text) override { setLine(mLine1Prefix, text); }
+    void setText(const std::string& text) override { setLine(mText, text); }
+    void setText(TranslationInfo* text) override { setLine(mText, text); }
     void setLine2PrefixText(const std::string& text) override;
     void setLine2PrefixText(TranslationInfo* text) override;
     void setLine2Text(const std::string& text) override;
     void setLine2Text(TranslationInfo* text) override;
-    void setAuxText(const std::string& text) override;
-    void setAuxText(TranslationInfo* text);
+    void setAuxText(const std::string& text) override { setLine(mAux, text); }
+    void setAuxText(TranslationInfo* text) { setLine(mAux, text); }
     void localeChanged(std::string locale);
 
     // State
@@ -76,15 +66,7 @@ public:
 
     // Life on the screen
 
-    UWidget* getWidget() override { return mWidget; }
-    void releaseOwnership() override { mOwnership.releaseOwnership(); }
-    void gainOwnership() override { mOwnership.gainOwnership(); }
-    bool hasOwnership() const { return mOwnership.hasOwnership(); }
     void show() override;
-    void dismiss() override;
-    void lostFocus() override { }
-    bool hideOldWidgetOnFocusGained() override { return false; }
-    int widgetPosition() override { return 1; }
     void event(UEvent* event) override;
 
     // Screen text
@@ -96,10 +78,6 @@ public:
     std::string serialise(const std::vector<URect>& rects);
 
 private:
-    using Field = void (PopupNotificationMEG::*)(const UString& text);
-
-    VantoListBoxMEG* list() const;
-    void write(Field field, const std::string& text);
     void writeLine2(const std::string& text);
     bool ignoreLine2Text() const;
     void showForwarding(ForwardedCallType type);
@@ -109,7 +87,6 @@ private:
     void popupWentDown();
     void line2GaveWay();
     void selectionMoved();
-    void rowChosen(UEvent& event);
     bool isChoiceWritten() const;
     std::string stateWord();
     std::string caption(bool hasChoice) const;
@@ -117,23 +94,19 @@ private:
 
     bool mSelectionChanged = false;
     PopupCall* mOwner;
-    PopupCallMEG* mWidget;
-    std::vector<Living<Command>> mCommands; // in the order of adding; a row of line 2 may stand before theirs
-    int mDefaultIndex = 0;
     Command mBackCommand{"", Command::Back};
     Image* mImage = nullptr;
     PopupCall::CallState mState = PopupCall::CONNECTING;
     std::string mIconWord1;
     std::string mIconWord2;
-    TranslationHolder mAuxInfo;
-    TranslationHolder mLine1PrefixInfo;
-    TranslationHolder mTextInfo;
-    TranslationHolder mLine2PrefixInfo;
-    TranslationHolder mLine2Info;
+    Line mAux{&PopupCallMEG::setLine1PrefixText};
+    Line mLine1Prefix{&PopupCallMEG::setLine1PrePrefixText};
+    Line mText{&PopupCallMEG::setText};
+    Line mLine2Prefix{&PopupCallMEG::setLine2PrefixText};
+    Line mLine2{&PopupCallMEG::setLine2Text};
     std::string mForwardedWord;
     std::string mForwardedSecondWord;
     bool mLine2Pending = false;
-    OwnershipDelegate<PopupCallMEG> mOwnership{&mWidget};
 };
 
 }
