@@ -2,9 +2,6 @@
 
 #include <DisplayAPI/MenuCommand.h>
 
-#include "CommandText.h"
-#include "CurrentApplication.h"
-#include "GuiThread.h"
 #include "IdleDisplayPrivate.h"
 #include "ScreenTextWriter.h"
 
@@ -14,10 +11,8 @@
 #include <UEvent.h>
 #include <UWindowManager.h>
 #include <VantoListBoxItemMEG.h>
-#include <VantoListBoxMEG.h>
 #include <VantoTextEditMEG.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace DisplayAPI {
@@ -34,77 +29,22 @@ const URect Glass(0, 0, 161, 30);
 }
 
 PopupDialerPrivate::PopupDialerPrivate(Displayable* owner, bool flag)
-    : mOwner(owner)
-    , mWidget(new PopupDialerMEG(this, flag))
+    : ChoicePopupPrivate(new PopupDialerMEG(nullptr, flag))
+    , mOwner(owner)
 {
-    assertGuiThread();
     mWidget->setParent(this);
-    joinApplication(this);
 }
 
 PopupDialerPrivate::~PopupDialerPrivate()
 {
-    assertGuiThread();
     uncoverParent();
 }
 
 // Lines
 
-void PopupDialerPrivate::setLine1PrefixText(std::string text)
-{
-    write(&PopupDialerMEG::setLine1PrefixText, mLine1PrefixInfo.show(text));
-}
-
-void PopupDialerPrivate::setLine1PrefixText(TranslationInfo* text)
-{
-    write(&PopupDialerMEG::setLine1PrefixText, mLine1PrefixInfo.show(text));
-}
-
-void PopupDialerPrivate::setText(std::string text)
-{
-    write(&PopupDialerMEG::setText, mTextInfo.show(text));
-}
-
-void PopupDialerPrivate::setText(TranslationInfo* text)
-{
-    write(&PopupDialerMEG::setText, mTextInfo.show(text));
-}
-
-void PopupDialerPrivate::setLine2Text(std::string text)
-{
-    write(&PopupDialerMEG::setLine2Text, mLine2Info.show(text));
-}
-
-void PopupDialerPrivate::setLine2Text(TranslationInfo* text)
-{
-    write(&PopupDialerMEG::setLine2Text, mLine2Info.show(text));
-}
-
 std::string PopupDialerPrivate::getLineEditText()
 {
     return mWidget ? mWidget->getEditText().toUTF8() : std::string();
-}
-
-void PopupDialerPrivate::setLineEditText(std::string text)
-{
-    writeEditLine(mLineEditInfo.show(text));
-}
-
-void PopupDialerPrivate::setLineEditText(TranslationInfo* text)
-{
-    writeEditLine(mLineEditInfo.show(text));
-}
-
-void PopupDialerPrivate::writeEditLine(const std::string& text)
-{
-    write(&PopupDialerMEG::setEditText, text);
-    generateDisplayChangedEvent();
-}
-
-void PopupDialerPrivate::write(Field field, const std::string& text)
-{
-    if (mWidget)
-        (mWidget->*field)(UString(text));
 }
 
 void PopupDialerPrivate::setMode(PopupDialer::eMode mode)
@@ -130,26 +70,17 @@ void PopupDialerPrivate::setEditMode()
 void PopupDialerPrivate::setSysWindowText(std::string text, int line)
 {
     if (line == 0 && text != mSysWindowLine0) {
-        write(&PopupDialerMEG::setText, text);
+        put(mText.field, text);
         mSysWindowLine0 = std::move(text);
     } else if (line == 1 && text != mSysWindowLine1) {
-        write(&PopupDialerMEG::setLine2Text, text);
+        put(mLine2.field, text);
         mSysWindowLine1 = std::move(text);
     }
 }
 
 void PopupDialerPrivate::localeChanged(std::string)
 {
-    const std::pair<Field, const TranslationHolder&> lines[] = {
-        {&PopupDialerMEG::setLine1PrefixText, mLine1PrefixInfo},
-        {&PopupDialerMEG::setText, mTextInfo},
-        {&PopupDialerMEG::setLine2Text, mLine2Info},
-        {&PopupDialerMEG::setEditText, mLineEditInfo},
-    };
-    for (const auto& [field, line] : lines) {
-        if (line)
-            write(field, line.completeString());
-    }
+    readAgain({&mLine1Prefix, &mText, &mLine2, &mLineEdit});
     for (const Living<Command>& command : mCommands) {
         CommandRow* row = rowOf(command);
         const auto shown = row ? readCommand(command) : std::nullopt;
@@ -172,19 +103,7 @@ void PopupDialerPrivate::addCommand(MenuCommand* command)
 
 void PopupDialerPrivate::setDefaultCommand(MenuCommand* command)
 {
-    mDefaultIndex = -1;
-    if (const auto found = find(command); found != mCommands.end()) {
-        mDefaultIndex = static_cast<int>(found - mCommands.begin());
-    } else {
-        // The notice of the new choice may delete this object.
-        LifeNode life(this);
-        addCommand(command);
-        if (!life.isAlive())
-            return;
-        mDefaultIndex = static_cast<int>(mCommands.size()) - 1;
-    }
-    if (list())
-        list()->setCurrentItem(mDefaultIndex);
+    makeDefault(command);
 }
 
 void PopupDialerPrivate::removeCommand(MenuCommand* command)
@@ -195,14 +114,6 @@ void PopupDialerPrivate::removeCommand(MenuCommand* command)
         delete rowOf(gone);
     }
     generateDisplayChangedEvent();
-}
-
-/// A command that has died is still found by its address, unless another one lives there.
-std::vector<Living<Command>>::iterator PopupDialerPrivate::find(MenuCommand* command)
-{
-    const Living<Command> living(command);
-    return std::find_if(mCommands.begin(), mCommands.end(),
-        [&](const Living<Command>& entry) { return living ? entry == living : entry.isAt(command); });
 }
 
 CommandRow* PopupDialerPrivate::rowOf(const Living<Command>& command) const
@@ -269,16 +180,6 @@ void PopupDialerPrivate::show()
     mWidget->popupAsNotification();
 }
 
-void PopupDialerPrivate::dismiss()
-{
-    // What the popup raises on its way down may delete this object.
-    LifeNode life(this);
-    if (mWidget)
-        mWidget->dismiss();
-    if (life.isAlive())
-        widgetDismissed(this);
-}
-
 // What the user does
 
 void PopupDialerPrivate::setIgnoreKeypadEvents(bool ignore)
@@ -317,7 +218,7 @@ void PopupDialerPrivate::event(UEvent* event)
     case EventType::RowMoved: olistboxMovement(); break;
     case EventType::RowChosen:
         if (auto* row = dynamic_cast<VantoListBoxItemMEG*>(event->source()))
-            listItemSelected(dynamic_cast<CommandRow*>(row));
+            tellChoice(dynamic_cast<CommandRow*>(row), mOwner);
         break;
     case EventType::DialerHint: refreshDiallerWidgets(); break;
     case EventType::LocaleChanged: localeChanged(""); break;
@@ -371,15 +272,6 @@ void PopupDialerPrivate::olistboxMovement()
         mSelectionChanged = true;
 }
 
-void PopupDialerPrivate::listItemSelected(const CommandRow* row)
-{
-    LifeNode life(this);
-    if (Command* command = row ? row->command().get() : nullptr)
-        postCommand(command, mOwner);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
-}
-
 // Screen text
 
 std::string PopupDialerPrivate::serialise()
@@ -402,10 +294,7 @@ std::string PopupDialerPrivate::serialise()
 
 std::string PopupDialerPrivate::serialise(const std::vector<URect>& rects)
 {
-    if (!mWidget)
-        return {};
-    const URect own = mWidget->getRect();
-    if (std::none_of(rects.begin(), rects.end(), [&own](const URect& rect) { return rect.contains(own); }))
+    if (!isWhollyIn(rects))
         return {};
     ScreenTextWriter writer;
     writer.object("PopupDialler");

@@ -1,24 +1,15 @@
 #pragma once
 
-#include <DisplayAPI/Command.h>
 #include <DisplayAPI/ItemStateListener.h>
-#include <DisplayAPI/Living.h>
 #include <DisplayAPI/PopupDialerPrivateIfc.h>
 
-#include "OwnershipDelegate.h"
+#include "PopupPrivate.h"
 #include "StateItem.h"
-#include "TranslationHolder.h"
 
 #include <PopupDialerMEG.h>
-#include <UString.h>
-
-#include <vector>
-
-class VantoListBoxMEG;
 
 namespace DisplayAPI {
 
-class CommandRow;
 class ScreenTextWriter;
 
 /// The dial popup on the GUI thread: a PopupDialerMEG with its texts and a row for each choice.
@@ -26,23 +17,23 @@ class ScreenTextWriter;
 /// The widget hands the keys that it has no use for to keyEvent(), and they go on to the idle screen behind the
 /// dialer, which hands them back to the widget as its own; there they end.
 /// A toolkit tree that holds the widget may delete it; then everything here is without effect.
-class PopupDialerPrivate final : public PopupDialerPrivateIfc {
+class PopupDialerPrivate final : public ChoicePopupPrivate<PopupDialerPrivateIfc, PopupDialerMEG> {
 public:
     PopupDialerPrivate(Displayable* owner, bool flag);
     ~PopupDialerPrivate() override;
 
     // Lines
 
-    void setLine1PrefixText(std::string text) override;
-    void setLine1PrefixText(TranslationInfo* text) override;
-    std::string getLine1PrefixText() const { return mLine1PrefixInfo.completeString(); }
-    void setText(std::string text) override;
-    void setText(TranslationInfo* text) override;
-    void setLine2Text(std::string text) override;
-    void setLine2Text(TranslationInfo* text) override;
+    void setLine1PrefixText(std::string text) override { putLine(mLine1Prefix, text); }
+    void setLine1PrefixText(TranslationInfo* text) override { putLine(mLine1Prefix, text); }
+    std::string getLine1PrefixText() const { return mLine1Prefix.info.completeString(); }
+    void setText(std::string text) override { putLine(mText, text); }
+    void setText(TranslationInfo* text) override { putLine(mText, text); }
+    void setLine2Text(std::string text) override { putLine(mLine2, text); }
+    void setLine2Text(TranslationInfo* text) override { putLine(mLine2, text); }
     std::string getLineEditText() override;
-    void setLineEditText(std::string text) override;
-    void setLineEditText(TranslationInfo* text) override;
+    void setLineEditText(std::string text) override { setLine(mLineEdit, text); }
+    void setLineEditText(TranslationInfo* text) override { setLine(mLineEdit, text); }
     void setMode(PopupDialer::eMode mode) override;
     void setEditMode() override;
     void setSysWindowSize(int lines) override { mSysWindowSize = lines; }
@@ -70,15 +61,7 @@ public:
     /// The idle screen that gets the keys and layout events; null for none. It is forgotten when it dies.
     void setParentIdleDisplay(UWidget* idleDisplay) override;
     PopupDialerMEG* dialerWidget() const { return mWidget; }
-    UWidget* getWidget() override { return mWidget; }
-    void releaseOwnership() override { mOwnership.releaseOwnership(); }
-    void gainOwnership() override { mOwnership.gainOwnership(); }
-    bool hasOwnership() const { return mOwnership.hasOwnership(); }
     void show() override;
-    void lostFocus() override { }
-    void dismiss() override;
-    bool hideOldWidgetOnFocusGained() override { return false; }
-    int widgetPosition() override { return 1; }
 
     // What the user does
 
@@ -101,14 +84,8 @@ public:
     void showStimulusTextInHeader(bool) override { }
 
 private:
-    using Field = void (PopupDialerMEG::*)(const UString& text);
-
     enum class Rows { Visible, All };
 
-    VantoListBoxMEG* list() const { return mWidget ? mWidget->listbox() : nullptr; }
-    void write(Field field, const std::string& text);
-    void writeEditLine(const std::string& text);
-    std::vector<Living<Command>>::iterator find(MenuCommand* command);
     CommandRow* rowOf(const Living<Command>& command) const;
     void uncoverParent();
     void cameUp();
@@ -117,7 +94,6 @@ private:
     void textChanged();
     void textFieldShown();
     void olistboxMovement();
-    void listItemSelected(const CommandRow* row);
     std::string firstLine() const;
     void writeRows(ScreenTextWriter& writer, Rows rows) const;
 
@@ -125,19 +101,15 @@ private:
     Displayable* mOwner;
     UPointer<UWidget> mParent;
     bool mIsHandingOn = false; // a key, to the parent
-    PopupDialerMEG* mWidget;
     ListenerList<ItemStateListener> mItemStateListeners;
-    std::vector<Living<Command>> mCommands; // one for each row, in the order of the rows
-    int mDefaultIndex = 0;
-    TranslationHolder mLine1PrefixInfo;
-    TranslationHolder mLineEditInfo;
-    TranslationHolder mTextInfo;
-    TranslationHolder mLine2Info;
+    Line mLine1Prefix{&PopupDialerMEG::setLine1PrefixText};
+    Line mLineEdit{&PopupDialerMEG::setEditText};
+    Line mText{&PopupDialerMEG::setText};
+    Line mLine2{&PopupDialerMEG::setLine2Text};
     stateItem mStateItem;
     int mSysWindowSize = 0;
     std::string mSysWindowLine0;
     std::string mSysWindowLine1;
-    OwnershipDelegate<PopupDialerMEG> mOwnership{&mWidget};
 };
 
 }
