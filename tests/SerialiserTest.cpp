@@ -235,6 +235,7 @@ TEST(ScreenTextParserTest, ItFindsWhatBreaksTheGrammar)
             "line 4: the name is the first line of its block: \"string0:X\""},
         {"a field behind a subitem", "object:\nname:A\nsubitem:\nname:B\nendsubitem:\ncaption:X\nend:\n",
             "line 6: a field behind a subitem: \"caption:X\""},
+        {"a password", "object:\nname:A\ncaption:Geheim\nend:\n", "line 0: a password in clear: \"Geheim\""},
     };
     for (const auto& document : documents)
         EXPECT_EQ(ScreenTextParser::faultOf(document.document), document.fault) << document.name;

@@ -22,6 +22,8 @@ bool isKey(std::string_view key)
 ScreenTextParser::ScreenTextParser(std::string_view document)
     : mRest(document)
 {
+    if (document.find(Password) != std::string_view::npos)
+        fail("a password in clear", Password);
     std::string_view line;
     bool mayCloseAgain = false;
     while (mFault.empty() && readLine(line)) {
