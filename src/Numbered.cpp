@@ -1,6 +1,7 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/DisplayPrivateIfc.h>
+#include <DisplayAPI/Item.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
@@ -49,6 +50,7 @@ std::vector<T*> Numbered<T>::all()
 }
 
 template class Numbered<CommandListener>;
+template class Numbered<Item>;
 template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
 template class Numbered<DisplayEventIfc>;

@@ -2,6 +2,7 @@
 
 #include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/GuiRequestEvent.h>
+#include <DisplayAPI/Item.h>
 
 #include <atomic>
 #include <concepts>
@@ -291,8 +292,10 @@ private:
 
     static void retire(Widget& handle) { handle.retire(); }
     static void retire(Displayable& screen) { screen.retireScreen(); }
+    static void retire(Item& item) { item.retireItem(item.getPrivateImpl()); }
     static void retire(ListItem& row) = delete; // it leaves its list, too: retireRow()
     static void leaveRegistry(Widget&) { }
+    static void leaveRegistry(Item& item) { item.leave(); }
     static void leaveRegistry(Displayable& screen);
 };
 
