@@ -2,17 +2,35 @@
 
 #include "ScreenTextParser.h"
 
+#include <Disturb.h>
 #include <UApplication.h>
 #include <ULoop.h>
 #include <UScreenWE1.h>
 #include <UWindowManager.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <future>
+#include <string>
 #include <thread>
 
 using DisplayAPI::Display;
 using DisplayAPI::Rect;
+
+namespace {
+
+/// Shifts the order of threads in every test of the program, if its caller wishes.
+class SeedFromCaller : public testing::Environment {
+    void SetUp() override
+    {
+        if (const char* seed = std::getenv("TEST_SEED"))
+            setDisturbanceSeed(std::stoull(seed));
+    }
+};
+
+[[maybe_unused]] const auto* const theSeed = testing::AddGlobalTestEnvironment(new SeedFromCaller);
+
+}
 
 Rect wholeGlass()
 {
