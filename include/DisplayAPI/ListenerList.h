@@ -51,6 +51,14 @@ public:
         mListeners.clear();
     }
 
+    /// True while it is in and lives.
+    bool contains(T* listener) const
+    {
+        const Living<T> entry(listener);
+        std::lock_guard lock(mMutex);
+        return entry && std::find(mListeners.begin(), mListeners.end(), entry) != mListeners.end();
+    }
+
     /// How many would be told now.
     std::size_t size() const
     {
