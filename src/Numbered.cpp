@@ -5,6 +5,7 @@
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
+#include <DisplayAPI/TimerEvent.h>
 
 #include "LivingSet.h"
 
@@ -55,5 +56,6 @@ template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
 template class Numbered<DisplayEventIfc>;
 template class Numbered<DisplayPrivateIfc>;
+template class Numbered<TimerEvent>;
 
 }
