@@ -13,6 +13,7 @@
 #include <DisplayAPI/PopupDialer.h>
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupProgress.h>
+#include <DisplayAPI/Timer.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -100,6 +101,7 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "PopupDialer", [] { return std::make_unique<PopupDialer>(true, 0); });
         measureHandles(mode, "IdleDisplay", [] { return std::make_unique<IdleDisplay>(""); });
         measureHandles(mode, "Desktop", [] { return std::make_unique<Desktop>(); });
+        measureHandles(mode, "Timer", [] { return std::make_unique<Timer>(0); });
         measureHandles(mode, "List", [] { return std::make_unique<List>(0); });
         List list(0);
         measureHandles(mode, "row of a list", [&list] {

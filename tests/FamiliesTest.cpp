@@ -38,10 +38,9 @@ std::string sourcesIn(const char* folder)
     return all;
 }
 
-/// The handles: every public class that is a Widget, but for the bases.
-std::set<std::string> handles()
+/// The handles: every public class that is one of these, but for the bases.
+std::set<std::string> handlesOf(const std::set<std::string>& bases)
 {
-    const std::set<std::string> bases{"Widget", "Displayable", "Dialog", "Item"};
     const std::string headers = sourcesIn("include");
     const auto classes = allOf(headers, "EXPORT (\\w+)(?: final)? : public (\\w+)");
     std::set<std::string> widgets = bases;
@@ -52,7 +51,7 @@ std::set<std::string> handles()
                 widgets.insert(each[1]);
         }
     }
-    for (const std::string& base : bases)
+    for (const char* base : {"Widget", "Displayable", "Dialog", "Item"})
         widgets.erase(base);
     return widgets;
 }
@@ -69,7 +68,8 @@ TEST(Families, EachHasItsFilesItsRowAndItsPromises)
     const std::string table = contentOf(Root / "src/README.md");
     const std::string tests = sourcesIn("tests");
     int families = 0;
-    for (const std::string& handle : handles()) {
+    const std::set<std::string> screensAndRows = handlesOf({"Displayable", "Dialog", "Item"});
+    for (const std::string& handle : handlesOf({"Widget"})) {
         SCOPED_TRACE(handle);
         expectFile("src/" + handle + ".cpp");
         std::smatch row;
@@ -88,7 +88,9 @@ TEST(Families, EachHasItsFilesItsRowAndItsPromises)
             expectFile("src/" + half + ".h");
             expectFile("src/" + half + ".cpp");
             expectFile("include/DisplayAPI/" + half + "Ifc.h");
-            EXPECT_NE(tests.find("TEST_SUITE_P(" + handle + ", Every"), std::string::npos) << "makes no promise";
+            EXPECT_TRUE(!screensAndRows.contains(handle)
+                || tests.find("TEST_SUITE_P(" + handle + ", Every") != std::string::npos)
+                << "makes no promise";
         }
     }
     EXPECT_GT(families, 3);
