@@ -64,10 +64,16 @@ private:
     std::unique_ptr<TranslationInfo> mInfo;
 };
 
+/// The label of a row that leads back, to be read again in another locale: "Back?" without a translator.
+inline std::unique_ptr<TranslationInfo> backLabel(TranslatorIfc* translator)
+{
+    return std::make_unique<TranslationInfo>("", "Back", "?", translator);
+}
+
 /// The labels of the rows that list boxes have of their own, in a translator's words.
 inline UString backText(TranslatorIfc* translator)
 {
-    return UString(TranslationInfo("", "Back", "?", translator).getCompleteString());
+    return UString(backLabel(translator)->getCompleteString());
 }
 
 inline UString deleteText(TranslatorIfc* translator)
