@@ -11,6 +11,7 @@
 #include <UApplication.h>
 
 #include <memory>
+#include <random>
 
 using namespace DisplayAPI;
 
@@ -320,4 +321,109 @@ TEST_F(TreeTest, ANodeThatIsDeletedLeavesItsTreeAndTheUserStaysAtARow)
     EXPECT_EQ(tree->addNode("gone", 5), nullptr);
     changes.onNextNotice = [&] { tree.reset(); };
     EXPECT_EQ(tree->addNode("gone too", 6), nullptr);
+}
+
+namespace {
+
+/// What the tree should be, without a thought for speed.
+struct ModelRow {
+    int id = -1; // of a row that leads back
+    TreeNode* node = nullptr;
+    bool hasBack = true;
+    std::vector<std::unique_ptr<ModelRow>> rows = {};
+};
+
+struct Model {
+    ModelRow& level() { return path.empty() ? top : *path.back().first; }
+    ModelRow& current() { return *level().rows[selected]; }
+    std::size_t last() { return level().rows.size() - 1; }
+    void add(ModelRow& branch, int id, TreeNode* node)
+    {
+        if (!branch.rows.empty() && branch.rows.back()->id < 0)
+            branch.rows.pop_back();
+        branch.rows.push_back(std::make_unique<ModelRow>(ModelRow{id, node}));
+        if (branch.hasBack && &branch != &top)
+            branch.rows.push_back(std::make_unique<ModelRow>());
+        all.push_back(branch.rows[branch.rows.size() - (branch.rows.back()->id < 0 ? 2 : 1)].get());
+    }
+    void goBack()
+    {
+        if (path.empty())
+            return;
+        selected = path.back().second;
+        path.pop_back();
+    }
+    void enter()
+    {
+        path.emplace_back(&current(), selected);
+        selected = 0;
+    }
+    void press(int key)
+    {
+        if (key == UGlobal::KeyUp)
+            selected = selected > 0 ? selected - 1 : last();
+        else if (key == UGlobal::KeyDown)
+            selected = selected < last() ? selected + 1 : 0;
+        else if (key == UGlobal::KeyLeft || (key == UGlobal::KeyOk && current().id < 0))
+            goBack();
+        else if (key == UGlobal::KeyOk && !current().rows.empty())
+            enter();
+    }
+    bool count(const ModelRow& branch, bool withBack, int& before)
+    {
+        for (const auto& row : branch.rows) {
+            if (row.get() == &current())
+                return true;
+            before += withBack || row->id >= 0 ? 1 : 0;
+            if (count(*row, withBack, before))
+                return true;
+        }
+        return false;
+    }
+
+    ModelRow top;
+    std::vector<ModelRow*> all{&top};
+    std::vector<std::pair<ModelRow*, std::size_t>> path;
+    std::size_t selected = 0;
+};
+
+}
+
+TEST_F(TreeTest, RandomNavigationAndGrowthAgreeWithAPlainModel)
+{
+    std::mt19937 random(1);
+    const auto upTo = [&random](std::size_t count) { return random() % count; };
+    const int keys[] = {UGlobal::KeyUp, UGlobal::KeyDown, UGlobal::KeyOk, UGlobal::KeyOk, UGlobal::KeyLeft};
+    int deepest = 0;
+    for (int round = 0; round < 20; ++round) {
+        tree = std::make_unique<Tree>();
+        show(*tree);
+        Model model;
+        for (int step = 0; step < 200; ++step) {
+            if (step < 10 || upTo(4) == 0) {
+                ModelRow& branch = *model.all[upTo(model.all.size())];
+                if (branch.node && upTo(5) == 0)
+                    branch.node->removeBack(!(branch.hasBack = !branch.hasBack));
+                const std::string text = std::to_string(step);
+                model.add(branch, step, branch.node ? branch.node->addNode(text, step) : tree->addNode(text, step));
+            } else if (upTo(10) == 0) {
+                hold(UGlobal::KeyDown);
+                model.selected = model.last();
+            } else {
+                const int key = keys[upTo(std::size(keys))];
+                press(key);
+                model.press(key);
+            }
+            int flat = 0;
+            int index = 0;
+            ASSERT_TRUE(model.count(model.top, true, flat) && model.count(model.top, false, index));
+            ASSERT_EQ(half().depth(), static_cast<int>(model.path.size()));
+            ASSERT_EQ(half().getSelectedIndexIncludeBack(), flat);
+            ASSERT_EQ(tree->getSelectedIndex(), index);
+            ASSERT_EQ(half().getChildNodeAtIndex(flat), half().selectedNode());
+            ASSERT_TRUE(model.current().id < 0 || tree->getSelected() == model.current().node);
+            deepest = std::max(deepest, half().depth());
+        }
+    }
+    EXPECT_GT(deepest, 3);
 }
