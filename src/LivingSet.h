@@ -29,7 +29,7 @@ public:
         std::lock_guard lock(mMutex);
         if (find(*mTable, object) != NotFound)
             return;
-        if (++mCount * 2 > mTable.load()->size)
+        if (++mCount * 4 > mTable.load()->size * 3)
             useTableOf(mTable.load()->size * 2);
         put(*mTable, object, ++mLastNumber);
     }
@@ -83,7 +83,7 @@ private:
         std::atomic<std::uint64_t> number = 0;
     };
 
-    /// Open addressing with linear probing; half of the slots at most are in use.
+    /// Open addressing with linear probing; three quarters of the slots at most are in use.
     struct Table {
         explicit Table(std::size_t theSize)
             : size(theSize)
