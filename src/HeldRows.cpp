@@ -61,6 +61,7 @@ bool HeldRows::isFree(ListItem* row)
 std::vector<ListItem*> HeldRows::all() const
 {
     std::vector<ListItem*> rows;
+    std::lock_guard lock(mLock);
     rows.reserve(mEntries.size());
     for (const Entry& entry : mEntries) {
         ListItem* row = entry.isTold ? entry.row.get() : nullptr;
@@ -129,6 +130,7 @@ HeldRows::Entry* HeldRows::find(const Row& row)
 void HeldRows::erase(const Row& row)
 {
     const std::size_t place = placeOf(row);
+    std::lock_guard lock(mLock);
     if (place != NotFound)
         mEntries.erase(mEntries.begin() + static_cast<std::ptrdiff_t>(place));
 }
@@ -157,7 +159,10 @@ void HeldRows::expect(ListItem& row, int index)
     } else if (row.mHolder) {
         row.mHolder->letGo(row);
     }
-    mEntries.insert(position(index), entry);
+    {
+        std::lock_guard lock(mLock);
+        mEntries.insert(position(index), entry);
+    }
     setHolder(row, this);
 }
 
@@ -178,7 +183,9 @@ ListItemPrivateIfc* HeldRows::enter(const Row& row)
 
 void HeldRows::settle(const Row& row)
 {
-    if (Entry* entry = find(row))
+    Entry* entry = find(row);
+    std::lock_guard lock(mLock);
+    if (entry)
         entry->isTold = entry->isTold || entry->isIn;
 }
 
@@ -239,7 +246,10 @@ void HeldRows::deleteAll()
     const Step step(*this);
     while (step && !mEntries.empty()) {
         const Entry entry = mEntries.back();
-        mEntries.pop_back();
+        {
+            std::lock_guard lock(mLock);
+            mEntries.pop_back();
+        }
         ListItem* row = entry.row.get();
         if (!row)
             continue;
@@ -268,6 +278,7 @@ bool HeldRows::forgetDead()
     const unsigned int deaths = refusedDeaths;
     if (std::exchange(mSeenDeaths, deaths) == deaths)
         return false;
+    std::lock_guard lock(mLock);
     return std::erase_if(mEntries, [](const Entry& entry) { return !entry.row; }) > 0;
 }
 

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <mutex>
 #include <vector>
 
 namespace DisplayAPI {
@@ -18,7 +19,7 @@ namespace DisplayAPI {
 /// entry here from the first step of its arrival to the last of its leaving, in the place where the toolkit has it, and
 /// every step looks its entry up again behind a notice. What all() names changes last.
 ///
-/// Threads: GUI thread; once the loop has ended also the thread that deletes the holder.
+/// Threads: GUI thread, but for all(); once the loop has ended also the thread that deletes the holder.
 /// Ownership: the rows are the holder's, who deletes them by deleteAll().
 class HeldRows : public RowHolder {
 public:
@@ -56,7 +57,7 @@ public:
 
     // Questions
 
-    /// The living rows: one on its way in is not there yet, one on its way out still is.
+    /// The living rows: one on its way in is not there yet, one on its way out still is. Threads: any.
     std::vector<ListItem*> all() const;
 
     /// The row at an index of the toolkit's list; null outside.
@@ -185,6 +186,8 @@ private:
 
     static std::atomic<unsigned int> refusedDeaths;
 
+    // Only the thread of the holder changes what all() reads, and takes the lock for that; so it reads without.
+    mutable std::mutex mLock;
     std::vector<Entry> mEntries;
     Step* mSteps = nullptr; // those on the stack, the innermost first
     unsigned int mSeenDeaths = refusedDeaths;
