@@ -1,0 +1,28 @@
+#pragma once
+
+#include <DisplayAPI/TranslationInfo.h>
+
+#include <atomic>
+#include <string>
+
+/// The words of the phonelet, whose keys are its English texts.
+class Words : public TranslatorIfc {
+public:
+    enum Language {
+        English,
+        German,
+    };
+
+    /// The screens read their texts anew at the next change of locale. Threads: any.
+    void setLanguage(Language language) { mLanguage = language; }
+
+    /// A word that is not known in the language stays as it is.
+    std::string translate(std::string key) override;
+
+    /// A text that follows the language, for an operation that takes it over.
+    TranslationInfo* text(const std::string& key) { return new TranslationInfo(key, this); }
+    TranslationInfo* question(const std::string& key) { return new TranslationInfo("", key, "?", this); }
+
+private:
+    std::atomic<Language> mLanguage = English;
+};
