@@ -14,9 +14,9 @@ TreeNodePrivate::TreeNodePrivate(const std::string& text)
 }
 
 TreeNodePrivate::TreeNodePrivate(TranslationInfo* text)
-    : mText(mInfo.show(text))
 {
     assertGuiThread();
+    mText = mInfo.show(text);
 }
 
 TreeNodePrivate::~TreeNodePrivate()

@@ -100,9 +100,9 @@ private:
     bool mIsCollapsed = true;
     bool mHasRemovedBack = false;
     bool mIsMadeByLibrary = false; // a Back row, whatever it reads
-    TranslationHolder mInfo;
-    std::string mText;
     TreeRows mChildren;
+    std::string mText;
+    TranslationHolder mInfo;
     TreeNodePrivate* mParent = nullptr;
     TreePrivate* mTree = nullptr; // of a row of the top level
 };
