@@ -14,6 +14,8 @@
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupProgress.h>
 #include <DisplayAPI/Timer.h>
+#include <DisplayAPI/Tree.h>
+#include <DisplayAPI/TreeNode.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -103,6 +105,9 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "Desktop", [] { return std::make_unique<Desktop>(); });
         measureHandles(mode, "Timer", [] { return std::make_unique<Timer>(0); });
         measureHandles(mode, "List", [] { return std::make_unique<List>(0); });
+        measureHandles(mode, "Tree", [] { return std::make_unique<Tree>(); });
+        Tree tree;
+        measureHandles(mode, "node of a tree", [&tree] { return tree.addNode("Settings", 1); });
         List list(0);
         measureHandles(mode, "row of a list", [&list] {
             auto* row = new ListItem("HeadSet", false);

@@ -1,4 +1,5 @@
 #include "Benchmarks.h"
+#include "InkFont.h"
 #include "Phone.h"
 #include "Report.h"
 
@@ -6,8 +7,11 @@
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/MenuCommand.h>
 #include <DisplayAPI/PopupConfirm.h>
+#include <DisplayAPI/Tree.h>
+#include <DisplayAPI/TreeNode.h>
 
 #include <UApplication.h>
+#include <UWindowManager.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -128,6 +132,65 @@ double keyAmongScreens(long living)
     return time;
 }
 
+/// Branches of nine children each, so many nodes in all, and the last branch current.
+void growTree(Tree& tree, long nodes)
+{
+    constexpr long InBranch = 10;
+    for (long branch = 0; branch < nodes / InBranch; ++branch) {
+        TreeNode* node = tree.addNode("Settings", static_cast<int>(branch));
+        for (int child = 1; child < InBranch; ++child)
+            node->addNode("Language", child);
+    }
+    tree.setSelectedIndex(tree.getNodeCount() - 1);
+}
+
+/// The index of the current row behind so many nodes.
+double selectInTree(long nodes, long rounds)
+{
+    Phone phone;
+    double time = 0;
+    phone.onGui([&] {
+        Tree tree;
+        growTree(tree, nodes);
+        const double begin = nowInNanoseconds();
+        for (long round = 0; round < rounds; ++round)
+            benchmark::DoNotOptimize(tree.getSelectedIndex());
+        time = (nowInNanoseconds() - begin) / static_cast<double>(rounds);
+    });
+    return time;
+}
+
+/// A key on the screen that is shown, pressed and released, to the finished frame and the notice.
+double pressKey(int key, long rounds)
+{
+    const InkFont font;
+    UWindowManager::instance().setFont(&font);
+    UApplication& application = *UApplication::instance();
+    const double begin = nowInNanoseconds();
+    for (long round = 0; round < rounds; ++round) {
+        application.postKey(key, UGlobal::KeyPressed);
+        application.postKey(key, UGlobal::KeyReleased);
+        application.processEvents();
+    }
+    const double time = nowInNanoseconds() - begin;
+    UWindowManager::instance().setFont(nullptr);
+    return time / static_cast<double>(rounds);
+}
+
+double keyOnTree(long nodes, long rounds)
+{
+    Phone phone;
+    double time = 0;
+    phone.onGui([&] {
+        Tree tree;
+        growTree(tree, nodes);
+        phone.display().setCurrent(&tree);
+        time = pressKey(UGlobal::KeyDown, rounds);
+        phone.display().setCurrent(nullptr);
+    });
+    return time;
+}
+
 }
 
 void registerScreenBenchmarks(const std::string& mode)
@@ -140,4 +203,12 @@ void registerScreenBenchmarks(const std::string& mode)
     registerRatio(mode, "key press with 10 screens alive", 2000, Report::NoLimit, [] { return keyAmongScreens(10); });
     registerRatio(
         mode, "key press with 10,000 screens alive", 2000, Report::NoLimit, [] { return keyAmongScreens(10'000); });
+    registerRatio(mode, "Tree::getSelectedIndex behind 100 nodes", 20'000, Report::NoLimit,
+        [] { return selectInTree(100, 20'000); });
+    registerRatio(mode, "Tree::getSelectedIndex behind 1,000 nodes", 2000, Report::NoLimit,
+        [] { return selectInTree(1000, 2000); });
+    registerRatio(mode, "Tree::getSelectedIndex behind 10,000 nodes", 200, Report::NoLimit,
+        [] { return selectInTree(10'000, 200); });
+    registerRatio(
+        mode, "key to frame, Tree of 10,000 nodes", 2000, Report::NoLimit, [] { return keyOnTree(10'000, 2000); });
 }

@@ -1,4 +1,5 @@
 #include "Benchmarks.h"
+#include "InkFont.h"
 #include "Phone.h"
 #include "Report.h"
 
@@ -14,7 +15,6 @@
 #include <TwoLineDisplay.h>
 #include <Types.h>
 #include <UEvent.h>
-#include <UFont.h>
 #include <UScreenWE1.h>
 #include <UWindowManager.h>
 #include <VantoListBoxItemMEG.h>
@@ -22,7 +22,6 @@
 #include <VantoListBoxWithTitleMEG.h>
 #include <VantoTextBoxMEG.h>
 
-#include <array>
 #include <vector>
 
 namespace {
@@ -36,21 +35,6 @@ struct Case {
     std::function<void(UWidget& root)> build;
     std::vector<int> keys;
     double most = MostForAKey;
-};
-
-/// A font whose glyphs are all ink and no two alike, so that every cell is drawn.
-class InkFont : public UFont {
-public:
-    InkFont()
-    {
-        for (std::size_t unit = 0; unit < mGlyphs.size(); ++unit)
-            mGlyphs[unit].fill(static_cast<std::uint8_t>(unit & 0x3F));
-    }
-
-    const Glyph* glyph(std::uint16_t unit) const override { return &mGlyphs[unit % mGlyphs.size()]; }
-
-private:
-    std::array<Glyph, 128> mGlyphs;
 };
 
 UString text(const std::string& utf8)
