@@ -1,4 +1,4 @@
-// The demonstration telephone: a list of audio outputs, and a question before another one is used.
+// A list of audio outputs, and a question before another one is used.
 
 #include "AudioOutputs.h"
 #include "Tour.h"
