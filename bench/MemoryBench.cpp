@@ -4,6 +4,7 @@
 
 #include <DisplayAPI/ContextMenu.h>
 #include <DisplayAPI/Desktop.h>
+#include <DisplayAPI/DetailsWithCommands.h>
 #include <DisplayAPI/IdleDisplay.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
@@ -13,6 +14,8 @@
 #include <DisplayAPI/PopupDialer.h>
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupProgress.h>
+#include <DisplayAPI/SearchList.h>
+#include <DisplayAPI/TextBox.h>
 #include <DisplayAPI/Timer.h>
 #include <DisplayAPI/Tree.h>
 #include <DisplayAPI/TreeNode.h>
@@ -108,6 +111,9 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "Tree", [] { return std::make_unique<Tree>(); });
         Tree tree;
         measureHandles(mode, "node of a tree", [&tree] { return tree.addNode("Settings", 1); });
+        measureHandles(mode, "SearchList", [] { return std::make_unique<SearchList>(); });
+        measureHandles(mode, "TextBox", [] { return std::make_unique<TextBox>(false); });
+        measureHandles(mode, "DetailsWithCommands", [] { return std::make_unique<DetailsWithCommands>(); });
         List list(0);
         measureHandles(mode, "row of a list", [&list] {
             auto* row = new ListItem("HeadSet", false);

@@ -15,6 +15,7 @@ int main(int argc, char** argv)
         registerScreenBenchmarks(mode);
         registerMemoryBenchmarks(mode);
         registerWidgetBenchmarks(mode);
+        registerSearchBenchmarks(mode);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
