@@ -77,6 +77,16 @@ TEST_F(TextBoxTest, TheTextIsReadBelowItsTitleOrOnBothLines)
     EXPECT_EQ(glassLine(1), "call. Left goes back.     ^");
     titled.setTitle("");
     EXPECT_EQ(glassLine(0), "Press OK to start the      ");
+    titled.setText("1\n2\n3\n4", true);
+    EXPECT_EQ(glassLine(0), "1                          ") << "what was in view stays";
+    press(UGlobal::KeyDown);
+    press(UGlobal::KeyDown);
+    titled.setTitle("Help");
+    EXPECT_EQ(glassLine(1), "3                         |");
+    press(UGlobal::KeyDown);
+    titled.setTitle("");
+    press(UGlobal::KeyUp);
+    EXPECT_EQ(glassLine(0), "2                          ") << "the first press moves";
 
     TextBox plain(true);
     plain.setTitle("Help");
@@ -88,6 +98,9 @@ TEST_F(TextBoxTest, TheTextIsReadBelowItsTitleOrOnBothLines)
     press(UGlobal::KeyDown);
     EXPECT_EQ(glassLine(0), "Menu                       ");
     EXPECT_EQ(glassLine(1), "call. Left goes back.     ^");
+    press(UGlobal::KeyUp);
+    plain.getPrivateImpl()->getWidget()->setStatusMessageAvailable(true);
+    EXPECT_EQ(glassLine(1), "Press OK to start the     v") << "the fixed line gives way to a message";
 
     EXPECT_EQ(screenText(), "");
     EXPECT_EQ(plain.getPrivateImpl()->serialise(), lines({"object:", "name:Not Implemented", "end:"}));

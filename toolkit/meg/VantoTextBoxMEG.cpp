@@ -29,9 +29,10 @@ VantoTextBoxMEG::~VantoTextBoxMEG() = default;
 
 void VantoTextBoxMEG::setText(const UString& text, bool keepPosition)
 {
+    const int top = keepPosition ? topInView() : 0;
     mText = text;
     wrap();
-    scrollTo(keepPosition ? mTop : 0);
+    scrollTo(top);
 }
 
 void VantoTextBoxMEG::setTopLineSlidableOffAndTruncationOn(bool fixed)
@@ -60,14 +61,22 @@ int VantoTextBoxMEG::firstGlassLine() const
     return isFirstLineTaken() ? 1 : 0;
 }
 
-int VantoTextBoxMEG::scrollingLines() const
+/// Where the first line is taken, the fixed one gives way to what scrolls.
+bool VantoTextBoxMEG::isTopLineShown() const
 {
-    return 2 - firstGlassLine() - (mIsTopLineFixed ? 1 : 0);
+    return mIsTopLineFixed && firstGlassLine() == 0;
 }
 
 int VantoTextBoxMEG::furthestTop() const
 {
-    return std::max(static_cast<int>(mLines.size()) - std::max(scrollingLines(), 1), 0);
+    const int scrollingLines = 2 - firstGlassLine() - (isTopLineShown() ? 1 : 0);
+    return std::max(static_cast<int>(mLines.size()) - scrollingLines, 0);
+}
+
+/// Lines may have come since the last move.
+int VantoTextBoxMEG::topInView() const
+{
+    return std::min(mTop, furthestTop());
 }
 
 void VantoTextBoxMEG::scrollTo(int line)
@@ -81,8 +90,8 @@ bool VantoTextBoxMEG::keyEvent(UKeyEvent* key)
     if (key->state() != UGlobal::KeyPressed)
         return false;
     switch (key->key()) {
-    case UGlobal::KeyUp: scrollTo(mTop - 1); return true;
-    case UGlobal::KeyDown: scrollTo(mTop + 1); return true;
+    case UGlobal::KeyUp: scrollTo(topInView() - 1); return true;
+    case UGlobal::KeyDown: scrollTo(topInView() + 1); return true;
     case UGlobal::KeyLeft: emit(EventType::LeftPressed, this); return true;
     case UGlobal::KeyRight: emit(EventType::RightPressed, this); return true;
     default: return false;
@@ -93,9 +102,9 @@ void VantoTextBoxMEG::paint(UPainter& painter)
 {
     int line = firstGlassLine();
     painter.clearLines(line, 1);
-    if (mIsTopLineFixed)
+    if (isTopLineShown())
         painter.text(line++, 0, mTopLine);
-    const int top = std::min(mTop, furthestTop());
+    const int top = topInView();
     for (int row = top; line <= 1 && row < static_cast<int>(mLines.size()); ++line, ++row)
         painter.text(line, 0, mLines[static_cast<std::size_t>(row)], TextColumns);
     painter.mark(1, Icons::scrollMark(top > 0, top < furthestTop()));

@@ -19,7 +19,8 @@ public:
     void setText(const UString& text, bool keepPosition);
     UString getText() const { return mText; }
 
-    /// While set, the first paragraph stays on the first line, cut at the edge, and the rest scrolls below it.
+    /// While set, the first paragraph stays on the first line, cut at the edge, and the rest scrolls below it. Where
+    /// the first line is taken, only the rest is shown.
     void setTopLineSlidableOffAndTruncationOn(bool fixed);
 
     // Overrides
@@ -30,8 +31,9 @@ public:
 
 private:
     int firstGlassLine() const;
-    int scrollingLines() const;
+    bool isTopLineShown() const;
     int furthestTop() const;
+    int topInView() const;
     void wrap();
     void scrollTo(int line);
 
