@@ -145,6 +145,7 @@ TEST_F(SearchListTest, TheUserFindsAName)
     EXPECT_EQ(screenText(),
         lines({"object:", "name:PopupSearch", "caption:Directory", "string0:A", "string1:3/500", "end:"}));
     EXPECT_EQ(list.getSearchText(), "A");
+    EXPECT_EQ(listener.told(1).size(), 1u);
     list.clear();
     list.append("Anna");
     list.setSearchCountIndicator(1);
