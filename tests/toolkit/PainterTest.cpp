@@ -1,4 +1,5 @@
 #include "TextCells.h"
+#include "TextCuts.h"
 #include "UFont.h"
 #include "UPainter.h"
 #include "UScreenWE1.h"
@@ -123,6 +124,20 @@ TEST_F(PainterTest, TextIsCutAtItsColumnsAndAtTheEdgesOfTheGlass)
     mPainter.text(-1, 0, UString("T"));
     mPainter.invert(7);
     EXPECT_EQ(mScreen, before) << "other lines do not exist";
+}
+
+TEST_F(PainterTest, WhoWatchesHearsOfTheTextsThatHaveNoRoom)
+{
+    std::string told;
+    TextCuts::watch(
+        [&told](const UString& text, int columns) { told += text.toUTF8() + std::to_string(columns) + " "; });
+    mPainter.text(0, 0, UString("TIL"), 3);
+    mPainter.text(0, 0, UString("TIL"), 2);
+    mPainter.text(0, 25, UString("LLTI"));
+    mPainter.textRight(1, 26, UString("TIT"), 1);
+    TextCuts::watch(nullptr);
+    mPainter.text(0, 0, UString("TIL"), 2);
+    EXPECT_EQ(told, "TIL2 LLTI2 TIT1 ");
 }
 
 TEST_F(PainterTest, WhatTheFontLacksTakesItsSpaceAndLeavesWhatIsThere)

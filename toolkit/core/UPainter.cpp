@@ -1,6 +1,7 @@
 #include "UPainter.h"
 
 #include "TextCells.h"
+#include "TextCuts.h"
 #include "UFont.h"
 #include "UScreenWE1.h"
 
@@ -115,11 +116,14 @@ void UPainter::cell(int line, int column, const std::uint8_t* rows)
 int UPainter::text(int line, int column, const UString& text, int columns)
 {
     int count = 0;
-    for (std::size_t place = 0; place < text.length() && count < std::min(columns, Columns); ++count) {
+    std::size_t place = 0;
+    for (; place < text.length() && count < std::min(columns, Columns); ++count) {
         const std::size_t following = TextCells::forward(text, place);
         character(line, column + count, text.mid(place, following - place));
         place = following;
     }
+    if (place < text.length() || column + count > Columns)
+        TextCuts::tell(text, std::min(count, std::max(Columns - column, 0)));
     return count;
 }
 
