@@ -48,8 +48,8 @@ std::string resolved(const TranslationInfo* text)
 }
 
 ListItem::ListItem()
-    : ListItem(std::string(), false)
 {
+    createPlainRow();
 }
 
 ListItem::ListItem(std::string text, bool flag)
@@ -76,6 +76,14 @@ ListItem::ListItem(ListItemType type)
 ListItem::ListItem(ListItemPrivateIfc* rowPrivate)
     : mPrivate(rowPrivate)
 {
+}
+
+void ListItem::createPlainRow()
+{
+    mName = "ListItem";
+    const std::string text;
+    if (Road::post(this, Request::CreateFromText, text, false))
+        setPrivate(new ListItemPrivate(text, false));
 }
 
 ListItem::~ListItem()

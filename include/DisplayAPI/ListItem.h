@@ -98,6 +98,10 @@ protected:
     /// private later, see setPrivate().
     explicit ListItem(ListItemPrivateIfc* rowPrivate);
 
+    /// Makes a plain row without text. A subclass calls it at the end of its own constructor: a request that runs
+    /// earlier would meet an object that is not yet whole.
+    void createPlainRow();
+
     /// What the destructor does, on any thread: the half is deleted on the GUI thread, and the caller waits. A
     /// subclass calls it first in its own destructor, so that no earlier request meets an object that is half gone;
     /// behind that, and behind retireRow(), it does nothing.
