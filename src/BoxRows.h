@@ -138,13 +138,12 @@ protected:
     }
 
 private:
-    /// A box tells of it in one of these ways.
+    /// A box whose current row and selected row are not one hears of both; setSelected() tells the display.
     static void makeCurrent(Box& box, ListItemPrivateIfc* half, int index)
     {
+        box.setSelectedIndex(index);
         if constexpr (requires { box.setSelected(half); })
             box.setSelected(half);
-        else
-            box.setSelectedIndex(index);
     }
 
     const std::unique_ptr<Box>& mBox;
