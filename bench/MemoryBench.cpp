@@ -2,23 +2,30 @@
 #include "Phone.h"
 #include "Report.h"
 
+#include <DisplayAPI/CallLogMainItem.h>
+#include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/ContextMenu.h>
 #include <DisplayAPI/Desktop.h>
 #include <DisplayAPI/DetailsWithCommands.h>
+#include <DisplayAPI/ExclusiveList.h>
 #include <DisplayAPI/IdleDisplay.h>
+#include <DisplayAPI/LineOverviewItem.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/PhonebookItem.h>
 #include <DisplayAPI/PopupCall.h>
 #include <DisplayAPI/PopupConfirm.h>
 #include <DisplayAPI/PopupDialer.h>
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupProgress.h>
+#include <DisplayAPI/QVTList.h>
 #include <DisplayAPI/SearchList.h>
 #include <DisplayAPI/TextBox.h>
 #include <DisplayAPI/Timer.h>
 #include <DisplayAPI/Tree.h>
 #include <DisplayAPI/TreeNode.h>
+#include <DisplayAPI/WaveStyleListItem.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -114,12 +121,24 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "SearchList", [] { return std::make_unique<SearchList>(); });
         measureHandles(mode, "TextBox", [] { return std::make_unique<TextBox>(false); });
         measureHandles(mode, "DetailsWithCommands", [] { return std::make_unique<DetailsWithCommands>(); });
+        measureHandles(mode, "ExclusiveList", [] { return std::make_unique<ExclusiveList>(); });
+        measureHandles(mode, "QVTList", [] { return std::make_unique<QVTList>(); });
         List list(0);
-        measureHandles(mode, "row of a list", [&list] {
-            auto* row = new ListItem("HeadSet", false);
+        const auto inList = [&list](auto* row) {
             list.append(row);
             return row;
+        };
+        measureHandles(mode, "row of a list", [&] { return inList(new ListItem("HeadSet", false)); });
+        measureHandles(mode, "CallLogMainItem", [&] {
+            auto* party = new CallPartyIdentifier("Anna", "4711");
+            return inList(new CallLogMainItem(party, "2001-02-03 10:42", 2, true, false));
         });
+        measureHandles(mode, "LineOverviewItem", [&] {
+            return inList(new LineOverviewItem(LineOverviewItem::LINE_ACTIVE, "Sales", "4711", true, nullptr));
+        });
+        measureHandles(mode, "PhonebookItem",
+            [&] { return inList(new PhonebookItem(PhonebookItem::Private, false, "Anna", false)); });
+        measureHandles(mode, "WaveStyleListItem", [&] { return inList(new WaveStyleListItem); });
     });
     return 0;
 }

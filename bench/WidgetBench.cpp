@@ -3,6 +3,7 @@
 #include "Phone.h"
 #include "Report.h"
 
+#include <CallRowsMEG.h>
 #include <ContextMenuMEG.h>
 #include <ExpandingListMEG.h>
 #include <FormItemMEG.h>
@@ -62,6 +63,29 @@ Widget* put(UWidget& root)
 void buildList(UWidget& root, int rows)
 {
     addRows(*put<VantoListBoxWithTitleMEG>(root)->list(), rows);
+}
+
+void buildRadioButtons(UWidget& root, int rows)
+{
+    addRows(*put<RadioButtonListMEG>(root)->list(), rows);
+}
+
+void buildCallLog(UWidget& root, int rows)
+{
+    VantoListBoxMEG& list = *put<VantoListBoxWithTitleMEG>(root)->list();
+    for (int row = 0; row < rows; ++row) {
+        list.addItem(new CallLogListItemMEG(text("Anna"), text("471" + std::to_string(row)),
+            CallLogListItemMEG::IconType{3}, text("2001-02-03 10:42"), 2, true, false, false, -1));
+    }
+}
+
+void buildLineOverview(UWidget& root, int rows)
+{
+    VantoListBoxMEG& list = *put<VantoListBoxWithTitleMEG>(root)->list();
+    for (int row = 0; row < rows; ++row) {
+        list.addItem(new LineOverviewListItem(
+            LineOverviewListItem::LineStateIconType{1}, text("Line " + std::to_string(row)), text("4711"), true));
+    }
 }
 
 void buildConference(UWidget& root)
@@ -225,6 +249,9 @@ const std::vector<Case>& cases()
     static const std::vector<Case> all = {
         {"list of 10 rows", [](UWidget& root) { buildList(root, 10); }, {KeyDown}},
         {"list of 10,000 rows", [](UWidget& root) { buildList(root, 10'000); }, {KeyDown}},
+        {"radio buttons, 100", [](UWidget& root) { buildRadioButtons(root, 100); }, {KeyDown, KeyOk}},
+        {"call log of 100 rows", [](UWidget& root) { buildCallLog(root, 100); }, {KeyDown}},
+        {"line overview of 100 rows", [](UWidget& root) { buildLineOverview(root, 100); }, {KeyDown}},
         {"members of a conference", buildConference, {KeyDown}},
         {"dialog over a list", buildDialog, {KeyDown, KeyUp}},
         {"context menu over a list", buildMenu, {KeyDown}},
