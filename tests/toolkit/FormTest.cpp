@@ -63,7 +63,7 @@ protected:
 
     void step()
     {
-        switch (positions.empty() ? 0 : below(8)) {
+        switch (positions.empty() ? 0 : below(9)) {
         case 0:
         case 1:
         case 2: insert(new FormItemMEG(text(std::to_string(++made)), UString(), FormItemIfc::AnyText, false)); break;
@@ -90,6 +90,16 @@ protected:
             form->removeRowAt(position);
             if (std::find(positions.begin(), positions.end(), row) == positions.end())
                 delete row;
+            break;
+        }
+        case 8: {
+            FormItemMEG* row = any();
+            const int current = form->listBox()->currentIndex();
+            auto* other = new FormItemMEG(text(std::to_string(++made)), UString(), FormItemIfc::AnyText, false);
+            std::replace(positions.begin(), positions.end(), row, other);
+            form->replaceRow(row, other);
+            EXPECT_EQ(form->listBox()->currentIndex(), current);
+            delete row;
             break;
         }
         }

@@ -10,6 +10,7 @@
 #include "VantoTextEditMEG.h"
 
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -165,6 +166,20 @@ void FormWidgetMEG::removeItem(FormItemMEG* row)
 {
     if (mList->indexOf(row) >= 0)
         mList->removeItem(row);
+}
+
+void FormWidgetMEG::replaceRow(FormItemMEG* row, FormItemMEG* replacement)
+{
+    const int current = mList->currentIndex();
+    std::vector<int> positions;
+    for (int position = 0; position < rowCount(); ++position) {
+        if (itemOf(mList->item(position)) == row)
+            positions.push_back(position);
+    }
+    removeItem(row);
+    for (const int position : positions)
+        insertRowAt(replacement, position);
+    mList->setCurrentIndex(current);
 }
 
 int FormWidgetMEG::rowCount() const

@@ -60,6 +60,9 @@ public:
 
     /// Takes a row out of all its positions.
     void removeItem(FormItemMEG* row);
+
+    /// Puts another row in all positions of a row, which is the caller's then. The highlight stays where it is.
+    void replaceRow(FormItemMEG* row, FormItemMEG* replacement);
     virtual int rowCount() const;
 
     /// The highlighted row, or null.
