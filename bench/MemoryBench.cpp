@@ -8,6 +8,7 @@
 #include <DisplayAPI/Desktop.h>
 #include <DisplayAPI/DetailsWithCommands.h>
 #include <DisplayAPI/ExclusiveList.h>
+#include <DisplayAPI/Form.h>
 #include <DisplayAPI/IdleDisplay.h>
 #include <DisplayAPI/LineOverviewItem.h>
 #include <DisplayAPI/List.h>
@@ -22,6 +23,7 @@
 #include <DisplayAPI/QVTList.h>
 #include <DisplayAPI/SearchList.h>
 #include <DisplayAPI/TextBox.h>
+#include <DisplayAPI/TextField.h>
 #include <DisplayAPI/Timer.h>
 #include <DisplayAPI/Tree.h>
 #include <DisplayAPI/TreeNode.h>
@@ -139,6 +141,13 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "PhonebookItem",
             [&] { return inList(new PhonebookItem(PhonebookItem::Private, false, "Anna", false)); });
         measureHandles(mode, "WaveStyleListItem", [&] { return inList(new WaveStyleListItem); });
+        measureHandles(mode, "Form", [] { return std::make_unique<Form>(Form::Proportion0); });
+        Form form(Form::Proportion0);
+        measureHandles(mode, "TextField", [&form] {
+            auto* field = new TextField(nullptr, {}, nullptr, TextField::AnyText, false);
+            form.append(field);
+            return field;
+        });
     });
     return 0;
 }

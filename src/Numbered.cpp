@@ -5,6 +5,7 @@
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
+#include <DisplayAPI/TextField.h>
 #include <DisplayAPI/TimerEvent.h>
 
 #include "LivingSet.h"
@@ -54,6 +55,7 @@ template class Numbered<CommandListener>;
 template class Numbered<Item>;
 template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
+template class Numbered<TextField>;
 template class Numbered<DisplayEventIfc>;
 template class Numbered<DisplayPrivateIfc>;
 template class Numbered<TimerEvent>;

@@ -19,6 +19,10 @@ Stage::~Stage()
         if (!row->holder())
             delete row;
     }
+    for (TextField* field : TextField::all()) {
+        if (!field->holder())
+            delete field;
+    }
 }
 
 void Stage::press(int key)
@@ -46,6 +50,18 @@ void Stage::takeBack(ListItem* row)
     const bool isRefused = !hasLoop && !Widget::isGuiThread();
     if (!isRefused && ListItem::exists(row))
         delete row;
+}
+
+TextField* Stage::newField(const std::string& label)
+{
+    return new TextField(translation(label), {}, translation("value"), TextField::AnyText, true);
+}
+
+void Stage::takeBack(Item* item)
+{
+    const bool isRefused = !hasLoop && !Widget::isGuiThread();
+    if (!isRefused && Item::exists(item))
+        delete item;
 }
 
 PromiseTest::~PromiseTest()

@@ -9,6 +9,7 @@
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/MenuCommand.h>
+#include <DisplayAPI/TextField.h>
 
 #include <gtest/gtest.h>
 
@@ -44,6 +45,10 @@ public:
     /// Deletes a row that a list has given back, unless it has died since, or was not given back since there is no
     /// loop.
     void takeBack(DisplayAPI::ListItem* row);
+
+    /// The same for forms.
+    DisplayAPI::TextField* newField(const std::string& label);
+    void takeBack(DisplayAPI::Item* item);
 
     RecordingListener listener;
     DisplayAPI::MenuCommand yes{"Yes?", 1};
