@@ -123,3 +123,150 @@ INSTANTIATE_TEST_SUITE_P(Form, EveryScreenTest,
             {"clearCommands", [](auto& form, auto&) { form.clearCommands(); }, false},
         },
         tellForm));
+
+TEST_F(FormTest, ANameWithAnUmlautIsTypedAndSaved)
+{
+    TextField* name = newField("Name", "");
+    form.setTitle("Settings");
+    form.append(name);
+    form.addCommand(&dial);
+    show(form);
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:FormWidget", "caption:Settings", "subitem:", "name:FormItem", "string0:Name",
+            "string1:  ", "icon3:NavigationArrowDown", "endsubitem:", "end:"}));
+    press(UGlobal::KeyOk);
+    press('5');
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:FormWidget", "caption:J", "subitem:", "name: VantoTextEditMEG", "string0:JKL5",
+            "endsubitem:", "end:"}));
+    tap('6', 5);
+    tap('7', 3);
+    tap('4', 1);
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:FormWidget", "caption:J\xC3\xB6rg", "subitem:", "name:VantoListBoxItem", "string0:OK?",
+            "endsubitem:", "end:"}));
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(name->getString(), "J\xC3\xB6rg");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:FormWidget", "caption:Settings", "subitem:", "name:FormItem", "string0:Dial",
+            "string1:  ", "icon3:NavigationArrowUp", "endsubitem:", "end:"}));
+    EXPECT_EQ(glassLine(0).substr(0, 9), "Settings ");
+    press(UGlobal::KeyOk);
+    name->setInformAppOnOk(true);
+    form.setSelected(name);
+    press(UGlobal::KeyOk);
+    press(UGlobal::KeyLeft);
+    EXPECT_EQ(listener.told(5),
+        (std::vector<const void*>{name, Form::SAVE_COMMAND(), &dial, Form::OK_COMMAND(), Form::BACK_COMMAND()}));
+}
+
+TEST_F(FormTest, APasswordIsHiddenWhereverItIsTyped)
+{
+    TextField* pin = newField("PIN", "", TextField::Password);
+    form.append(pin);
+    form.setClipboard("left");
+    show(form);
+    press(UGlobal::KeyOk);
+    for (const auto& [key, times] : {std::pair('4', 1), {'3', 2}, {'4', 2}, {'3', 2}, {'4', 3}, {'6', 1}}) {
+        tap(key, times);
+        EXPECT_EQ(screenField("caption").find_first_not_of('*'), std::string::npos);
+    }
+    EXPECT_EQ(screenField("caption"), "******");
+    EXPECT_EQ(glassLine(0).substr(0, 6), "******");
+    press(UGlobal::KeyOk);
+    EXPECT_EQ(screenField("string1"), " ****** ");
+    EXPECT_EQ(pin->getString(), ScreenTextParser::Password);
+    pin->setReadOnlyMode(true);
+    EXPECT_EQ(screenText(),
+        lines({"object:", "name:FormWidget", "subitem:", "name:FormItem", "string0:[PIN", "string1: ******] ",
+            "endsubitem:", "end:"}));
+    EXPECT_EQ(form.getClipboard(), "left");
+}
+
+TEST_F(FormTest, ATextIsCopiedIntoAnother)
+{
+    TextField* other = newField("Other", "");
+    form.append(newField("Name", "Anna"));
+    form.append(other);
+    form.setSpellerLanguage(&translator);
+    translator.words = {{"Speller.menu.Copy", "Kopieren"}, {"Speller.menu.Paste", "Einsetzen"}};
+    form.setSpellerLanguage(&translator);
+    show(form);
+    for (const auto& [row, downs] : {std::pair("Kopieren?", 4), {"Einsetzen?", 5}}) {
+        press(UGlobal::KeyOk);
+        for (int i = 0; i < downs; ++i)
+            press(UGlobal::KeyDown);
+        EXPECT_EQ(screenField("string0"), row);
+        press(UGlobal::KeyOk);
+        for (int i = 0; i < downs; ++i)
+            press(UGlobal::KeyUp);
+        press(UGlobal::KeyOk);
+        press(UGlobal::KeyDown);
+    }
+    EXPECT_EQ(form.getClipboard() + other->getString(), "AnnaAnna");
+    EXPECT_EQ(listener.commands(3),
+        (std::vector<Command*>{Form::CLIPBOARD_CHANGED_COMMAND(), Form::SAVE_COMMAND(), Form::SAVE_COMMAND()}));
+}
+
+TEST_F(FormTest, RowsItemsAndPairsHaveEachTheirOwnOrder)
+{
+    TextField* b = newField("b", "");
+    form.append(newField("a", ""));
+    form.addCommand(&dial);
+    form.append(b);
+    form.insertItem(newField("c", ""), 3);
+    form.insertItem(newField("d", ""), -1);
+    form.append(b);
+    EXPECT_EQ(rows(), "a b b Dial c d ");
+    EXPECT_EQ(items(), "a b c d ");
+    EXPECT_EQ(form.removeItem(4), nullptr);
+    EXPECT_EQ(form.removeItem(1), b);
+    EXPECT_EQ(b->getParent(), nullptr);
+    EXPECT_EQ(rows(), "a Dial c d ");
+    EXPECT_EQ(items(), "a c d ");
+
+    Form other(Form::Proportion0);
+    show(form);
+    other.append(b);
+    form.append(b);
+    EXPECT_EQ(b->getParent(), &other);
+    changes.onNextNotice = [&] { other.append(form.getItems()[0]); };
+    EXPECT_EQ(form.removeItem(0), nullptr);
+    EXPECT_EQ(rows() + items(), "Dial c d c d ");
+    EXPECT_EQ(other.getItems().size(), 2U);
+    delete form.getItems()[0];
+    form.clearCommands();
+    EXPECT_EQ(rows() + items(), "d d ");
+    EXPECT_EQ(form.getCommands(), std::vector<Command*>());
+}
+
+TEST_F(FormTest, OnlyATranslatedTitleComesBackWithTheTextsOfTheInput)
+{
+    form.setSpellerLanguage(&translator);
+    translator.prefix = "de:";
+    display->localeChanged("de");
+    EXPECT_EQ(SpellerMEG::msOK.toUTF8(), "Speller.menu.OK?");
+    form.setTitle(new TranslationInfo("", "title", "", &translator));
+    form.setTitle("plain");
+    EXPECT_EQ(form.title(), "plain");
+    translator.prefix = "fr:";
+    display->localeChanged("fr");
+    EXPECT_EQ(form.title(), "fr:title");
+    EXPECT_EQ(SpellerMEG::msOK.toUTF8(), "fr:Speller.menu.OK?");
+    EXPECT_EQ(VantoTextEditMEG::msKeypad9upperRestricted.toUTF8(), "fr:Keypad.9.restricted.upper.case?");
+    EXPECT_EQ(VantoTextEditMEG::msTextInputModeNumeric.toUTF8(), "fr:Text.input.mode.numeric");
+}
+
+TEST(FormWithoutAnApplicationTest, AFormHasNoWidget)
+{
+    if (VantoUApplication::getCurrentApplication())
+        GTEST_SKIP() << "another test has made one";
+    Form form(Form::Proportion0);
+    TextField* field = newField("Name", "Anna");
+    form.setTitle("Settings");
+    form.append(field);
+    EXPECT_EQ(form.getPrivateImpl()->serialise(), lines({"object:", "name:FormWidget", "end:"}));
+    EXPECT_EQ(form.title() + form.getClipboard() + field->getString(), "Anna");
+    EXPECT_EQ(form.getSelected(), nullptr);
+}
