@@ -37,6 +37,13 @@ protected:
         form.addItemStateListener(&listener);
     }
 
+    /// The texts of the input are the process's: with the keys themselves the toolkit takes its own again.
+    ~FormTest() override
+    {
+        TestTranslator own;
+        form.setSpellerLanguage(&own);
+    }
+
     FormWidgetMEG& widget() { return static_cast<FormWidgetMEG&>(*form.getPrivateImpl()->getWidget()); }
 
     /// The labels of the rows, as the toolkit has them.
