@@ -1,5 +1,6 @@
 #include "CommandExecutor.h"
 
+#include "DeliveryNotice.h"
 #include "DisplayThread.h"
 #include "DisplayThreadPool.h"
 #include "ExceptionLog.h"
@@ -60,6 +61,7 @@ struct CommandDelivery {
     }
     void deliver() const
     {
+        noticeDelivery(listener, command, displayable);
         CommandListener* living = listener.get();
         Command* what = command.get();
         if (living && (what || command.isAt(nullptr)))
