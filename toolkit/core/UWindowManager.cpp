@@ -7,6 +7,7 @@
 #include "UWidget.h"
 
 #include <algorithm>
+#include <iterator>
 
 UWindowManager& UWindowManager::instance()
 {
@@ -246,35 +247,31 @@ void UWindowManager::compose()
     if (!mIsEnabled)
         return;
     UPainter painter(*mScreen, mFont);
-    for (int layer = 0; layer <= static_cast<int>(UWidget::Layer::KeyBar); ++layer) {
-        if (layer == static_cast<int>(UWidget::Layer::Popup))
-            paintPopups(painter);
-        else
-            paintLayer(layer, painter);
-    }
+    for (UWidget* widget : paintOrder())
+        paintTree(*widget, painter);
 }
 
-void UWindowManager::paintPopups(UPainter& painter) const
+std::vector<UWidget*> UWindowManager::paintOrder() const
 {
-    for (const Popup& popup : mPopups) {
-        if (isShown(popup))
-            paintTree(*popup.widget, painter);
-    }
-}
-
-void UWindowManager::paintLayer(int layer, UPainter& painter) const
-{
+    std::vector<UWidget*> order;
     const UWidget* root = mRoot.get();
-    if (root && root->isVisible()) {
-        for (UWidget* child = root->firstChild(); child; child = child->nextSibling()) {
-            if (static_cast<int>(child->layer()) == layer)
-                paintTree(*child, painter);
+    for (int layer = 0; layer <= static_cast<int>(UWidget::Layer::KeyBar); ++layer) {
+        if (layer == static_cast<int>(UWidget::Layer::Popup)) {
+            for (const Popup& popup : mPopups) {
+                if (isShown(popup))
+                    order.push_back(popup.widget);
+            }
+            continue;
         }
+        const auto isOfLayer = [layer](const UWidget* widget) { return static_cast<int>(widget->layer()) == layer; };
+        for (UWidget* child = root && root->isVisible() ? root->firstChild() : nullptr; child;
+             child = child->nextSibling()) {
+            if (isOfLayer(child))
+                order.push_back(child);
+        }
+        std::ranges::copy_if(mOverlays, std::back_inserter(order), isOfLayer);
     }
-    for (UWidget* overlay : mOverlays) {
-        if (static_cast<int>(overlay->layer()) == layer)
-            paintTree(*overlay, painter);
-    }
+    return order;
 }
 
 void UWindowManager::paintTree(UWidget& widget, UPainter& painter) const

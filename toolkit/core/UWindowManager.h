@@ -81,6 +81,9 @@ public:
     /// Paints if something asked for it. Returns whether it did.
     bool paintIfNeeded();
 
+    /// What is painted, each with its children, in the order of painting.
+    std::vector<UWidget*> paintOrder() const;
+
     /// Called after each painting, for a simulator; empty for none.
     void setPaintObserver(std::function<void()> observer) { mPaintObserver = std::move(observer); }
 
@@ -109,8 +112,6 @@ private:
     std::vector<UWidget*> focusCandidates() const;
     void compose();
     void paintTree(UWidget& widget, UPainter& painter) const;
-    void paintLayer(int layer, UPainter& painter) const;
-    void paintPopups(UPainter& painter) const;
     bool isInRootTree(const UWidget* widget) const;
 
     UPointer<UWidget> mRoot;
