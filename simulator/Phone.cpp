@@ -1,7 +1,9 @@
 #include "Phone.h"
 
 #include "GuiCall.h"
+#include "Script.h"
 
+#include <DisplayAPI/DeliveryWatch.h>
 #include <DisplayAPI/Display.h>
 
 #include <UApplication.h>
@@ -15,9 +17,10 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::chrono::seconds AnswerLimit{20};
 constexpr std::chrono::seconds SettleLimit{5};
 constexpr std::chrono::milliseconds Quiet{120};
+constexpr std::chrono::milliseconds ShortestEnd{2000}; // also for somebody who has no patience with texts
+constexpr std::chrono::milliseconds StuckEnd{200};     // of a telephone that has been waited for already
 
 /// What the process shares with the telephone, put back when it has ended.
 class ToolkitSetup {
@@ -53,6 +56,8 @@ void Phone::run(const Phonelet& phonelet, const Driver& driver)
     DisplayAPI::Display display("PhoneSimulator", "en_US", "DD.MM.YYYY", "HH:mm", false, nullptr);
     mDisplay = &display;
     display.subscribe(this);
+    DisplayAPI::DeliveryWatch::setObserver([this](const auto& delivery) { mDeliveries.add(delivery); });
+    callOnGui([this] { mHasRun = true; });
     std::thread driverThread([this, &driver] { runDriver(driver); });
 
     std::exception_ptr phoneletError;
@@ -64,7 +69,9 @@ void Phone::run(const Phonelet& phonelet, const Driver& driver)
     // From here on nothing runs any more: what the driver waits for is given up.
     mWatch.end();
     ULoop::instance().close();
+    mDeliveries.wake();
     driverThread.join();
+    DisplayAPI::DeliveryWatch::setObserver({});
     display.unSubscribe();
     mDisplay = nullptr;
 
@@ -103,10 +110,11 @@ void Phone::publish()
     mWatch.publish(*screen, text);
 }
 
-bool Phone::onGui(const std::function<void()>& function)
+bool Phone::onGui(std::function<void()> function)
 {
-    std::future<void> done = callOnGuiAfterPainting(function);
-    if (done.wait_for(AnswerLimit) != std::future_status::ready)
+    std::future<void> done = callOnGuiAfterPainting(std::move(function));
+    mIsStuck = done.wait_for(mSettings.patience) != std::future_status::ready;
+    if (mIsStuck)
         return false;
     try {
         done.get();
@@ -167,9 +175,42 @@ void Phone::quit()
     });
 }
 
+bool Phone::end()
+{
+    const auto limit = mIsStuck ? StuckEnd : std::max(mSettings.patience, ShortestEnd);
+    const auto deadline = ScreenWatch::Clock::now() + limit;
+    while (!mWatch.hasEnded() && ScreenWatch::Clock::now() < deadline) {
+        quit();
+        mWatch.waitFor([](const Snapshot&) { return false; }, std::chrono::milliseconds(200));
+    }
+    return mWatch.hasEnded();
+}
+
 bool Phone::finishPosted()
 {
     return onGui([] {});
+}
+
+std::string Phone::waitForScreen()
+{
+    if (!finishPosted())
+        return trouble();
+    const auto isShown = [](const Snapshot& snapshot) { return !snapshot.text.empty(); };
+    if (mWatch.waitFor(isShown, mSettings.patience))
+        return "";
+    if (mWatch.hasEnded())
+        return "the phonelet has ended without showing a screen";
+    return "no screen has come for " + inSeconds(mSettings.patience)
+        + ": the phonelet has not called display.setCurrent(), or not display.show()";
+}
+
+std::string Phone::trouble() const
+{
+    if (mWatch.hasEnded())
+        return mHasRun ? "the phonelet has ended" : "the phonelet has ended without calling display.exec()";
+    const std::string wait = inSeconds(mSettings.patience);
+    return mHasRun ? "the GUI thread has not answered for " + wait + ": the phonelet keeps it busy"
+                   : "the telephone has not started for " + wait + ": the phonelet has not called display.exec()";
 }
 
 void Phone::settle()

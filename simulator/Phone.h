@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CustomStep.h"
+#include "DeliveryLog.h"
 #include "FixedFont.h"
 #include "ScreenWatch.h"
 
@@ -33,7 +34,8 @@ public:
         std::string fontFile; ///< Empty for the system's.
         HardwareVersion::Set hardware;
         ClockKind clock = ClockKind::Real;
-        std::vector<CustomStep> steps; ///< Of the phonelet, with their keys.
+        std::vector<CustomStep> steps;            ///< Of the phonelet, with their keys.
+        std::chrono::milliseconds patience{5000}; ///< How long the GUI thread may take to answer.
     };
 
     /// Works the telephone; the phonelet is told to end when it returns.
@@ -68,9 +70,25 @@ public:
     /// Asks the phonelet to end: its `display.exec()` returns.
     void quit();
 
+    /// Asks again and again, since a phonelet may run its loop several times. False when it has not ended in time.
+    bool end();
+
+    /// Runs a function on the GUI thread, behind what was posted before and its painting. False when the telephone
+    /// did not answer in time, or has ended.
+    bool onGui(std::function<void()> function);
+
     /// Waits until all that was posted has run and been painted. False when the telephone did not answer in
     /// time, or has ended.
     bool finishPosted();
+
+    /// Waits until the phonelet runs its loop and shows something. Answers why it does not, or nothing.
+    std::string waitForScreen();
+
+    /// What is the matter with a telephone that does not answer, in words for its user.
+    std::string trouble() const;
+
+    /// True once the phonelet's loop has turned.
+    bool hasRun() const { return mHasRun; }
 
     /// The same, and then waits for the screen to keep still, since the phonelet's own threads may have to
     /// answer first.
@@ -78,18 +96,23 @@ public:
 
     ScreenWatch& watch() { return mWatch; }
     const ScreenWatch& watch() const { return mWatch; }
+    DeliveryLog& deliveries() { return mDeliveries; }
+    const std::vector<CustomStep>& steps() const { return mSettings.steps; }
+    std::chrono::milliseconds patience() const { return mSettings.patience; }
 
 private:
     void displayChanged(std::string unused) override;
     void publish();
-    bool onGui(const std::function<void()>& function);
     void runDriver(const Driver& driver);
 
     FixedFont mFont;
     Settings mSettings;
     ScreenWatch mWatch;
+    DeliveryLog mDeliveries;
     DisplayAPI::Display* mDisplay = nullptr; // while run() lasts
     std::atomic<bool> mIsPublishPosted = false;
+    std::atomic<bool> mHasRun = false;
+    std::atomic<bool> mIsStuck = false; // has not answered when it was last asked
     std::exception_ptr mDriverError;
     std::mutex mStepMutex; // held while a step of the phonelet's own runs
 };

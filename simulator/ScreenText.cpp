@@ -1,7 +1,9 @@
 #include "ScreenText.h"
 
 #include <algorithm>
+#include <numeric>
 #include <sstream>
+#include <utility>
 
 namespace Simulator {
 
@@ -21,6 +23,26 @@ std::string normalised(std::string_view line)
     line = trimmed(line);
     const auto valueStart = std::min(line.find(':'), line.size() - 1) + 1;
     return std::string(line.substr(0, valueStart)) + std::string(trimmed(line.substr(valueStart)));
+}
+
+/// How many characters have to be put in, taken out or changed to make one text of the other.
+std::size_t changesBetween(std::string_view one, std::string_view other)
+{
+    // A screen shows few characters; what is longer is a text of somebody who tests the tests.
+    constexpr std::size_t most = 500;
+    one = one.substr(0, most);
+    other = other.substr(0, most);
+    std::vector<std::size_t> changes(other.size() + 1);
+    std::iota(changes.begin(), changes.end(), std::size_t{0});
+    for (std::size_t row = 0; row < one.size(); ++row) {
+        std::size_t diagonal = std::exchange(changes[0], row + 1);
+        for (std::size_t column = 0; column < other.size(); ++column) {
+            const std::size_t replaced = diagonal + (one[row] == other[column] ? 0 : 1);
+            diagonal = changes[column + 1];
+            changes[column + 1] = std::min({replaced, changes[column] + 1, diagonal + 1});
+        }
+    }
+    return changes.back();
 }
 
 bool matches(std::string_view text, std::string_view wanted)
@@ -62,6 +84,23 @@ bool containsField(const std::string& screenText, std::string_view wanted)
             return true;
     }
     return false;
+}
+
+std::string closestField(const std::string& screenText, std::string_view wanted)
+{
+    const std::string wantedLine = normalised(trimmed(wanted));
+    std::string closest;
+    std::size_t leastChanges = wantedLine.size() / 2; // with half of it changed, nothing is alike
+    for (const std::string& line : fieldLines(screenText)) {
+        const std::string whole = normalised(line);
+        const std::string_view value = std::string_view(whole).substr(whole.find(':') + 1);
+        const std::size_t changes = std::min(changesBetween(whole, wantedLine), changesBetween(value, wantedLine));
+        if (changes < leastChanges) {
+            leastChanges = changes;
+            closest = trimmed(line);
+        }
+    }
+    return closest;
 }
 
 std::vector<std::string> fieldLines(const std::string& screenText)

@@ -10,6 +10,9 @@ namespace Simulator {
 /// stands behind its key, such as "Speaker". Blanks around both do not count; `*` stands for any characters.
 bool containsField(const std::string& screenText, std::string_view wanted);
 
+/// The line of the screen text that is most like `wanted`; empty if none is alike at all.
+std::string closestField(const std::string& screenText, std::string_view wanted);
+
 /// The lines that hold a value; those of a subitem stand two blanks to the right.
 std::vector<std::string> fieldLines(const std::string& screenText);
 

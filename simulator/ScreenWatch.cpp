@@ -19,6 +19,14 @@ void ScreenWatch::publish(const UScreenWE1& screen, const std::string& text)
         mObserver();
 }
 
+void ScreenWatch::wake()
+{
+    {
+        const std::lock_guard lock(mMutex);
+    }
+    mHasChanged.notify_all();
+}
+
 void ScreenWatch::end()
 {
     {

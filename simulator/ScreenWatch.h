@@ -26,6 +26,9 @@ public:
     /// Takes the screen over, if anything on it has changed. Threads: GUI thread.
     void publish(const UScreenWE1& screen, const std::string& text);
 
+    /// Lets everybody who waits look again.
+    void wake();
+
     /// Releases everybody who waits, for good.
     void end();
     bool hasEnded() const;

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <sstream>
 
 namespace Simulator {
 
@@ -37,13 +38,6 @@ std::optional<int> number(std::string_view text)
     return result;
 }
 
-int parseKey(const std::string& name)
-{
-    if (const std::optional<int> code = keyCode(name))
-        return *code;
-    throw UsageError("no key is called \"" + name + "\"; the keys are " + keyNames());
-}
-
 // A key, and for several presses their number behind it.
 void parsePress(Step& step, const std::string& argument)
 {
@@ -62,26 +56,14 @@ void parseSingleKey(Step& step, const std::string& argument)
     step.keys = {parseKey(argument)};
 }
 
-void parseDialKeys(Step& step, const std::string& argument)
+void takeDialKeys(Step& step, const std::string& argument)
 {
-    for (char key : argument) {
-        if (!UGlobal::isDialKey(key))
-            throw UsageError("type takes digits, * and #");
-        step.keys.push_back(key);
-    }
+    step.keys = parseDialKeys(argument);
 }
 
-void parseTime(Step& step, const std::string& argument)
+void takeTime(Step& step, const std::string& argument)
 {
-    const auto unitStart = std::min(argument.find_first_not_of("0123456789"), argument.size());
-    const std::optional<int> count = number(argument.substr(0, unitStart));
-    const std::string unit = trimmed(argument.substr(unitStart));
-    if (count && unit == "ms" && *count / 1000 <= LongestAdvanceInSeconds)
-        step.time = std::chrono::milliseconds(*count);
-    else if (count && unit == "s" && *count <= LongestAdvanceInSeconds)
-        step.time = std::chrono::seconds(*count);
-    else
-        throw UsageError("a time is a number with its unit, such as 300ms or 5s, up to a week");
+    step.time = parseTime(argument);
 }
 
 void takeText(Step& step, const std::string& argument)
@@ -99,12 +81,12 @@ const std::map<std::string, Word>& words()
 {
     static const std::map<std::string, Word> table = {
         {"press", {Step::Kind::Press, true, parsePress}},
-        {"type", {Step::Kind::Press, true, parseDialKeys}},
+        {"type", {Step::Kind::Press, true, takeDialKeys}},
         {"hold", {Step::Kind::Hold, true, parseSingleKey}},
         {"release", {Step::Kind::Release, true, parseSingleKey}},
         {"expect", {Step::Kind::Expect, true, takeText}},
         {"expect-not", {Step::Kind::ExpectNot, true, takeText}},
-        {"advance", {Step::Kind::Advance, true, parseTime}},
+        {"advance", {Step::Kind::Advance, true, takeTime}},
         {"shot", {Step::Kind::Shot, true, takeText}},
         {"say", {Step::Kind::Say, true, takeText}},
         {"text", {Step::Kind::Text, false, takeText}},
@@ -148,6 +130,39 @@ Step parseStep(const std::string& line, const std::vector<std::string>& customSt
     return step;
 }
 
+}
+
+int parseKey(const std::string& name)
+{
+    if (const std::optional<int> code = keyCode(name))
+        return *code;
+    throw UsageError("no key is called \"" + name + "\"; the keys are " + keyNames());
+}
+
+std::vector<int> parseDialKeys(const std::string& text)
+{
+    if (!std::ranges::all_of(text, [](char key) { return UGlobal::isDialKey(key); }))
+        throw UsageError("type takes digits, * and #");
+    return {text.begin(), text.end()};
+}
+
+std::chrono::milliseconds parseTime(const std::string& text)
+{
+    const auto unitStart = std::min(text.find_first_not_of("0123456789"), text.size());
+    const std::optional<int> count = number(text.substr(0, unitStart));
+    const std::string unit = trimmed(text.substr(unitStart));
+    if (count && unit == "ms" && *count / 1000 <= LongestAdvanceInSeconds)
+        return std::chrono::milliseconds(*count);
+    if (count && unit == "s" && *count <= LongestAdvanceInSeconds)
+        return std::chrono::seconds(*count);
+    throw UsageError("a time is a number with its unit, such as 300ms or 5s, up to a week");
+}
+
+std::string inSeconds(std::chrono::milliseconds time)
+{
+    std::ostringstream text;
+    text << static_cast<double>(time.count()) / 1000 << " s";
+    return text.str();
 }
 
 bool canNameStep(const std::string& word)

@@ -46,6 +46,18 @@ Script parseScript(std::istream& input, const std::string& name, const std::vect
 /// Reads a script file. Throws UsageError also when it can't be read.
 Script readScript(const std::string& file, const std::vector<std::string>& customSteps = {});
 
+/// The code of a key. Throws UsageError for a name that no key has.
+int parseKey(const std::string& name);
+
+/// The codes of dial keys. Throws UsageError for what is none.
+std::vector<int> parseDialKeys(const std::string& text);
+
+/// Reads a time such as "300ms" or "5s". Throws UsageError for another text.
+std::chrono::milliseconds parseTime(const std::string& text);
+
+/// A time for messages, such as "0.5 s".
+std::string inSeconds(std::chrono::milliseconds time);
+
 /// True for a word that can name a step of the phonelet's own.
 bool canNameStep(const std::string& word);
 
