@@ -3,10 +3,12 @@
 #include "BlockDrawing.h"
 #include "Phone.h"
 #include "Picture.h"
+#include "Printable.h"
 #include "ScreenText.h"
 
 #include <exception>
 #include <ostream>
+#include <stdexcept>
 
 namespace Simulator {
 
@@ -34,8 +36,9 @@ int ScriptRunner::run(const Script& script)
         if (reason.empty())
             continue;
         ++failures;
-        mErrors << script.name << ":" << step.line << ": " << step.source << ": " << reason << std::endl;
-        if (mPhone.watch().hasEnded())
+        mErrors << printable(script.name + ":" + std::to_string(step.line) + ": " + step.source + ": " + reason)
+                << std::endl;
+        if (mPhone.watch().hasEnded() || mIsStuck)
             break;
     }
     return failures;
@@ -67,11 +70,11 @@ std::string ScriptRunner::play(const Step& step)
     case Step::Kind::Release: mPhone.key(step.keys.front(), UGlobal::KeyReleased); return "";
     case Step::Kind::Expect:
     case Step::Kind::ExpectNot: return expect(step);
-    case Step::Kind::Advance: return mPhone.advance(step.time) ? "" : "the telephone does not answer";
+    case Step::Kind::Advance: return reasonUnless(mPhone.advance(step.time));
     case Step::Kind::Text: mOutput << settledScreen().text << std::flush; return "";
     case Step::Kind::Show: Simulator::printScreen(settledScreen(), mOutput); return "";
     case Step::Kind::Shot: writePicture(drawPicture(settledScreen().screen, mSettings.scale), step.text); return "";
-    case Step::Kind::Custom: return mPhone.callStep(step.name, step.text) ? "" : "the telephone does not answer";
+    case Step::Kind::Custom: return reasonUnless(mPhone.callStep(step.name, step.text));
     case Step::Kind::Say: mOutput << step.text << std::endl; return "";
     }
     return "";
@@ -84,15 +87,30 @@ std::string ScriptRunner::expect(const Step& step)
         return snapshot.number != 0 && containsField(snapshot.text, step.text) == isWanted;
     };
     // What came before may still be on its way to the screen; look only at what follows from it.
-    mPhone.finishPosted();
+    if (!mPhone.finishPosted() && !mPhone.watch().hasEnded())
+        return reasonUnless(false);
     if (mPhone.watch().waitFor(isAsWanted, mSettings.patience))
         return "";
-    return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text
-        + "\", the screen has: " + inOneLine(mPhone.watch().snapshot().text);
+    const std::string text = mPhone.watch().snapshot().text;
+    const std::string closest = isWanted ? closestField(text, step.text) : "";
+    return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text + "\", "
+        + (closest.empty() ? "" : "closest is \"" + closest + "\", ") + "the screen has: "
+        + (text.empty() ? "no text; display.setCurrent() shows a screen, once display.show() has been called"
+                        : inOneLine(text));
+}
+
+std::string ScriptRunner::reasonUnless(bool hasAnswered)
+{
+    if (hasAnswered)
+        return "";
+    mIsStuck = !mPhone.watch().hasEnded();
+    return mPhone.trouble();
 }
 
 Snapshot ScriptRunner::settledScreen()
 {
+    if (!mPhone.finishPosted() && !mPhone.watch().hasEnded())
+        throw std::runtime_error(reasonUnless(false));
     mPhone.settle();
     return mPhone.watch().snapshot();
 }

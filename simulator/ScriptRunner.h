@@ -31,12 +31,14 @@ private:
     std::string play(const Step& step);
     std::string playChecked(const Step& step);
     std::string expect(const Step& step);
+    std::string reasonUnless(bool hasAnswered);
     Snapshot settledScreen();
 
     Phone& mPhone;
     Settings mSettings;
     std::ostream& mOutput;
     std::ostream& mErrors;
+    bool mIsStuck = false; // the telephone has not answered; it will not answer the next steps either
 };
 
 /// Prints the screen, drawn in a frame and as text.
