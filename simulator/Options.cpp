@@ -1,8 +1,12 @@
 #include "Options.h"
 
+#include "Printable.h"
 #include "UsageError.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <filesystem>
 
 namespace Simulator {
 
@@ -15,6 +19,7 @@ constexpr const char* Description = "The telephone on a workstation.\n\n"
 struct Wishes {
     Options options;
     bool tour = false;
+    bool hasControl = false;
     double patienceInSeconds = 5;
     std::string model = "plain";
 };
@@ -28,8 +33,12 @@ void addModes(CLI::App& app, Wishes& wishes)
     CLI::Option* shot
         = app.add_option("--shot", wishes.options.shot, "Write the first screen as a PNG picture, and end")
               ->type_name("FILE");
-    script->excludes(tour)->excludes(text)->excludes(shot);
-    tour->excludes(text)->excludes(shot);
+    CLI::Option* control = app.add_option("--control", wishes.options.control,
+        "Take commands of a program, in JSON, from standard input or from a socket");
+    control->type_name("[SOCKET]")->expected(0, 1);
+    script->excludes(tour)->excludes(text)->excludes(shot)->excludes(control);
+    tour->excludes(text)->excludes(shot)->excludes(control);
+    control->excludes(text)->excludes(shot);
 }
 
 void addSettings(CLI::App& app, Wishes& wishes)
@@ -39,7 +48,8 @@ void addSettings(CLI::App& app, Wishes& wishes)
         ->capture_default_str()
         ->type_name("N");
     app.add_option("--font", wishes.options.font, "A bitmap font of 6x13 pixels")->type_name("FILE");
-    app.add_option("--timeout", wishes.patienceInSeconds, "How long a script waits for a text, in seconds")
+    app.add_option(
+           "--timeout", wishes.patienceInSeconds, "How long to wait for an answer or an expected text, in seconds")
         ->check(CLI::Range(0.0, 3600.0))
         ->capture_default_str()
         ->type_name("S");
@@ -56,6 +66,8 @@ Options::Mode modeOf(const Wishes& wishes)
 {
     if (!wishes.options.script.empty())
         return Options::Mode::Script;
+    if (wishes.hasControl)
+        return Options::Mode::Control;
     if (wishes.tour)
         return Options::Mode::Tour;
     return wishes.options.text || !wishes.options.shot.empty() ? Options::Mode::Once : Options::Mode::Terminal;
@@ -63,15 +75,25 @@ Options::Mode modeOf(const Wishes& wishes)
 
 }
 
-Options parseOptions(int argc, const char* const* argv)
+std::string programName(int argc, const char* const* argv)
 {
-    CLI::App app(Description);
+    const std::string name = argc > 0 && argv[0] ? std::filesystem::path(argv[0]).filename().string() : "";
+    return name.empty() ? "phone" : printable(name);
+}
+
+Options parseOptions(int argc, const char* const* argv, const std::string& version)
+{
     Wishes wishes;
-    app.set_version_flag("--version", "phone " PHONE_VERSION);
+    wishes.options.program = programName(argc, argv);
+    CLI::App app(Description, wishes.options.program);
+    wishes.options.programAndVersion
+        = wishes.options.program + " " + (version.empty() ? "(on DisplayAPI " PHONE_VERSION ")" : version);
+    app.set_version_flag("--version", wishes.options.programAndVersion);
     addModes(app, wishes);
     addSettings(app, wishes);
     try {
         app.parse(argc, argv);
+        wishes.hasControl = app.count("--control") > 0;
     } catch (const CLI::CallForHelp&) {
         wishes.options.help = app.help();
     } catch (const CLI::CallForVersion&) {

@@ -12,6 +12,7 @@ struct Options {
     enum class Mode {
         Terminal, ///< The telephone is worked by the keys of the terminal.
         Script,
+        Control, ///< Programs work the telephone by the control channel.
         Tour,
         Once, ///< The first screen is written as text, picture, or both.
         Help, ///< `help` is printed, and that is all.
@@ -19,7 +20,10 @@ struct Options {
 
     Mode mode = Mode::Terminal;
     std::string help;
+    std::string program; ///< The name under which it was started.
+    std::string programAndVersion;
     std::string script;
+    std::string control; ///< The path of the socket; empty for standard input and output.
     bool text = false;
     std::string shot; ///< The file of the picture; empty for none.
     int scale = 4;
@@ -28,8 +32,11 @@ struct Options {
     HardwareVersion::Set hardware;
 };
 
-/// Reads the command line. Without a wish for a mode it is the terminal. Throws UsageError for an option that
-/// can't be used.
-Options parseOptions(int argc, const char* const* argv);
+/// The name of the program, without its folder.
+std::string programName(int argc, const char* const* argv);
+
+/// Reads the command line. `version` is what --version prints behind the name; empty for the simulator's. Without a
+/// wish for a mode it is the terminal. Throws UsageError for an option that can't be used.
+Options parseOptions(int argc, const char* const* argv, const std::string& version);
 
 }

@@ -200,8 +200,13 @@ std::string Phone::waitForScreen()
         return "";
     if (mWatch.hasEnded())
         return "the phonelet has ended without showing a screen";
-    return "no screen has come for " + inSeconds(mSettings.patience)
-        + ": the phonelet has not called display.setCurrent(), or not display.show()";
+    return "no screen has come for " + inSeconds(mSettings.patience) + ": " + missingScreen();
+}
+
+std::string Phone::missingScreen() const
+{
+    return mHasRun ? "the phonelet has not called display.setCurrent(), or not display.show()"
+                   : "the phonelet has not called display.exec()";
 }
 
 std::string Phone::trouble() const
@@ -210,7 +215,7 @@ std::string Phone::trouble() const
         return mHasRun ? "the phonelet has ended" : "the phonelet has ended without calling display.exec()";
     const std::string wait = inSeconds(mSettings.patience);
     return mHasRun ? "the GUI thread has not answered for " + wait + ": the phonelet keeps it busy"
-                   : "the telephone has not started for " + wait + ": the phonelet has not called display.exec()";
+                   : "the telephone has not started for " + wait + ": " + missingScreen();
 }
 
 void Phone::settle()

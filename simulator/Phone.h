@@ -84,6 +84,9 @@ public:
     /// Waits until the phonelet runs its loop and shows something. Answers why it does not, or nothing.
     std::string waitForScreen();
 
+    /// What the phonelet has not done yet, so that no screen is there.
+    std::string missingScreen() const;
+
     /// What is the matter with a telephone that does not answer, in words for its user.
     std::string trouble() const;
 

@@ -9,20 +9,27 @@ namespace Simulator {
 
 namespace {
 
-sigset_t watchedSignals()
+sigset_t setOf(std::initializer_list<int> signals)
 {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGWINCH})
-        sigaddset(&signals, signal);
-    return signals;
+    sigset_t set;
+    sigemptyset(&set);
+    for (int signal : signals)
+        sigaddset(&set, signal);
+    return set;
+}
+
+sigset_t watchedSignals(SignalWatch::Of kind)
+{
+    return kind == SignalWatch::Of::Terminal ? setOf({SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGWINCH})
+                                             : setOf({SIGINT, SIGTERM, SIGHUP, SIGQUIT});
 }
 
 }
 
-SignalWatch::SignalWatch()
+SignalWatch::SignalWatch(Of kind)
+    : mKind(kind)
 {
-    const sigset_t signals = watchedSignals();
+    const sigset_t signals = watchedSignals(mKind);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     mDescriptor = signalfd(-1, &signals, SFD_NONBLOCK | SFD_CLOEXEC);
 }
@@ -31,8 +38,16 @@ SignalWatch::~SignalWatch()
 {
     while (take() != 0) { }
     close(mDescriptor);
-    const sigset_t signals = watchedSignals();
+    const sigset_t signals = watchedSignals(mKind);
     pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
+
+void SignalWatch::stopHere() const
+{
+    const sigset_t stop = setOf({SIGTSTP});
+    kill(0, SIGTSTP);
+    pthread_sigmask(SIG_UNBLOCK, &stop, nullptr); // here the process stops
+    pthread_sigmask(SIG_BLOCK, &stop, nullptr);
 }
 
 int SignalWatch::take()

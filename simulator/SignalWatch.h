@@ -6,7 +6,10 @@ namespace Simulator {
 /// while it lives take none of them; so make it before any other thread.
 class SignalWatch {
 public:
-    SignalWatch();
+    /// A terminal program is told of Ctrl-Z and of a new size, too.
+    enum class Of { Program, Terminal };
+
+    explicit SignalWatch(Of kind);
     ~SignalWatch();
     SignalWatch(const SignalWatch&) = delete;
     SignalWatch& operator=(const SignalWatch&) = delete;
@@ -17,7 +20,12 @@ public:
     /// The number of a signal that has come; 0 for none.
     int take();
 
+    /// Stops the process and those that run with it, as Ctrl-Z does, and returns when they go on. Where no shell
+    /// could let them go on, it returns at once.
+    void stopHere() const;
+
 private:
+    Of mKind;
     int mDescriptor;
 };
 

@@ -132,6 +132,21 @@ void TerminalSession::resize()
         resizeterm(size.ws_row, size.ws_col);
 }
 
+void TerminalSession::suspend()
+{
+    def_prog_mode();
+    endwin();
+    gIsActive = false;
+}
+
+void TerminalSession::resume()
+{
+    gIsActive = true;
+    reset_prog_mode();
+    resize();
+    clear();
+}
+
 void TerminalSession::restore()
 {
     if (!gIsActive.exchange(false))

@@ -15,6 +15,10 @@ public:
     /// Fits the drawing to the terminal's size of now.
     void resize();
 
+    /// Gives the terminal back until resume(), for a program that is stopped.
+    void suspend();
+    void resume();
+
     /// Gives the terminal back at once, from any thread, for a program that can't wait for the destructor.
     static void restore();
 };

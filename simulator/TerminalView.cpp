@@ -31,6 +31,7 @@ constexpr short GlassColours = 1;
 constexpr short FrameColours = 2;
 constexpr int ControlC = 3;
 constexpr int ControlL = 12;
+constexpr int ControlZ = 26;
 constexpr const char* KeysHelp = "Arrows  Enter OK  0-9 * #  Backspace left  Del clear  ";
 constexpr const char* LeaveHelp = "   q leaves";
 
@@ -100,14 +101,14 @@ TerminalView::~TerminalView()
     close(mWakeDescriptor);
 }
 
-void TerminalView::run()
+int TerminalView::run()
 {
     TerminalSession session;
     setColours();
     while (!mPhone.watch().hasEnded()) {
         draw();
         waitForSomething();
-        const bool mustLeave = handleSignals(session) == Command::Leave || handleKeys() == Command::Leave;
+        const bool mustLeave = handleSignals(session) == Command::Leave || handleKeys(session) == Command::Leave;
         const bool isGone = std::exchange(mIsHungUp, false);
         if (!mustLeave && !isGone)
             continue;
@@ -119,6 +120,7 @@ void TerminalView::run()
         mIsLeaving = true;
         mPhone.quit();
     }
+    return mSignal;
 }
 
 void TerminalView::waitForSomething()
@@ -129,7 +131,9 @@ void TerminalView::waitForSomething()
         {mSignals.descriptor(), POLLIN, 0},
     }};
     const auto time = mRepeat.timeToTick(KeyRepeat::Clock::now());
-    poll(sources.data(), sources.size(), time ? static_cast<int>(time->count()) : -1);
+    constexpr int toLookAgain = 500;
+    const int untilNextLook = isWaitingForScreen() ? toLookAgain : -1;
+    poll(sources.data(), sources.size(), time ? static_cast<int>(time->count()) : untilNextLook);
     std::uint64_t count = 0;
     [[maybe_unused]] const ssize_t taken = read(mWakeDescriptor, &count, sizeof count);
     if ((sources[0].revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) {
@@ -141,21 +145,38 @@ void TerminalView::waitForSomething()
 TerminalView::Command TerminalView::handleSignals(TerminalSession& session)
 {
     while (const int signal = mSignals.take()) {
-        if (signal != SIGWINCH)
+        if (signal == SIGTSTP) {
+            suspend(session);
+            continue;
+        }
+        if (signal != SIGWINCH) {
+            mSignal = signal;
             return Command::Leave;
+        }
         session.resize();
         clear();
     }
     return Command::None;
 }
 
-TerminalView::Command TerminalView::handleKeys()
+void TerminalView::suspend(TerminalSession& session)
+{
+    session.suspend();
+    mSignals.stopHere();
+    session.resume();
+}
+
+TerminalView::Command TerminalView::handleKeys(TerminalSession& session)
 {
     const auto now = KeyRepeat::Clock::now();
     post(mRepeat.tick(now));
     for (int key = getch(); key != ERR; key = getch()) {
+        if (key == ControlC)
+            mSignal = SIGINT;
         if (key == 'q' || key == 'Q' || key == ControlC)
             return Command::Leave;
+        if (key == ControlZ)
+            suspend(session);
         if (key == ControlL)
             clearok(curscr, TRUE); // draws everything anew, for a terminal that something else has written on
         if (const int code = telephoneKey(key))
@@ -179,12 +200,25 @@ void TerminalView::draw() const
     } else {
         drawGlass(snapshot);
         attrset(A_DIM);
-        write(glassHeight(snapshot), 1, mIsLeaving ? "Leaving ..." : KeysHelp + mPhone.functionKeys() + LeaveHelp,
-            COLS - 2);
+        write(glassHeight(snapshot), 1, statusLine(), COLS - 2);
         attrset(A_NORMAL);
         drawText(snapshot.text, glassHeight(snapshot) + 1);
     }
     refresh();
+}
+
+std::string TerminalView::statusLine() const
+{
+    if (mIsLeaving)
+        return "Leaving ... (again leaves a phonelet that does not end)";
+    if (isWaitingForScreen() && KeyRepeat::Clock::now() - mStart > mPhone.patience())
+        return "No screen: " + mPhone.missingScreen();
+    return KeysHelp + mPhone.functionKeys() + LeaveHelp;
+}
+
+bool TerminalView::isWaitingForScreen() const
+{
+    return mPhone.watch().snapshot().text.empty();
 }
 
 void TerminalView::drawTooSmall() const

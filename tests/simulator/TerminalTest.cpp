@@ -38,7 +38,8 @@ protected:
     }
 
     /// Starts the program in a terminal of this size.
-    void start(unsigned short columns, unsigned short lines, const char* kind = "xterm-256color")
+    void start(unsigned short columns, unsigned short lines, const char* kind = "xterm-256color",
+        const char* shellCommand = "exec \"$0\"")
     {
         winsize size{lines, columns, 0, 0};
         ASSERT_EQ(openpty(&mMaster, &mSlave, nullptr, nullptr, &size), 0);
@@ -48,7 +49,7 @@ protected:
             login_tty(mSlave);
             setenv("TERM", kind, 1);
             setenv("LC_ALL", "C", 1);
-            execl(PROJECT_BINARY_DIR "/bin/phone", "phone", static_cast<char*>(nullptr));
+            execl("/bin/sh", "sh", "-mc", shellCommand, PROJECT_BINARY_DIR "/bin/phone", static_cast<char*>(nullptr));
             _exit(127);
         }
     }
@@ -140,7 +141,7 @@ TEST_F(TerminalTest, ASmallTerminalIsToldUntilItIsMadeLarger)
     ASSERT_TRUE(shows("┌─ Telephone ─"));
     ASSERT_TRUE(shows("Screen text")) << "below the glass";
     type("\x03");
-    EXPECT_EQ(finish(), 0);
+    EXPECT_EQ(WEXITSTATUS(finish()), 128 + SIGINT);
     expectTerminalAsBefore();
 }
 
@@ -150,10 +151,25 @@ TEST_F(TerminalTest, ASignalGivesTheTerminalBack)
         start(90, 24);
         ASSERT_TRUE(shows("Speaker (in use)"));
         kill(mChild, signal);
-        finish();
+        const int status = finish();
+        EXPECT_EQ(WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status) - 128, signal);
         expectTerminalAsBefore();
         closeTerminal();
     }
+}
+
+TEST_F(TerminalTest, ControlZGivesTheTerminalToTheShellUntilItGoesOn)
+{
+    start(90, 24, "xterm-256color", "\"$0\"; echo stopped; read line; fg");
+    ASSERT_TRUE(shows("Speaker (in use)"));
+    type("\x1a");
+    while (mSent.find("stopped") == std::string::npos && readMore(30000)) { }
+    expectTerminalAsBefore();
+    type("\n");
+    ASSERT_TRUE(shows("Speaker (in use)"));
+    type("q");
+    EXPECT_EQ(finish(), 0);
+    expectTerminalAsBefore();
 }
 
 TEST_F(TerminalTest, ATerminalThatCannotBeUsedIsRefused)

@@ -27,6 +27,9 @@ public:
     /// Keeps the arguments, which run() reads.
     PhoneSimulator(int argc, const char* const* argv);
 
+    /// The version of the program, which --version prints behind its name. Returns the simulator itself.
+    PhoneSimulator& setVersion(std::string version);
+
     /// The script that `--tour` plays, in the language of script files. Without one, the tour shows the first
     /// screen. Returns the simulator itself.
     PhoneSimulator& setTour(std::string script);
@@ -47,12 +50,15 @@ public:
     PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
 
     /// Runs the phonelet until the user or the script leaves, and gives the exit code of the program: 0, 1 after
-    /// a failed step or a failed phonelet, 2 for an option, script, or font that can't be used.
+    /// a failed step or a failed phonelet, 2 for an option, script, or font that can't be used, 128 and the number of
+    /// the signal that ended it. A phonelet that does not return when its telephone must end is ended with the
+    /// process.
     int run(const Phonelet& phonelet);
 
 private:
     int mArgumentCount;
     const char* const* mArguments;
+    std::string mVersion;
     std::string mTour;
     struct OwnStep {
         std::string name;

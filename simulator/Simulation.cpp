@@ -1,0 +1,192 @@
+#include "Simulation.h"
+
+#include "ControlServer.h"
+#include "Picture.h"
+#include "Printable.h"
+#include "Script.h"
+#include "ScriptRunner.h"
+#include "SignalWatch.h"
+#include "TerminalView.h"
+#include "UsageError.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <sstream>
+#include <unistd.h>
+#include <utility>
+
+namespace Simulator {
+
+namespace {
+
+constexpr int SignalCodes = 128; // what a shell adds to the number of a signal
+
+void check(const std::vector<CustomStep>& steps)
+{
+    constexpr int functionKeys = 8;
+    for (const CustomStep& step : steps) {
+        if (!step.function || !canNameStep(step.name) || step.functionKey < 0 || step.functionKey > functionKeys)
+            throw UsageError("\"" + step.name + "\" can't be a step of the phonelet's own");
+        if (step.functionKey > 0 && std::ranges::count(steps, step.functionKey, &CustomStep::functionKey) > 1)
+            throw UsageError("two steps want the function key F" + std::to_string(step.functionKey));
+    }
+}
+
+bool hasTerminal()
+{
+    return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
+}
+
+int codeOf(int signal)
+{
+    return signal == 0 ? Simulation::Success : SignalCodes + signal;
+}
+
+}
+
+Simulation::Simulation(Options options, std::vector<CustomStep> steps, std::string tour, Phonelet phonelet)
+    : mOptions(std::move(options))
+    , mSteps(std::move(steps))
+    , mTour(std::move(tour))
+    , mPhonelet(std::move(phonelet))
+{
+    check(mSteps);
+}
+
+int Simulation::run()
+{
+    switch (mOptions.mode) {
+    case Options::Mode::Help: std::cout << mOptions.help; return Success;
+    case Options::Mode::Terminal: return hasTerminal() ? runTerminal() : runTour();
+    case Options::Mode::Script: return runScript(readScript(mOptions.script, stepNames()));
+    case Options::Mode::Control: return runControl();
+    case Options::Mode::Once: return runOnce();
+    case Options::Mode::Tour: return runTour();
+    }
+    return Failure;
+}
+
+Phone::Settings Simulation::settings(Phone::ClockKind clock) const
+{
+    // Who has no patience with a text has not said that the telephone hangs.
+    constexpr std::chrono::milliseconds leastPatience{1000};
+    Phone::Settings settings;
+    settings.steps = mSteps;
+    settings.fontFile = mOptions.font;
+    settings.hardware = mOptions.hardware;
+    settings.clock = clock;
+    settings.patience = std::max(mOptions.patience, leastPatience);
+    return settings;
+}
+
+std::vector<std::string> Simulation::stepNames() const
+{
+    std::vector<std::string> names;
+    for (const CustomStep& step : mSteps)
+        names.push_back(step.name);
+    return names;
+}
+
+/// Runs the phonelet with a driver, for which it must have started.
+int Simulation::drive(Phone& phone, const Driver& driver)
+{
+    int code = Failure;
+    phone.run(mPhonelet, [&](Phone& driven) {
+        if (driven.finishPosted()) {
+            code = driver(driven);
+        } else {
+            code = Failure;
+            std::cerr << mOptions.program << ": " << driven.trouble() << std::endl;
+        }
+        end(driven, code);
+    });
+    return code;
+}
+
+/// Ends a phonelet for which nobody waits at a terminal. One that hangs must not keep a program running for ever.
+void Simulation::end(Phone& phone, int code) const
+{
+    if (phone.end())
+        return;
+    if (code == Success)
+        std::cerr << mOptions.program << ": the phonelet does not end: display.exec() or what stands behind it has not "
+                  << "returned for " << inSeconds(phone.patience()) << std::endl;
+    std::fflush(nullptr);
+    std::cout << std::flush;
+    std::_Exit(std::max(code, Failure));
+}
+
+int Simulation::runTerminal()
+{
+    SignalWatch signals(SignalWatch::Of::Terminal);
+    Phone phone(settings(Phone::ClockKind::Real));
+    TerminalView view(phone, signals);
+    int signal = 0;
+    phone.run(mPhonelet, [&](Phone&) { signal = view.run(); });
+    if (!phone.hasRun()) {
+        std::cerr << mOptions.program << ": " << phone.trouble() << std::endl;
+        return Failure;
+    }
+    return codeOf(signal);
+}
+
+int Simulation::runScript(const Script& script)
+{
+    Phone phone(settings(Phone::ClockKind::Manual));
+    return drive(phone, [&](Phone& driven) {
+        ScriptRunner runner(driven, {mOptions.patience, mOptions.scale}, std::cout, std::cerr);
+        return runner.run(script) == 0 ? Success : Failure;
+    });
+}
+
+int Simulation::runTour()
+{
+    std::istringstream input(mTour.empty() ? "show\n" : mTour);
+    return runScript(parseScript(input, "tour", stepNames()));
+}
+
+int Simulation::runOnce()
+{
+    Phone phone(settings(Phone::ClockKind::Manual));
+    return drive(phone, [this](Phone& driven) {
+        if (const std::string reason = driven.waitForScreen(); !reason.empty()) {
+            std::cerr << mOptions.program << ": " << reason << std::endl;
+            return Failure;
+        }
+        driven.settle();
+        const Snapshot snapshot = driven.watch().snapshot();
+        if (mOptions.text)
+            std::cout << snapshot.text << std::flush;
+        if (!mOptions.shot.empty())
+            writePicture(drawPicture(snapshot.screen, mOptions.scale), mOptions.shot);
+        return Success;
+    });
+}
+
+int Simulation::runControl()
+{
+    SignalWatch signals(SignalWatch::Of::Program);
+    Phone phone(settings(Phone::ClockKind::Manual));
+    ControlServer server(
+        phone, signals, mOptions.control, {mOptions.patience, mOptions.scale, mOptions.programAndVersion});
+    if (!mOptions.control.empty())
+        std::cerr << mOptions.program << ": the control channel is at " << mOptions.control << std::endl;
+    int code = Failure;
+    phone.run(mPhonelet, [&](Phone& driven) {
+        code = codeOf(server.run());
+        if (server.isStuck())
+            std::cerr << mOptions.program << ": a command has not ended; it is left" << std::endl;
+        end(driven, server.isStuck() ? std::max(code, Failure) : code);
+        if (server.isStuck())
+            std::_Exit(std::max(code, Failure));
+    });
+    if (!phone.hasRun()) {
+        std::cerr << mOptions.program << ": " << phone.trouble() << std::endl;
+        return Failure;
+    }
+    return code;
+}
+
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Options.h"
+#include "Phone.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Simulator {
+
+struct Script;
+
+/// A phonelet run as the command line asks. Each way to run it is an operation that answers the exit code of the
+/// program; errors are thrown.
+class Simulation {
+public:
+    static constexpr int Success = 0;
+    static constexpr int Failure = 1;
+    static constexpr int BadUsage = 2;
+
+    /// Throws UsageError for steps of the phonelet that can't be.
+    Simulation(Options options, std::vector<CustomStep> steps, std::string tour, Phonelet phonelet);
+
+    int run();
+
+private:
+    using Driver = std::function<int(Phone& phone)>;
+
+    Phone::Settings settings(Phone::ClockKind clock) const;
+    int runTerminal();
+    int runScript(const Script& script);
+    int runTour();
+    int runOnce();
+    int runControl();
+    int drive(Phone& phone, const Driver& driver);
+    void end(Phone& phone, int code) const;
+    std::vector<std::string> stepNames() const;
+
+    Options mOptions;
+    std::vector<CustomStep> mSteps;
+    std::string mTour;
+    Phonelet mPhonelet;
+};
+
+}
