@@ -80,6 +80,9 @@ TEST_F(CallRowsTest, ALineShowsItsNameAndItsIdentity)
     EXPECT_EQ(line(0), "\u25A1\u25A1Sales                4711");
     row->setPrefix(text("HD"));
     EXPECT_EQ(row->getText(), text("HD Sales 4711"));
+    EXPECT_TRUE(hasIcon(0, 0, Icons::ConnectedCall));
+    row->setIconType(static_cast<LineOverviewListItem::LineStateIconType>(2));
+    EXPECT_TRUE(hasIcon(0, 0, 14)) << "it rings";
 }
 
 TEST_F(CallRowsTest, ACallBackShowsItsStateWhoAndWhen)

@@ -19,8 +19,10 @@ constexpr int MobileNumber = 3;
 constexpr unsigned long long BarInterval = 110;
 constexpr int BarPositions = 10; // from one end to the other
 
-/// The states of a line, by the number of the state.
-constexpr std::uint16_t lineIcons[] = {91, Icons::ConnectedCall, 92, 93, 94, 95, 96, 97, 98, Icons::ConnectedCallHD};
+/// The states of a line, by the number of the state: at rest, a call here, one at another telephone; the last has
+/// the better voice.
+constexpr std::uint16_t lineIcons[]
+    = {91, Icons::ConnectedCall, 14, 45, Icons::HeldCall, 95, 96, 97, 98, Icons::ConnectedCallHD};
 
 /// True for "YYYY-MM-DD hh:mm".
 bool isMoment(const std::string& text)
