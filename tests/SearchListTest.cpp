@@ -1,5 +1,6 @@
 #include "EveryScreen.h"
 #include "PhoneTest.h"
+#include "RandomRows.h"
 #include "RecordingListener.h"
 #include "TestTranslator.h"
 
@@ -241,6 +242,15 @@ TEST_F(SearchListTest, RowsComeAndGoInOneOrder)
     for (ListItem* row : ListItem::all()) {
         if (!row->holder())
             delete row; // given back by removeAt()
+    }
+}
+
+TEST_F(SearchListTest, HandlesAndGlassHaveTheRowsOfAPlainVector)
+{
+    for (unsigned int seed = 1; seed <= 20; ++seed) {
+        SearchList changed;
+        show(changed);
+        changeRowsAtRandom(changed, commonRowSteps<SearchList>(), seed);
     }
 }
 
