@@ -3,6 +3,7 @@
 #include "StackFixture.h"
 
 #include <FPKBarMEG.h>
+#include <SystemWindow.h>
 #include <UApplication.h>
 #include <UWindowManager.h>
 
@@ -48,6 +49,9 @@ TEST_F(ContentWidgetTest, TheRootAndTheScreenHaveTheSizeOfTheProcess)
 TEST_F(ContentWidgetTest, ASystemWindowGoesWithItsContentAlsoWhenTheSoftwareTypeHasChanged)
 {
     makeDisplay("Zelmark QVT");
+    auto& content = dynamic_cast<ContentWidget&>(*display->getContentWidget());
+    content.setSystemWindowText(1, "Text", "status");
+    EXPECT_EQ(content.getSystemWindow()->systemWindowKey(1), "status");
     display->setSoftwareType("Zelmark SIP");
     display->setSystemWindowText(0, "Text");
     EXPECT_EQ(display->getContentWidget()->getSystemWindowText(0, ""), "");

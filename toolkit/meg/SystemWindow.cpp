@@ -93,17 +93,22 @@ void SystemWindow::setSystemWindowSize(int lines)
     refresh();
 }
 
-void SystemWindow::setSystemWindowText(int line, const std::string& text, const std::string&)
+void SystemWindow::setSystemWindowText(int line, const std::string& text, const std::string& key)
 {
     if (!isLine(line))
         return;
-    mTexts[static_cast<std::size_t>(line)] = text;
+    mLines[static_cast<std::size_t>(line)] = {text, key};
     refresh();
 }
 
 std::string SystemWindow::getSystemWindowText(int line, const std::string&) const
 {
-    return isLine(line) ? mTexts[static_cast<std::size_t>(line)] : std::string();
+    return isLine(line) ? mLines[static_cast<std::size_t>(line)].text : std::string();
+}
+
+std::string SystemWindow::systemWindowKey(int line) const
+{
+    return isLine(line) ? mLines[static_cast<std::size_t>(line)].key : std::string();
 }
 
 void SystemWindow::showLine(bool shown)
@@ -260,7 +265,7 @@ void SystemWindow::paint(UPainter& painter)
     if (!mIsLineShown || !VantoUApplication::isSoftwareQvt())
         return;
     for (int line = 0; line < std::min(mSize, GlassLines); ++line) {
-        const std::string& text = mTexts[static_cast<std::size_t>(line)];
+        const std::string& text = mLines[static_cast<std::size_t>(line)].text;
         const int right = line == 0 ? rightSideColumns() : 0;
         if (text.empty() && right == 0)
             continue;

@@ -32,12 +32,15 @@ public:
     /// How many of the lines are shown, 0 to 6; the glass has room for two. Texts stay.
     void setSystemWindowSize(int lines);
 
-    /// Sets the text of a line, 0 to 5; another number is ignored. `key` names the status for which the caller
-    /// writes; a line has one text for all of them.
+    /// Sets the text of a line, 0 to 5, and keeps `key` with it, the status for which the caller writes. A line has
+    /// one text for all of them. Another number is ignored.
     void setSystemWindowText(int line, const std::string& text, const std::string& key);
 
     /// The text of a line as it was set, whatever the key; empty for a line that does not exist.
     std::string getSystemWindowText(int line, const std::string& key) const;
+
+    /// For which status the text of a line was written; empty for none.
+    std::string systemWindowKey(int line) const;
 
     /// Shows the lines, which is the state at first, or leaves the glass to the screens.
     void showLine(bool shown);
@@ -86,6 +89,10 @@ public:
     Layer layer() const override { return Layer::SystemWindow; }
 
 private:
+    struct Line {
+        std::string text;
+        std::string key;
+    };
     struct Icon {
         unsigned short number;
         bool isShown;
@@ -103,7 +110,7 @@ private:
     int rightSideColumns() const;
     void paintRightSide(UPainter& painter, int column) const;
 
-    std::array<std::string, LineCount> mTexts;
+    std::array<Line, LineCount> mLines;
     std::array<Icon, 3> mIcons;
     int mSize = 0;
     bool mIsLineShown = true;
