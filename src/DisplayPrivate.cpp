@@ -84,8 +84,8 @@ void DisplayPrivate::createContentWidget()
 void DisplayPrivate::cleanup()
 {
     // Both leave the content widget, if they stand in it.
-    mVolumeIndicator.reset();
-    mStatusMessage.reset();
+    delete mVolumeIndicator.get();
+    delete mStatusMessage.get();
     mContent.reset();
     mDisplayArea.reset();
     mFactory.reset();

@@ -8,6 +8,7 @@
 #include "VisibleRectMonitor.h"
 
 #include <Semaphore.h>
+#include <UAgent.h>
 
 #include <array>
 #include <memory>
@@ -186,8 +187,8 @@ private:
     std::array<bool, SystemWindowLines> mIsLineChanged{}; // written since the last change of size
     std::string mStatusKey;                               // not empty only during serialiseByRect()
     std::string mClipboard;
-    std::unique_ptr<StatusMessageMEG> mStatusMessage;
-    std::unique_ptr<VolumeIndicatorMEG> mVolumeIndicator;
+    UPointer<StatusMessageMEG> mStatusMessage; // these two are deleted here, unless the tree has done so
+    UPointer<VolumeIndicatorMEG> mVolumeIndicator;
     int mRingerVolumeBarLimit = 1;
 };
 

@@ -203,7 +203,7 @@ void DisplayPrivate::pauseTimer()
 void DisplayPrivate::setStatusMessage(const std::string& text, unsigned int duration)
 {
     if (text.empty()) {
-        mStatusMessage.reset();
+        delete mStatusMessage.get();
         setStatusMessageAvailable(false);
         return;
     }
@@ -211,7 +211,8 @@ void DisplayPrivate::setStatusMessage(const std::string& text, unsigned int dura
         // The subtraction may wrap around: the message takes it back, and changes in step with the system window.
         const auto untilUpdate = static_cast<unsigned int>(mContent->getSystemWindowTimeToNextUpdate());
         const unsigned int start = duration - untilUpdate;
-        mStatusMessage = std::make_unique<StatusMessageMEG>(text, start, duration);
+        delete mStatusMessage.get();
+        mStatusMessage = new StatusMessageMEG(text, start, duration);
         mContent->getUWidget()->addWidget(mStatusMessage.get());
     }
     setStatusMessageAvailable(true);
@@ -232,7 +233,7 @@ void DisplayPrivate::setPreviewVolume(
         mVolumeIndicator->setVolume(value, minimum, maximum);
         mVolumeIndicator->createIcon(icon);
     } else {
-        mVolumeIndicator = std::make_unique<VolumeIndicatorMEG>(icon, value, minimum, maximum);
+        mVolumeIndicator = new VolumeIndicatorMEG(icon, value, minimum, maximum);
     }
     mVolumeIndicator->setRingerVolumeBarLimit(device == RingerDevice ? mRingerVolumeBarLimit : 1);
     mVolumeIndicator->refresh();

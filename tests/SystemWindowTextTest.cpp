@@ -370,6 +370,21 @@ TEST_F(SystemWindowTextTest, TheVolumeShowsTheDevice)
     EXPECT_NE(content()->firstChild(), nullptr);
 }
 
+TEST_F(SystemWindowTextTest, WhatTheTreeHasDeletedComesAnew)
+{
+    makeDisplay();
+    display->show();
+    for (const char* message : {"one", "one", ""}) {
+        display->setStatusMessage(message, 10);
+        display->setPreviewVolume(2, 4, 0, 9, 0);
+        EXPECT_EQ(text().find("string0:one\n") != std::string::npos, *message != 0);
+        EXPECT_EQ(display->serialise(), volumeBlock);
+        while (UWidget* child = content()->firstChild())
+            delete child;
+    }
+    EXPECT_EQ(text(), "");
+}
+
 TEST_F(SystemWindowTextTest, TheClipboardKeepsItsText)
 {
     makeDisplay();
