@@ -143,7 +143,7 @@ TEST_F(StatusGlassTest, AStatusMessageTakesTheFirstLineAndALongOneIsShownInParts
     display->setStatusMessage("Maintenance tonight between ten and eleven", 5000);
     EXPECT_EQ(glassLine(0), "Maintenance tonight between");
     advance(5000);
-    EXPECT_EQ(glassLine(0), whole(" ten and eleven"));
+    EXPECT_EQ(glassLine(0), whole("ten and eleven"));
     advance(5000);
     EXPECT_EQ(glassLine(0), "Maintenance tonight between");
     display->setStatusMessage("two\nlines", 0);

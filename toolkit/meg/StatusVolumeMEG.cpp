@@ -98,6 +98,9 @@ UString StatusMessageMEG::serialise() const
 void StatusMessageMEG::timerEvent(UTimerEvent*)
 {
     mFirstUnit = TextCells::forward(mShownText, mFirstUnit, UPainter::Columns);
+    // A part begins with a word.
+    while (mFirstUnit < mShownText.length() && mShownText[mFirstUnit] == ' ')
+        ++mFirstUnit;
     if (mFirstUnit == mShownText.length())
         mFirstUnit = 0;
     mTimer.setInterval(std::max(mDuration, ShortestPart));
