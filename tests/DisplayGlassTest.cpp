@@ -3,6 +3,8 @@
 #include <DisplayAPI/List.h>
 
 #include <FPKBarMEG.h>
+#include <UScreenWE1.h>
+#include <UWindowManager.h>
 
 #include <array>
 
@@ -170,6 +172,23 @@ TEST_F(StatusGlassTest, TheVolumeHidesItselfThreeSecondsAfterItWasSet)
     EXPECT_EQ(glassLine(1).substr(0, 5), "lower");
     display->setPreviewVolume(3, 4, 0, 10, 1);
     EXPECT_EQ(glassLine(0), "\u25A1\u25A1" + whole("Ringer off").substr(0, 25));
+}
+
+TEST_F(StatusGlassTest, TheLimitIsTheRingersAndTheOthersShowAVolumeOfOne)
+{
+    const auto inkOf = [this](unsigned int device, unsigned int volume) {
+        display->setPreviewVolume(device, volume, 0, 10, 0);
+        pump();
+        int pixels = 0;
+        for (int place = 0; place < 162 * 15; ++place)
+            pixels += UWindowManager::instance().screen()->pixel(place % 162, 16 + place / 162) ? 1 : 0;
+        return pixels;
+    };
+    const int empty = inkOf(2, 0);
+    display->setRingerVolumeBarLimit(3);
+    EXPECT_EQ(inkOf(3, 2), empty);
+    EXPECT_GT(inkOf(3, 3), empty);
+    EXPECT_GT(inkOf(2, 1), empty);
 }
 
 TEST_F(KeyLabelTest, LabelledKeysStandOnTheThirdLineInTheirOrder)
