@@ -91,8 +91,8 @@ void DesktopPrivate::displayMobileUserIcon(bool shown, int icon)
 void DesktopPrivate::displayRingerIcon(Desktop::RingerIconType type)
 {
     if (mWidget) {
-        mWidget->setRingerAIcon(type == Desktop::RINGER_A);
         mWidget->setRingerBIcon(type == Desktop::RINGER_B);
+        mWidget->setRingerAIcon(type == Desktop::RINGER_A);
     }
     generateDisplayChangedEvent();
 }
