@@ -88,6 +88,36 @@ TEST_F(DesktopTest, ClockDayTextsAndIconsAreWrittenInTheirOrder)
     EXPECT_EQ(desktop.getPrivateImpl()->serialise(std::vector<Rect>{Rect(0, 0, 80, 31)}), "");
 }
 
+TEST(DesktopGlassTest, EachTelephoneHasItsPlaceForClockDayAndTexts)
+{
+    struct Telephone : PhoneTest {
+        explicit Telephone(const PhoneSetup& setup)
+            : PhoneTest(setup)
+        {
+        }
+        void TestBody() override { }
+        std::string paintedDesktop()
+        {
+            TestTranslator translator;
+            translator.words = {{"day.Fri", "Fri"}};
+            Desktop desktop;
+            desktop.setTime(10, 41, 0);
+            desktop.setDate(27, 2, 2026);
+            desktop.setDayLabelText(&translator);
+            desktop.setLogoText("Example");
+            desktop.setDesktopString("4711");
+            desktop.displayHeadsetIcon(true);
+            show(desktop);
+            return glassLine(0) + "|" + glassLine(1);
+        }
+    };
+    EXPECT_EQ(Telephone({}).paintedDesktop(), "Fri 27.02. 10:41         \u25A1\u25A1|4711                Example");
+    EXPECT_EQ(Telephone({.softwareType = "Zelmark QVT"}).paintedDesktop(),
+        "Fri 27.02.         \u25A1\u25A1 10:41|4711                Example");
+    EXPECT_EQ(Telephone({.applicationName = "DesktopPhonelet"}).paintedDesktop().substr(0, 31),
+        "Fri 27.02. 10:41 4711    \u25A1\u25A1");
+}
+
 TEST_F(DesktopTest, NumbersOfIconsOutsideTheirTablesTurnThemOff)
 {
     Desktop desktop;

@@ -316,6 +316,11 @@ UString DesktopMEG::stripLine(int columns) const
     return longest;
 }
 
+UString DesktopMEG::dayText() const
+{
+    return joined({dayLabel(), dateText(Year::Omitted)});
+}
+
 UString DesktopMEG::stripText() const
 {
     if (hasTwoLines())
@@ -351,5 +356,6 @@ void DesktopMEGQVT::paintStrip(UPainter& painter) const
     const int clockColumns = columnsOf(clock);
     painter.textRight(0, UPainter::Columns - 1, clock);
     const int icons = paintIcons(painter, 0, UPainter::Columns - (clockColumns > 0 ? clockColumns + 1 : 0));
-    painter.text(0, 0, stripText(), icons);
+    const UString text = stripText();
+    painter.text(0, 0, text.isEmpty() ? dayText() : text, icons);
 }

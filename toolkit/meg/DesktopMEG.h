@@ -83,6 +83,9 @@ protected:
 
     UString clockText() const;
 
+    /// Day and date, without the year.
+    UString dayText() const;
+
     /// The text of a one-line desktop: the desktop's own, or the logo's.
     UString stripText() const;
 
@@ -145,8 +148,8 @@ private:
     std::string mDesktopString;
 };
 
-/// The desktop of telephones with a system window: the text comes first and the clock last, where the system
-/// window has it too.
+/// The desktop of telephones with a system window: the text comes first, or day and date where there is none, and
+/// the clock last, where the system window has it too.
 class TOOLKIT_EXPORT DesktopMEGQVT : public DesktopMEG {
 protected:
     void paintStrip(UPainter& painter) const override;
