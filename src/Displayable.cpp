@@ -1,4 +1,5 @@
 #include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/DisplayablePrivate.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListenerList.h>
 
@@ -17,7 +18,9 @@ Displayable::Displayable()
 
 Displayable::~Displayable()
 {
-    // First out of the registry, so that nobody asks for a half any more and nothing new comes behind the recall.
+    // First dead and out of the registry, so that nobody asks for a half any more and nothing new comes behind the
+    // recall.
+    leave();
     unregisterDisplayable(this);
     CommandExecutor::retrieveCommand(nullptr, nullptr, this);
 }
@@ -45,7 +48,13 @@ void Displayable::useSoftKeysBasedOnCommands() { }
 void Displayable::retireScreen()
 {
     retire();
+    leave();
     unregisterDisplayable(this);
+    if (auto* half = dynamic_cast<DisplayablePrivate*>(getPrivateImpl()); half && half->holder()) {
+        // It takes its widget with it, wherever that stands.
+        half->gainOwnership();
+        half->leaveHolder();
+    }
     for (DisplayPrivateIfc* living : DisplayPrivateIfc::all()) {
         if (auto* display = dynamic_cast<DisplayPrivate*>(living))
             display->forget(this);

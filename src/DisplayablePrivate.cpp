@@ -3,10 +3,32 @@
 
 #include "DisplayPrivate.h"
 #include "ExistingDisplayables.h"
+#include "ScreenHolder.h"
+
+#include <utility>
 
 namespace DisplayAPI {
 
 std::atomic<TranslatorIfc*> DisplayablePrivate::commonTranslator = nullptr;
+
+DisplayablePrivate::~DisplayablePrivate()
+{
+    leaveHolder();
+}
+
+void DisplayablePrivate::leaveHolder()
+{
+    if (ScreenHolder* holder = std::exchange(mHolder, nullptr))
+        holder->screenDies(*this);
+}
+
+bool DisplayablePrivate::standsIn(const DisplayablePrivate& other) const
+{
+    const DisplayablePrivate* screen = this;
+    while (screen != &other && screen->holder())
+        screen = &screen->holder()->screen();
+    return screen == &other;
+}
 
 void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 {
@@ -53,8 +75,14 @@ void DisplayablePrivate::generateDisplayChangedEvent()
 
 void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 {
+    postCommandTo(mCommandListeners, command, displayable);
+}
+
+void DisplayablePrivate::postCommandTo(
+    const ListenerList<CommandListener>& listeners, Command* command, Displayable* displayable)
+{
     const Living<Command> posted(command);
-    mCommandListeners.forEach([&](CommandListener* listener) {
+    listeners.forEach([&](CommandListener* listener) {
         // An overridden post may delete screen and command; nobody shall be told of a dead one.
         if ((posted || !command) && (!displayable || displayableExists(displayable)))
             listener->postCommandAction(command, displayable);

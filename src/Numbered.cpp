@@ -1,6 +1,7 @@
 #include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/DisplayPrivateIfc.h>
+#include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/Item.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
@@ -56,6 +57,7 @@ template class Numbered<Item>;
 template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
 template class Numbered<TextField>;
+template class Numbered<Displayable>;
 template class Numbered<DisplayEventIfc>;
 template class Numbered<DisplayPrivateIfc>;
 template class Numbered<TimerEvent>;

@@ -61,6 +61,7 @@ void Road::drop(const GivenObject<TranslationInfo>& given)
 
 void Road::leaveRegistry(Displayable& screen)
 {
+    screen.leave();
     unregisterDisplayable(&screen);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <DisplayAPI/Numbered.h>
 #include <DisplayAPI/Widget.h>
 
 #include <memory>
@@ -16,8 +17,8 @@ class ListenerList;
 /// display asks that registry before it uses a pointer.
 ///
 /// Ownership: the application owns its screens. A screen may be deleted while it is shown: the display forgets
-/// it. Deleting it recalls the pending deliveries that name it.
-class DISPLAYAPI_EXPORT Displayable : public Widget {
+/// it, and so does a screen that holds it, such as a tab screen. Deleting it recalls the pending deliveries that name it.
+class DISPLAYAPI_EXPORT Displayable : public Widget, public Numbered<Displayable> {
 public:
     ~Displayable() override;
     void processGuiRequest(GuiRequestEvent& event) override;

@@ -15,11 +15,19 @@ namespace DisplayAPI {
 
 class Command;
 class Displayable;
+class ScreenHolder;
 
 /// What the GUI-thread halves of all screens share: the display that they stand on, and the command listeners.
 /// Threads: GUI thread only, but for the listeners.
 class DISPLAYAPI_EXPORT DisplayablePrivate : public DisplayablePrivateIfc {
 public:
+    DisplayablePrivate() = default;
+
+    /// Leaves the holder.
+    ~DisplayablePrivate() override;
+    DisplayablePrivate(const DisplayablePrivate&) = delete;
+    DisplayablePrivate& operator=(const DisplayablePrivate&) = delete;
+
     bool hideOldWidgetOnFocusGained() override { return true; }
     int widgetPosition() override { return 0; }
     void connectDisplayChangedSignal(DisplayPrivateIfc* display) override;
@@ -49,6 +57,18 @@ public:
     /// Queues the command for every listener, in order.
     void postCommand(Command* command, Displayable* displayable);
 
+    // Inside another screen, as in a tab
+
+    /// Who shows this screen inside its own; null for one that stands by itself.
+    ScreenHolder* holder() const { return mHolder; }
+    void setHolder(ScreenHolder* holder) { mHolder = holder; }
+
+    /// Tells the holder, if there is one, that this screen dies. The display may tell of it.
+    void leaveHolder();
+
+    /// True for this screen itself, and for one that holds it at any depth.
+    bool standsIn(const DisplayablePrivate& other) const;
+
     /// The display that the screen was last put on; null before, and after that display's end.
     DisplayPrivateIfc* display() const;
 
@@ -56,10 +76,15 @@ public:
     static std::atomic<TranslatorIfc*> commonTranslator;
 
 protected:
+    /// The same for listeners that the screen keeps in another list.
+    static void postCommandTo(
+        const ListenerList<CommandListener>& listeners, Command* command, Displayable* displayable);
+
     ListenerList<CommandListener> mCommandListeners;
 
 private:
     Living<DisplayPrivateIfc> mDisplay;
+    ScreenHolder* mHolder = nullptr;
 };
 
 }
