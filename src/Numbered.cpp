@@ -7,6 +7,7 @@
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
 #include <DisplayAPI/TextField.h>
+#include <DisplayAPI/TabListener.h>
 #include <DisplayAPI/TimerEvent.h>
 
 #include "LivingSet.h"
@@ -58,6 +59,7 @@ template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
 template class Numbered<TextField>;
 template class Numbered<Displayable>;
+template class Numbered<TabListener>;
 template class Numbered<DisplayEventIfc>;
 template class Numbered<DisplayPrivateIfc>;
 template class Numbered<TimerEvent>;

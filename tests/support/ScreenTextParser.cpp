@@ -62,6 +62,9 @@ bool ScreenTextParser::parseLines(Block& block, std::string_view endLine, bool i
     for (bool isFirst = true; readLine(line); isFirst = false) {
         if (line == endLine)
             return true;
+        const bool isTabsTitle = !block.fields.empty() && block.fields.back().value == "TabScreen Menu";
+        if (line.empty() && isTabsTitle)
+            continue;
         if (line == "subitem:" && isObject)
             parseSubitem(block);
         else

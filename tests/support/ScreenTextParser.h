@@ -7,8 +7,9 @@
 /// A screen text taken apart, and judged by its grammar: objects without anything between them, each with its
 /// name first, then its fields, then its subitems, which hold a name and fields.
 ///
-/// Two irregular forms are part of the grammar: a form with an open selection list closes twice, and a context
-/// menu without a start line has no name. A document that holds the password of the tests in clear is at fault.
+/// Three irregular forms are part of the grammar: a form with an open selection list closes twice, a context menu
+/// without a start line has no name, and the first title of a tab screen's list ends with a line feed. A document that
+/// holds the password of the tests in clear is at fault.
 class ScreenTextParser {
 public:
     struct Field {
