@@ -2,12 +2,13 @@
 #include <DisplayAPI/DisplayEventIfc.h>
 #include <DisplayAPI/DisplayPrivateIfc.h>
 #include <DisplayAPI/Displayable.h>
+#include <DisplayAPI/ExpandingTreeListItem.h>
 #include <DisplayAPI/Item.h>
 #include <DisplayAPI/ItemStateListener.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/Numbered.h>
-#include <DisplayAPI/TextField.h>
 #include <DisplayAPI/TabListener.h>
+#include <DisplayAPI/TextField.h>
 #include <DisplayAPI/TimerEvent.h>
 
 #include "LivingSet.h"
@@ -59,6 +60,7 @@ template class Numbered<ItemStateListener>;
 template class Numbered<ListItem>;
 template class Numbered<TextField>;
 template class Numbered<Displayable>;
+template class Numbered<ExpandingTreeListItem>;
 template class Numbered<TabListener>;
 template class Numbered<DisplayEventIfc>;
 template class Numbered<DisplayPrivateIfc>;

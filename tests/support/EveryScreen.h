@@ -84,7 +84,7 @@ struct RowFamily {
     std::function<void(DisplayAPI::Displayable&, DisplayAPI::Widget&)> take;
 };
 
-/// A screen that holds rows: how to make one, to hand it a row, and to take the row back.
+/// A screen that holds rows: how to make one, to hand it a row, and to take the row back; null if it never gives one.
 template <typename Screen, typename Row>
 struct Holder {
     std::function<std::unique_ptr<Screen>()> make;
@@ -136,8 +136,9 @@ auto rowFamily(const Holder<Screen, Row>& holder,
 {
     using DisplayAPI::Displayable;
     using DisplayAPI::Widget;
+    using Operation = std::function<void(Displayable&, Widget&)>;
     const auto call = [](auto& operation) {
-        return [operation](Displayable& screen, Widget& row) {
+        return !operation ? Operation() : [operation](Displayable& screen, Widget& row) {
             operation(dynamic_cast<Screen&>(screen), dynamic_cast<Row&>(row));
         };
     };
@@ -198,6 +199,7 @@ protected:
     /// Hands a row over; it belongs to the screen then.
     DisplayAPI::Widget& put(DisplayAPI::Displayable& holder, Row row);
     Row take(DisplayAPI::Displayable& holder, DisplayAPI::Widget& row);
+    bool mayTake() const { return static_cast<bool>(GetParam().take); }
     void changeAll(DisplayAPI::Widget& row);
     std::string story(DisplayAPI::Widget& row);
 };
