@@ -45,6 +45,7 @@ TabScreenPrivate::TabScreenPrivate(TabScreen* parent, TabScreen::IconType iconTy
     : mIconType(iconType)
     , mParent(parent)
     , mWidget(VantoUApplication::getCurrentApplication() ? new TabScreenMEG : nullptr)
+    , mHasHadWidget(mWidget)
     , mTabList(new VantoListBoxWithTitleMEG)
 {
     assertGuiThread();
@@ -454,7 +455,7 @@ std::string TabScreenPrivate::serialise(const std::vector<Rect>& rects)
 
 std::string TabScreenPrivate::write(const std::function<ContentText(DisplayablePrivateIfc&)>& read) const
 {
-    if (!mWidget)
+    if (mHasHadWidget && !mWidget)
         return {};
     const TabData* tab = tabAt(mSelected);
     ScreenTextWriter caption;

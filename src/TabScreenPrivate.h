@@ -117,6 +117,7 @@ private:
     TabScreen::IconType mIconType;
     TabScreen* mParent;
     TabScreenMEG* mWidget;
+    const bool mHasHadWidget; // then there is no text without it
     UPointer<VantoListBoxWithTitleMEG> mTabList;
     unsigned int mSelected = 0; // past the end, perhaps, since tabs have gone
     UPointer<UWidget> mContent; // what has been put into the widget: the list of titles, or a tab's
