@@ -7,6 +7,7 @@
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
 #include "GuiThread.h"
+#include "ScreenHolder.h"
 #include "Serialiser.h"
 #include "TranslationHolder.h"
 
@@ -193,6 +194,8 @@ void ListBoxPrivate::comeBack()
     UWidget* parent = mFormerParent.get();
     if (!parent || !parent->isVisible() || mWidget->parentWidget())
         return;
+    if (ScreenHolder* around = holder())
+        return around->takeBack(*this);
     DisplayPrivateIfc* on = display();
     if (!on || on->getCurrent() != mOwner)
         return;

@@ -15,6 +15,9 @@ public:
     /// A screen that is held dies. Of its half only the address may be used: it may be half destroyed.
     virtual void screenDies(DisplayablePrivate& half) = 0;
 
+    /// A screen that has left the widgets by itself wants to be back, if it is still up.
+    virtual void takeBack(DisplayablePrivate& half) = 0;
+
 protected:
     ~ScreenHolder() = default;
 };

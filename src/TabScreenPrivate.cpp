@@ -303,6 +303,14 @@ void TabScreenPrivate::screenDies(DisplayablePrivate& half)
     }
 }
 
+void TabScreenPrivate::takeBack(DisplayablePrivate& half)
+{
+    if (!mWidget || !mContent || mContent.get() != half.getWidget())
+        return;
+    mWidget->setCurrent(mContent.get());
+    half.releaseOwnership();
+}
+
 // Titles
 
 void TabScreenPrivate::setTitleForTabAtIndex(unsigned int index, const std::string& title)

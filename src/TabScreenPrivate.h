@@ -95,6 +95,7 @@ private:
     // Who holds the tabs' screens
     DisplayablePrivate& screen() override { return *this; }
     void screenDies(DisplayablePrivate& half) override;
+    void takeBack(DisplayablePrivate& half) override;
 
     TabData* tabAt(unsigned int index) const;
     TabData* tabWith(const DisplayablePrivateIfc* displayable) const;

@@ -7,6 +7,7 @@
 
 #include <DisplayAPI/DisplayablePrivate.h>
 #include <DisplayAPI/List.h>
+#include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/TabScreen.h>
 
 #include <climits>
@@ -221,6 +222,28 @@ TEST_F(TabScreenTest, AScreenInATabIsShownAndLosesTheFocusAsIfItStoodAlone)
     EXPECT_EQ(log, (std::vector<std::string>{"show b", "show a", "show b"}));
     EXPECT_EQ(glassLine(0).substr(0, 2), "B ");
     EXPECT_TRUE(alone->getPrivateImpl()->getWidget()->isShown()) << "though it was hidden when it left the display";
+}
+
+TEST_F(TabScreenTest, AListThatGetsRowsAgainIsBackInItsTab)
+{
+    auto* list = newList("Anna");
+    tabs.addTab("Missed", list, false);
+    tabs.addTab("Other", nullptr, false);
+    show(tabs);
+    for (const bool isUp : {true, false}) {
+        tabs.setCurrentTabIndex(0);
+        while (list->size() > 0) {
+            ListItem* row = list->getItems().front();
+            list->remove(row);
+            delete row;
+        }
+        EXPECT_EQ(glassLine(0).substr(0, 7), "Missed ");
+        EXPECT_EQ(glassLine(1), std::string(27, ' '));
+        if (!isUp)
+            tabs.nextTab();
+        list->append("Carol");
+        EXPECT_EQ(glassLine(1).substr(0, 5), isUp ? "Carol" : "     ");
+    }
 }
 
 TEST_F(TabScreenTest, AScreenBelongsToOneTabUntilItLeaves)
