@@ -22,7 +22,15 @@ struct Wishes {
     bool hasControl = false;
     double patienceInSeconds = 5;
     std::string model = "plain";
+    std::string software = "other";
+    bool isDesktop = false;
 };
+
+/// What the display is told.
+std::string softwareType(const std::string& name)
+{
+    return name == "sip" ? "Zelmark SIP" : name == "qvt" ? "Zelmark QVT" : "softwareUnknown";
+}
 
 void addModes(CLI::App& app, Wishes& wishes)
 {
@@ -53,10 +61,16 @@ void addSettings(CLI::App& app, Wishes& wishes)
         ->check(CLI::Range(0.0, 3600.0))
         ->capture_default_str()
         ->type_name("S");
-    app.add_option("--lines", wishes.options.hardware.displayLines, "Lines of the display")
-        ->check(CLI::Range(2, 3))
+    CLI::Option* lines = app.add_option("--lines", wishes.options.hardware.displayLines, "Lines of the display")
+                             ->check(CLI::Range(2, 3))
+                             ->capture_default_str()
+                             ->type_name("N");
+    app.add_flag("--desktop", wishes.isDesktop, "Run the phonelet as the desktop, on its glass of one line")
+        ->excludes(lines);
+    app.add_option("--software", wishes.software, "Of the telephone: sip, qvt or other")
+        ->check(CLI::IsMember({"sip", "qvt", "other"}, CLI::ignore_case).description(""))
         ->capture_default_str()
-        ->type_name("N");
+        ->type_name("NAME");
     app.add_option("--model", wishes.model, "Of the telephone: plain, rx40 or rx70")
         ->check(CLI::IsMember({"plain", "rx40", "rx70"}, CLI::ignore_case).description(""))
         ->type_name("NAME");
@@ -104,6 +118,8 @@ Options parseOptions(int argc, const char* const* argv, const std::string& versi
     Options options = wishes.options;
     options.mode = options.help.empty() ? modeOf(wishes) : Options::Mode::Help;
     options.patience = std::chrono::milliseconds(static_cast<long>(wishes.patienceInSeconds * 1000));
+    options.softwareType = softwareType(CLI::detail::to_lower(wishes.software));
+    options.application = wishes.isDesktop ? "DesktopPhonelet" : "";
     options.hardware.isRX40 = CLI::detail::to_lower(wishes.model) == "rx40";
     options.hardware.isRX70 = CLI::detail::to_lower(wishes.model) == "rx70";
     return options;

@@ -30,6 +30,8 @@ struct Options {
     std::string font; ///< Empty for the system's.
     std::chrono::milliseconds patience{5000};
     HardwareVersion::Set hardware;
+    std::string application; ///< As which application the phonelet runs; empty for its own name.
+    std::string softwareType;
 };
 
 /// The name of the program, without its folder.

@@ -53,7 +53,8 @@ Phone::Phone(const Settings& settings)
 void Phone::run(const Phonelet& phonelet, const Driver& driver)
 {
     const ToolkitSetup setup(mSettings, mFont, [this] { publish(); });
-    DisplayAPI::Display display("PhoneSimulator", "en_US", "DD.MM.YYYY", "HH:mm", false, nullptr);
+    DisplayAPI::Display display(mSettings.application, "PhoneSimulator", PhysDefs::hardwareSubVariant{},
+        mSettings.softwareType, "en_US", "DD.MM.YYYY", "HH:mm", false, nullptr, false);
     mDisplay = &display;
     display.subscribe(this);
     DisplayAPI::DeliveryWatch::setObserver([this](const auto& delivery) { mDeliveries.add(delivery); });

@@ -36,6 +36,8 @@ public:
         ClockKind clock = ClockKind::Real;
         std::vector<CustomStep> steps;            ///< Of the phonelet, with their keys.
         std::chrono::milliseconds patience{5000}; ///< How long the GUI thread may take to answer.
+        std::string application = {};             ///< As which application the phonelet runs.
+        std::string softwareType = {};
     };
 
     /// Works the telephone; the phonelet is told to end when it returns.

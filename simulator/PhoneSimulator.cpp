@@ -20,6 +20,12 @@ PhoneSimulator& PhoneSimulator::setVersion(std::string version)
     return *this;
 }
 
+PhoneSimulator& PhoneSimulator::setApplicationName(std::string name)
+{
+    mApplicationName = std::move(name);
+    return *this;
+}
+
 PhoneSimulator& PhoneSimulator::setTour(std::string script)
 {
     mTour = std::move(script);
@@ -44,9 +50,10 @@ int PhoneSimulator::run(const Phonelet& phonelet)
     for (const OwnStep& step : mSteps)
         steps.push_back({step.name, step.function, step.functionKey});
     try {
-        return Simulation(
-            Simulator::parseOptions(mArgumentCount, mArguments, mVersion), std::move(steps), mTour, phonelet)
-            .run();
+        Simulator::Options options = Simulator::parseOptions(mArgumentCount, mArguments, mVersion);
+        if (options.application.empty())
+            options.application = mApplicationName;
+        return Simulation(std::move(options), std::move(steps), mTour, phonelet).run();
     } catch (const Simulator::UsageError& error) {
         report(error);
         return Simulation::BadUsage;

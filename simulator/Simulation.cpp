@@ -76,6 +76,8 @@ Phone::Settings Simulation::settings(Phone::ClockKind clock) const
     settings.steps = mSteps;
     settings.fontFile = mOptions.font;
     settings.hardware = mOptions.hardware;
+    settings.application = mOptions.application;
+    settings.softwareType = mOptions.softwareType;
     settings.clock = clock;
     settings.patience = std::max(mOptions.patience, leastPatience);
     return settings;

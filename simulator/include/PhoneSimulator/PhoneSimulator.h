@@ -34,6 +34,11 @@ public:
     /// screen. Returns the simulator itself.
     PhoneSimulator& setTour(std::string script);
 
+    /// Names the application of the telephone that the phonelet is; it has no name at first. "CallViewPhonelet" has
+    /// the labels of the function keys on a display of three lines. `--desktop` goes before the name. Returns the
+    /// simulator itself.
+    PhoneSimulator& setApplicationName(std::string name);
+
     /// What a step of the phonelet's own does; the argument is what stands behind its name in the script.
     using StepFunction = std::function<void(const std::string& argument)>;
 
@@ -60,6 +65,7 @@ private:
     const char* const* mArguments;
     std::string mVersion;
     std::string mTour;
+    std::string mApplicationName;
     struct OwnStep {
         std::string name;
         StepFunction function;
