@@ -110,9 +110,10 @@ TEST_F(ProgramTest, AFailedStepGivesItsLineAndExitCodeOne)
 TEST_F(ProgramTest, WhatCannotBeUsedGivesOneLineAndExitCodeTwo)
 {
     writeScript("press DOWN\npress NOWHERE\n");
-    for (const char* arguments : {"--script test.script", "--script missing.script", "--script", "--bogus", "something",
-             "--font /etc/passwd", "--font missing.pcf", "--lines 4", "--model rx99", "--scale big", "--timeout -1",
-             "--tour --text", "--script test.script --shot x.png"}) {
+    for (const char* arguments :
+        {"--script test.script", "--script missing.script", "--script", "--bogus", "something", "--font /etc/passwd",
+            "--font missing.pcf", "--lines 4", "--model rx99", "--software isdn", "--desktop --lines 3", "--scale big",
+            "--timeout -1", "--tour --text", "--script test.script --shot x.png"}) {
         const Result result = run(arguments);
         EXPECT_EQ(result.code, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;
