@@ -5,6 +5,7 @@
 
 #include <CallRowsMEG.h>
 #include <ContextMenuMEG.h>
+#include <DesktopMEG.h>
 #include <ExpandingListMEG.h>
 #include <FormItemMEG.h>
 #include <FormWidgetMEG.h>
@@ -12,6 +13,7 @@
 #include <PopupDialerMEG.h>
 #include <SearchableListMEG.h>
 #include <SpellerMEG.h>
+#include <StatusVolumeMEG.h>
 #include <TreeItemMEG.h>
 #include <TwoLineDisplay.h>
 #include <Types.h>
@@ -86,6 +88,21 @@ void buildLineOverview(UWidget& root, int rows)
         list.addItem(new LineOverviewListItem(
             LineOverviewListItem::LineStateIconType{1}, text("Line " + std::to_string(row)), text("4711"), true));
     }
+}
+
+/// The keys work the list below, and each frame draws what lies over it.
+void buildStatusOverList(UWidget& root)
+{
+    buildList(root, 10);
+    auto* desktop = put<DesktopMEG>(root);
+    desktop->setTime(10, 41, 0);
+    desktop->setDate(27, 2, 2026);
+    desktop->setLogoText(text("Example Ltd."));
+    desktop->setDesktopString("4711");
+    desktop->setHeadsetIcon(true);
+    desktop->setStrength(true, 75);
+    root.addWidget(new StatusMessageMEG("Maintenance tonight between ten and eleven", 0, 5000));
+    root.addWidget(new VolumeIndicatorMEG(VolumeIndicatorMEG::Speaker, 4, 0, 10));
 }
 
 void buildConference(UWidget& root)
@@ -249,6 +266,7 @@ const std::vector<Case>& cases()
     static const std::vector<Case> all = {
         {"list of 10 rows", [](UWidget& root) { buildList(root, 10); }, {KeyDown}},
         {"list of 10,000 rows", [](UWidget& root) { buildList(root, 10'000); }, {KeyDown}},
+        {"list under desktop, message and volume", buildStatusOverList, {KeyDown}},
         {"radio buttons, 100", [](UWidget& root) { buildRadioButtons(root, 100); }, {KeyDown, KeyOk}},
         {"call log of 100 rows", [](UWidget& root) { buildCallLog(root, 100); }, {KeyDown}},
         {"line overview of 100 rows", [](UWidget& root) { buildLineOverview(root, 100); }, {KeyDown}},
