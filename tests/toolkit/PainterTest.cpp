@@ -244,6 +244,13 @@ TEST_F(PainterTest, ABarIsFilledToItsValue)
     }
 }
 
+TEST_F(PainterTest, BoldLettersStayApart)
+{
+    mPainter.text(0, 0, UString("LI"));
+    mPainter.embolden(0, 0, 1);
+    EXPECT_EQ(picture(0, 12, 12, 2), Picture({"##....##....", "#####.##...."}));
+}
+
 TEST_F(PainterTest, InvertingTwiceGivesTheLineBack)
 {
     mPainter.text(1, 0, UString("TIL"));

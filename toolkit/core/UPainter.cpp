@@ -249,9 +249,10 @@ void UPainter::embolden(int line, int firstColumn, int lastColumn)
     const int left = std::max(firstColumn, 0) * UFont::CellWidth;
     const int right = std::min(lastColumn, Columns - 1) * UFont::CellWidth + UFont::CellWidth - 1;
     for (int y = lineTop(line); y <= lineBottom(line); ++y) {
-        // From the right, so that each pixel is doubled once.
+        // From the right, so that each pixel is doubled once. A gap of one pixel stays open: it keeps letters apart.
         for (int x = right; x > left; --x) {
-            if (mScreen.pixel(x - 1, y))
+            const bool isGap = x < right && mScreen.pixel(x + 1, y);
+            if (mScreen.pixel(x - 1, y) && !isGap)
                 mScreen.setPixel(x, y, true);
         }
     }

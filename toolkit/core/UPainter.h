@@ -53,7 +53,8 @@ public:
     /// Swaps black and white of a line between two columns, both included.
     void invert(int line, int firstColumn = 0, int lastColumn = Columns - 1);
 
-    /// Thickens what stands between two columns, both included, by one pixel to the right.
+    /// Thickens what stands between two columns, both included, by one pixel to the right,
+    /// but closes no gap of one pixel, such as the one between two letters.
     void embolden(int line, int firstColumn, int lastColumn);
 
     /// The first and last row of pixels of a line.
