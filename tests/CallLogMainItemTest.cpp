@@ -84,5 +84,5 @@ TEST_F(CallLogMainItemTest, TheWholeRowIsWrittenAndPainted)
     EXPECT_EQ(screenText(),
         lines({"object:", "name:VantoListBox", "subitem:", "name:CallLogListItem", "icon0:CompletedElsewhere",
             "icon1:Mobile", "string0: Ann 471 ->", "string1: 3", "string2: 2001-02-03", "endsubitem:", "end:"}));
-    EXPECT_EQ(glassLine(1), "\u25A1\u25A1Ann 471  3  2001-02-03  >");
+    EXPECT_EQ(glassLine(1), "\u25A1\u25A1Ann 471   (3) 2001-02-03>");
 }

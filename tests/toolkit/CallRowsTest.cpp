@@ -59,8 +59,8 @@ TEST_F(CallRowsTest, ACallLogRowShowsWhoAndWhen)
     auto* row = logRow("2001-02-03 10:42");
     list.addItem(row);
     list.addItem(logRow("soon", 4, 2));
-    EXPECT_EQ(line(0), "Bob 4712       2001-02-03  ");
-    EXPECT_EQ(line(1), "Bob 4712          2  soon  ");
+    EXPECT_EQ(line(0), "Bob 4712         2001-02-03");
+    EXPECT_EQ(line(1), "Bob 4712           (2) soon");
     EXPECT_EQ(row->getDisplayedText(), text("Bob 4712"));
     EXPECT_EQ(row->getItemType(), VantoListBoxItemMEG::CallLogRow);
 

@@ -105,12 +105,11 @@ void CallLogListItemMEG::setBold(bool bold)
 
 void CallLogListItemMEG::paintRow(UPainter& painter, int, int line, int column, int columns) const
 {
-    static const UString gap("  ");
     const std::uint16_t ownIcon = mIsCompletedElsewhere ? SuccessIcon : numberIcon(mIconType);
     const int taken = painter.icon(line, column, icon() ? icon() : ownIcon);
-    UString right = mMoment.shown() + gap;
-    if (mNumberOfCalls > 1)
-        right = UString(std::to_string(mNumberOfCalls)) + gap + right;
+    UString right = mMoment.shown();
+    if (mNumberOfCalls > 1) // in brackets, so that it doesn't look like the end of the number
+        right = joined(UString("(" + std::to_string(mNumberOfCalls) + ")"), right);
     const int textColumns = columns - taken;
     paintTexts(painter, line, column + taken, textColumns, getDisplayedText(), right, textColumns * 2 / 3);
     if (mIsBold)
