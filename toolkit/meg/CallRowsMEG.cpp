@@ -84,6 +84,18 @@ bool CallMomentMEG::isPresentDay() const
     return mIsParsed && mDate.toUTF8() == today();
 }
 
+UString CallMomentMEG::shown() const
+{
+    if (!mIsParsed)
+        return mDate;
+    constexpr std::size_t yearLength = sizeof "YYYY-" - 1;
+    const std::string day = today();
+    const std::string date = mDate.toUTF8();
+    if (date == day)
+        return mTime;
+    return date.compare(0, yearLength, day, 0, yearLength) == 0 ? mDate.mid(yearLength) : mDate;
+}
+
 // The call log
 
 CallLogListItemMEG::CallLogListItemMEG(const UString& name, const UString& number, IconType iconType,

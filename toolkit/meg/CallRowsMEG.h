@@ -19,8 +19,8 @@ public:
     const UString& date() const { return mDate; }
     const UString& time() const { return mTime; }
 
-    /// What the glass shows: the time of a call of today, else the date.
-    const UString& shown() const { return isPresentDay() ? mTime : mDate; }
+    /// What the glass shows: the time of a call of today, else the date, without the year if it is this one.
+    UString shown() const;
 
 private:
     UString mDate;
