@@ -15,7 +15,8 @@ namespace DisplayAPI {
 /// Ownership: as ListItem; translations handed in become the row's. They are read when they are set and when a hold
 /// ends, not with a change of locale.
 /// Errors: as ListItem. A line that is made in a state without an icon never has a row on the glass: what is set is
-/// stored, and a list shows nothing of it.
+/// stored, and a list shows nothing of it. It counts in getItems() all the same, so that getSelected() of a list names
+/// rows behind it wrongly: make a line in a state with an icon, and set another.
 /// Screen text: as a plain row, of prefix, name and identity.
 class DISPLAYAPI_EXPORT LineOverviewItem : public ListItem {
 public:

@@ -50,8 +50,11 @@ public:
     void setIsPageList(bool isPageList) override;
     void restoreFocusAndShowHighlight();
 
-    /// The list of its own accord reads its rows' translations again.
+    /// The list reads its rows' translations again by itself, through the operation of List that this one hides.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
     void localeChanged(const std::string& locale);
+#pragma GCC diagnostic pop
     void setSelectionHighlight(bool highlight);
     void setUsedWithTab(bool used);
     void setWrapAround(bool wrap);
