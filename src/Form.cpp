@@ -65,7 +65,7 @@ void Form::create(FormProportionType proportion)
 void Form::destroy()
 {
     // While the stack still finds it: a form goes as one that is dismissed.
-    if (mPrivate && isGuiThread())
+    if (isGuiThread() && mPrivate)
         mPrivate->widgetDismissed(mPrivate.get());
     Road::end(this, mPrivate, Request::Destroy);
     // The rows have gone with the widget: the items only forget them.
