@@ -6,6 +6,7 @@
 #include <CallRowsMEG.h>
 #include <ContextMenuMEG.h>
 #include <DesktopMEG.h>
+#include <DetailsWithCommandListMEG.h>
 #include <ExpandingListMEG.h>
 #include <FormItemMEG.h>
 #include <FormWidgetMEG.h>
@@ -130,6 +131,14 @@ void buildMenu(UWidget& root)
         menu->addCommand(command, 0, false, false, 0);
     root.addWidget(menu);
     menu->slideIn();
+}
+
+void buildDetails(UWidget& root)
+{
+    auto* details = new DetailsWithCommandListMEG(&root);
+    details->setHeaderText("Bob Baker 4712");
+    for (const char* command : {"Call?", "Edit?", "Delete?"})
+        details->addListItem(new VantoListBoxItemMEG(text(command)));
 }
 
 void buildTextBox(UWidget& root, int paragraphs)
@@ -278,6 +287,7 @@ const std::vector<Case>& cases()
         {"level of a tree", buildTree, {KeyDown}},
         {"form of 10 rows", [](UWidget& root) { buildForm(root, 10); }, {KeyDown}},
         {"form of 1,000 rows", [](UWidget& root) { buildForm(root, 1000); }, {KeyDown}},
+        {"commands of a contact", buildDetails, {KeyDown}},
         {"text box of 10 paragraphs", [](UWidget& root) { buildTextBox(root, 10); }, {KeyDown, KeyDown, KeyUp, KeyUp}},
         {"text box of 10,000 paragraphs", [](UWidget& root) { buildTextBox(root, 10'000); },
             {KeyDown, KeyDown, KeyUp, KeyUp}},
