@@ -17,11 +17,6 @@ namespace {
 class TextBoxTest : public PhoneTest {
 protected:
     ~TextBoxTest() override { display->setCurrent(nullptr); }
-
-    static bool hasTwoLines(TextBox& box)
-    {
-        return dynamic_cast<TextBoxPrivate2Line*>(box.getPrivateImpl()) != nullptr;
-    }
 };
 
 constexpr bool TwoLines = true;
@@ -144,7 +139,7 @@ TEST_F(TextBoxTest, RoadAndHardwareDecideWhichOneItIs)
             elsewhere(make);
         else
             make();
-        EXPECT_EQ(hasTwoLines(*box), row.hasTwoLines);
+        EXPECT_EQ(dynamic_cast<TextBoxPrivate2Line*>(box->getPrivateImpl()) != nullptr, row.hasTwoLines);
         EXPECT_EQ(box->widgetName(), "TextBox");
     }
 }
@@ -154,9 +149,9 @@ TEST_F(TextBoxTest, LeftIsToldOnceToEachListenerAndNothingElseIs)
     RecordingListener listener;
     RecordingListener gone;
     TextBox box(true);
-    for (CommandListener* each : {static_cast<CommandListener*>(&gone), static_cast<CommandListener*>(&listener),
-             static_cast<CommandListener*>(&listener), static_cast<CommandListener*>(nullptr)})
+    for (RecordingListener* each : {&gone, &listener, &listener})
         box.addCommandListener(each);
+    box.addCommandListener(nullptr);
     box.removeCommandListener(&gone);
     show(box);
     changes.takeNotices();
