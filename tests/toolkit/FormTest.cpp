@@ -219,3 +219,18 @@ TEST_F(FormTest, OnlyARowWithoutAValueShowsTheCaption)
     form->setCaption(UString());
     EXPECT_EQ(line(0).substr(0, 5), "Name:") << "without a caption the line is the rows'";
 }
+
+TEST_F(FormTest, UnderALineThatIsTakenLabelAndValueShareTheOther)
+{
+    add("Number:");
+    FormSliderItemMEG* slider = addSlider();
+    add("A label of more than half the line");
+    form->setStatusMessageAvailable(true);
+    EXPECT_EQ(line(1), "Number: value             v");
+    form->setCurrentRow(slider);
+    EXPECT_EQ(line(1).substr(0, 8), "slider 0");
+    press(UGlobal::KeyDown);
+    EXPECT_EQ(line(1), "A label of mo value       ^");
+    form->setStatusMessageAvailable(false);
+    EXPECT_EQ(line(1), "value                     ^");
+}

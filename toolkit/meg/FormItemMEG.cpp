@@ -140,6 +140,14 @@ void FormItemMEG::paintRow(UPainter& painter, int rowLine, int line, int column,
         paintValue(painter, line, column, columns);
 }
 
+void FormItemMEG::paintInOneLine(UPainter& painter, int line, int column, int columns) const
+{
+    int left = 0;
+    if (getValue() && !getText().isEmpty())
+        left = painter.text(line, column, UString(TextBlock::oneLine(getText().toUTF8())), columns / 2) + 1;
+    paintRow(painter, highlightedLine(), line, column + left, columns - left);
+}
+
 void FormItemMEG::paintValue(UPainter& painter, int line, int column, int columns) const
 {
     std::string value = TextBlock::oneLine(shownValue().toUTF8());

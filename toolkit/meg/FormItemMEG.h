@@ -118,6 +118,9 @@ public:
     void childLeft(UWidget* child) override;
     void paintRow(UPainter& painter, int rowLine, int line, int column, int columns) const override;
 
+    /// The value behind the label, which has half of the line at most.
+    void paintInOneLine(UPainter& painter, int line, int column, int columns) const override;
+
 protected:
     FormItemMEG(const UString& label, FieldType type, std::unique_ptr<FormValueMEG> value);
 

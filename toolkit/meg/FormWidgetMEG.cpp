@@ -69,6 +69,11 @@ public:
         if (mRow)
             mRow->paintRow(painter, rowLine, line, column, columns);
     }
+    void paintInOneLine(UPainter& painter, int line, int column, int columns) const override
+    {
+        if (mRow)
+            mRow->paintInOneLine(painter, line, column, columns);
+    }
 
 private:
     const UWidget* mAddress;

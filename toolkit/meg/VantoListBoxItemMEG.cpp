@@ -65,6 +65,11 @@ void VantoListBoxItemMEG::paintRow(UPainter& painter, int, int line, int column,
     paintTexts(painter, line, column + iconColumns, columns - iconColumns, getDisplayedText(), mRightText, columns / 2);
 }
 
+void VantoListBoxItemMEG::paintInOneLine(UPainter& painter, int line, int column, int columns) const
+{
+    paintRow(painter, highlightedLine(), line, column, columns);
+}
+
 bool VantoListBoxItemMEG::moveInside(int)
 {
     return false;

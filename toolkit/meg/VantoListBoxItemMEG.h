@@ -86,6 +86,9 @@ public:
     /// `columns` - 1. The list draws bar, context arrow and marks.
     virtual void paintRow(UPainter& painter, int rowLine, int line, int column, int columns) const;
 
+    /// Draws the row where the list has one line for it, however many it takes.
+    virtual void paintInOneLine(UPainter& painter, int line, int column, int columns) const;
+
     /// The line of the row that carries the highlight bar.
     virtual int highlightedLine() const { return 0; }
 

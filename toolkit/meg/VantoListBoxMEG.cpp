@@ -473,7 +473,10 @@ void VantoListBoxMEG::paintLine(UPainter& painter, const VantoListBoxItemMEG& ro
             painter.mark(line, Icons::Mark::ContextArrow, rowColumns);
     }
     const int head = paintRowHead(painter, row, line);
-    row.paintRow(painter, rowLine, line, head, rowColumns - head);
+    if (visibleLines() == 1)
+        row.paintInOneLine(painter, line, head, rowColumns - head);
+    else
+        row.paintRow(painter, rowLine, line, head, rowColumns - head);
     if (isCurrent && rowLine == row.highlightedLine() && hasBar(row))
         painter.invert(line, 0, columns - 1);
 }
