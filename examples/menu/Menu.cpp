@@ -10,6 +10,8 @@ namespace {
 enum Entry {
     Branch,
     Setting,
+    CallsTab,
+    ForwardingRow,
     English,
     German,
     Restart,
@@ -25,6 +27,8 @@ Menu::Menu(Display& display)
     mTree.setTreeName(mWords.text("Menu"));
     mTree.setTreeIcon(Tree::Menu);
     mTree.addCommandListener(this);
+    mTree.addNode(mWords.text("Calls"), CallsTab);
+    mTree.addNode(mWords.text("Forwarding"), ForwardingRow);
     addSettings();
     addAdministration();
     mTree.addNode(mWords.text("About"), About);
@@ -84,6 +88,8 @@ void Menu::commandAction(Command* command, Displayable* displayable)
 void Menu::choose(const TreeNode& node)
 {
     switch (node.getId()) {
+    case CallsTab: mCalls.show(); break;
+    case ForwardingRow: mForwarding.show(); break;
     case English: setLanguage(Words::English); break;
     case German: setLanguage(Words::German); break;
     case Restart: notify(PopupNotification::WARNING, mWords.text("Restart"), "10:42"); break;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CallTabs.h"
+#include "Forwarding.h"
 #include "Words.h"
 
 #include <DisplayAPI/CommandListener.h>
@@ -13,7 +15,8 @@ class Display;
 class TreeNode;
 }
 
-/// The menu of a telephone: settings three levels deep, of which one branch is protected and one changes the language.
+/// The menu of a telephone: settings three levels deep, of which one branch is protected and one changes the language,
+/// and from there a tab screen and a screen for call forwarding.
 class Menu : public DisplayAPI::CommandListener {
 public:
     explicit Menu(DisplayAPI::Display& display);
@@ -32,9 +35,11 @@ private:
     void notify(DisplayAPI::PopupNotification::InfoType type, TranslationInfo* first, const std::string& second);
 
     DisplayAPI::Display& mDisplay;
-    Words mWords; // outlives the screens, which read it
+    Words mWords{mDisplay}; // outlives the screens, which read it
     DisplayAPI::Tree mTree;
     DisplayAPI::TreeNode* mAdministration = nullptr;
+    CallTabs mCalls{mDisplay, mTree, mWords};
+    Forwarding mForwarding{mDisplay, mTree, mWords};
     DisplayAPI::PopupConfirm mQuestion{true};
     DisplayAPI::MenuCommand mEnter{mWords.question("Enter"), 1};
     DisplayAPI::MenuCommand mCancel{mWords.question("Cancel"), 2};

@@ -5,6 +5,10 @@
 #include <atomic>
 #include <string>
 
+namespace DisplayAPI {
+class Display;
+}
+
 /// The words of the phonelet, whose keys are its English texts.
 class Words : public TranslatorIfc {
 public:
@@ -12,6 +16,10 @@ public:
         English,
         German,
     };
+
+    /// Also for the library's own texts.
+    explicit Words(DisplayAPI::Display& display);
+    ~Words() override;
 
     /// The screens read their texts anew at the next change of locale. Threads: any.
     void setLanguage(Language language) { mLanguage = language; }
@@ -21,8 +29,10 @@ public:
 
     /// A text that follows the language, for an operation that takes it over.
     TranslationInfo* text(const std::string& key) { return new TranslationInfo(key, this); }
+    TranslationInfo* label(const std::string& key) { return new TranslationInfo("", key, ":", this); }
     TranslationInfo* question(const std::string& key) { return new TranslationInfo("", key, "?", this); }
 
 private:
+    DisplayAPI::Display& mDisplay;
     std::atomic<Language> mLanguage = English;
 };
