@@ -123,11 +123,11 @@ void FormItemMEG::setSelectionCommand(long handle)
 
 void FormItemMEG::takeValueOf(const VantoListBoxItemMEG& row)
 {
-    const auto choice = std::find_if(
-        mChoices.begin(), mChoices.end(), [&row](const Choice& entry) { return entry.handle == row.getHandle(); });
-    // A row that has got another text since, as at a change of locale, shows its new value.
-    const bool isAsAdded = choice != mChoices.end() && choice->text == row.getText();
-    setValueText(isAsAdded ? choice->value : row.getText());
+    // A row that has got another text since, as at a change of locale, shows that as its value. Rows may share a handle.
+    const auto choice = std::find_if(mChoices.begin(), mChoices.end(), [&row](const Choice& entry) {
+        return entry.handle == row.getHandle() && entry.text == row.getText();
+    });
+    setValueText(choice == mChoices.end() ? row.getText() : choice->value);
 }
 
 // Painting
