@@ -100,6 +100,9 @@ public:
     /// Deletes the choices.
     void clear();
 
+    /// The index before one has been selected.
+    static constexpr unsigned int NoSelection = static_cast<unsigned int>(-1);
+
     /// Makes the choice at an index the value. An index without a choice is kept and changes no value.
     void setSelectionIndex(unsigned int index);
     unsigned int getSelectionIndex() const { return mSelectionIndex; }
@@ -146,7 +149,7 @@ private:
 
     ContextMenuMEG* mMenu = nullptr; // a child
     std::vector<Choice> mChoices;
-    unsigned int mSelectionIndex = 0;
+    unsigned int mSelectionIndex = NoSelection;
     long mSelectionCommand = 0;
     bool mOpensOnSelection = true;
 };

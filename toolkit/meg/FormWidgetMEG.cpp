@@ -9,6 +9,7 @@
 #include "VantoListBoxMEG.h"
 #include "VantoTextEditMEG.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -312,7 +313,7 @@ void FormWidgetMEG::openList(FormItemMEG& row)
     list->setListener(this);
     list->listBox->setCurrentIndex(0);
     if (row.displaysCurrentSelection())
-        list->listBox->setCurrentIndex(static_cast<int>(row.getSelectionIndex()));
+        list->listBox->setCurrentIndex(std::max(0, static_cast<int>(row.getSelectionIndex())));
     mOpenList = list;
     list->slideIn();
     startEditing(row);
