@@ -23,6 +23,7 @@
 #include <DisplayAPI/QVTList.h>
 #include <DisplayAPI/SearchList.h>
 #include <DisplayAPI/TextBox.h>
+#include <DisplayAPI/SliderItem.h>
 #include <DisplayAPI/TextField.h>
 #include <DisplayAPI/Timer.h>
 #include <DisplayAPI/Tree.h>
@@ -147,6 +148,11 @@ double measureAllHandles(const std::string& mode)
             auto* field = new TextField(nullptr, {}, nullptr, TextField::AnyText, false);
             form.append(field);
             return field;
+        });
+        measureHandles(mode, "SliderItem", [&form] {
+            auto* slider = new SliderItem(nullptr);
+            form.append(slider);
+            return slider;
         });
     });
     return 0;

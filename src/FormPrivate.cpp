@@ -8,6 +8,7 @@
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
 #include "GuiThread.h"
+#include "SliderItemPrivate.h"
 
 #include <EventTypes.h>
 #include <HardwareVersion.h>
@@ -35,6 +36,8 @@ void takeBack(ItemPrivateIfc* item)
 {
     if (auto* text = dynamic_cast<TextFieldPrivateIfc*>(item))
         text->gainOwnership();
+    else if (auto* slider = dynamic_cast<SliderItemPrivate*>(item))
+        slider->gainOwnership();
 }
 
 }

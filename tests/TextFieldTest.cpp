@@ -1,4 +1,5 @@
 #include "EveryScreen.h"
+#include "FormHolder.h"
 #include "PhoneTest.h"
 #include "ScreenTextParser.h"
 #include "TestTranslator.h"
@@ -9,22 +10,11 @@
 
 #include <FormItemMEG.h>
 
-#include <algorithm>
-
 using namespace DisplayAPI;
 
 namespace {
 
 const std::string Password(ScreenTextParser::Password);
-
-const Holder<Form, TextField> inForm{
-    [] { return std::make_unique<Form>(Form::Proportion0); },
-    [](Form& form, TextField& field) { form.append(&field); },
-    [](Form& form, TextField& field) {
-        const std::vector<Item*> items = form.getItems();
-        form.removeItem(static_cast<unsigned int>(std::find(items.begin(), items.end(), &field) - items.begin()));
-    },
-};
 
 class TextFieldTest : public PhoneTest {
 protected:
@@ -45,7 +35,7 @@ TextField::FieldType typeOf(int number)
 
 INSTANTIATE_TEST_SUITE_P(TextField, EveryRowTest,
     rowFamily(
-        inForm, [](Stage& stage) { return std::unique_ptr<TextField>(stage.newField("Name")); },
+        formHolder<TextField>(), [](Stage& stage) { return std::unique_ptr<TextField>(stage.newField("Name")); },
         {
             {"setString", [](auto& field, auto&) { field.setString("Anna"); }},
             {"a translation", [](auto& field, auto& stage) { field.setString(stage.translation("anna")); }},
