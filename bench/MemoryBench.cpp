@@ -23,6 +23,7 @@
 #include <DisplayAPI/QVTList.h>
 #include <DisplayAPI/SearchList.h>
 #include <DisplayAPI/TextBox.h>
+#include <DisplayAPI/SelectionField.h>
 #include <DisplayAPI/SliderItem.h>
 #include <DisplayAPI/TextField.h>
 #include <DisplayAPI/Timer.h>
@@ -146,6 +147,11 @@ double measureAllHandles(const std::string& mode)
         Form form(Form::Proportion0);
         measureHandles(mode, "TextField", [&form] {
             auto* field = new TextField(nullptr, {}, nullptr, TextField::AnyText, false);
+            form.append(field);
+            return field;
+        });
+        measureHandles(mode, "SelectionField", [&form] {
+            auto* field = new SelectionField(nullptr, nullptr, &form, true);
             form.append(field);
             return field;
         });

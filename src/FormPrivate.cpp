@@ -8,6 +8,7 @@
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
 #include "GuiThread.h"
+#include "SelectionFieldPrivate.h"
 #include "SliderItemPrivate.h"
 
 #include <EventTypes.h>
@@ -36,6 +37,8 @@ void takeBack(ItemPrivateIfc* item)
 {
     if (auto* text = dynamic_cast<TextFieldPrivateIfc*>(item))
         text->gainOwnership();
+    else if (auto* selection = dynamic_cast<SelectionFieldPrivate*>(item))
+        selection->gainOwnership();
     else if (auto* slider = dynamic_cast<SliderItemPrivate*>(item))
         slider->gainOwnership();
 }
