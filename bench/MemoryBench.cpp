@@ -20,6 +20,7 @@
 #include <DisplayAPI/PopupDialer.h>
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupProgress.h>
+#include <DisplayAPI/PopupTextField.h>
 #include <DisplayAPI/QVTList.h>
 #include <DisplayAPI/SearchList.h>
 #include <DisplayAPI/TextBox.h>
@@ -115,6 +116,7 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "ContextMenu", [] { return std::make_unique<ContextMenu>(false); });
         measureHandles(mode, "PopupCall", [] { return std::make_unique<PopupCall>(); });
         measureHandles(mode, "PopupDialer", [] { return std::make_unique<PopupDialer>(true, 0); });
+        measureHandles(mode, "PopupTextField", [] { return std::make_unique<PopupTextField>(nullptr, true); });
         measureHandles(mode, "IdleDisplay", [] { return std::make_unique<IdleDisplay>(""); });
         measureHandles(mode, "Desktop", [] { return std::make_unique<Desktop>(); });
         measureHandles(mode, "Timer", [] { return std::make_unique<Timer>(0); });
