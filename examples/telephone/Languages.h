@@ -1,6 +1,6 @@
 #pragma once
 
-#include <TranslationInfo.h>
+#include <DisplayAPI/TranslationInfo.h>
 
 #include <map>
 #include <mutex>
