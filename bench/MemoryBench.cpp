@@ -2,12 +2,14 @@
 #include "Phone.h"
 #include "Report.h"
 
+#include <DisplayAPI/CallForwardItem.h>
 #include <DisplayAPI/CallLogMainItem.h>
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/ContextMenu.h>
 #include <DisplayAPI/Desktop.h>
 #include <DisplayAPI/DetailsWithCommands.h>
 #include <DisplayAPI/ExclusiveList.h>
+#include <DisplayAPI/ExpandingTreeList.h>
 #include <DisplayAPI/Form.h>
 #include <DisplayAPI/IdleDisplay.h>
 #include <DisplayAPI/LineOverviewItem.h>
@@ -23,9 +25,10 @@
 #include <DisplayAPI/PopupTextField.h>
 #include <DisplayAPI/QVTList.h>
 #include <DisplayAPI/SearchList.h>
-#include <DisplayAPI/TextBox.h>
 #include <DisplayAPI/SelectionField.h>
 #include <DisplayAPI/SliderItem.h>
+#include <DisplayAPI/TabScreen.h>
+#include <DisplayAPI/TextBox.h>
 #include <DisplayAPI/TextField.h>
 #include <DisplayAPI/Timer.h>
 #include <DisplayAPI/Tree.h>
@@ -124,6 +127,14 @@ double measureAllHandles(const std::string& mode)
         measureHandles(mode, "Tree", [] { return std::make_unique<Tree>(); });
         Tree tree;
         measureHandles(mode, "node of a tree", [&tree] { return tree.addNode("Settings", 1); });
+        measureHandles(mode, "TabScreen", [] { return std::make_unique<TabScreen>(TabScreen::IconType{}, false); });
+        measureHandles(mode, "ExpandingTreeList", [] { return std::make_unique<ExpandingTreeList>(true); });
+        ExpandingTreeList forwarding(true);
+        measureHandles(mode, "CallForwardItem", [&forwarding] {
+            auto* row = new CallForwardItem(CallLogMainItem::NoIcon, nullptr, false, false);
+            forwarding.append(row);
+            return row;
+        });
         measureHandles(mode, "SearchList", [] { return std::make_unique<SearchList>(); });
         measureHandles(mode, "TextBox", [] { return std::make_unique<TextBox>(false); });
         measureHandles(mode, "DetailsWithCommands", [] { return std::make_unique<DetailsWithCommands>(); });
