@@ -61,9 +61,9 @@ Directory::Directory(Display& display)
 
     mCallLog.setTitle("Call log");
     mCallLog.append(
-        new CallLogMainItem(new CallPartyIdentifier("Anna Abel", "4020"), "2026-03-02 10:42", 2, true, true));
-    mCallLog.append(new CallLogMainItem(new CallPartyIdentifier("", "0123456"), "2026-03-01 18:05", 1, false, true));
-    mCallLog.append(new CallLogMainItem(new CallPartyIdentifier, "2026-02-28 07:30", 1, false, true));
+        new CallLogMainItem(new CallPartyIdentifier("Anna Abel", "4020"), "2026-03-02 10:42", 2, true, false));
+    mCallLog.append(new CallLogMainItem(new CallPartyIdentifier("", "0123456"), "2026-03-01 18:05", 1, false, false));
+    mCallLog.append(new CallLogMainItem(new CallPartyIdentifier, "2026-02-28 07:30", 1, false, false));
     mCallLog.addCommandListener(this);
 
     mLines.setTitle("Lines");
