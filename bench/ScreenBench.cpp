@@ -3,10 +3,14 @@
 #include "Phone.h"
 #include "Report.h"
 
+#include <DisplayAPI/CallForwardItem.h>
+#include <DisplayAPI/Display.h>
+#include <DisplayAPI/ExpandingTreeList.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/MenuCommand.h>
 #include <DisplayAPI/PopupConfirm.h>
+#include <DisplayAPI/TabScreen.h>
 #include <DisplayAPI/Tree.h>
 #include <DisplayAPI/TreeNode.h>
 
@@ -177,18 +181,51 @@ double pressKey(int key, long rounds)
     return time / static_cast<double>(rounds);
 }
 
-double keyOnTree(long nodes, long rounds)
+/// A key on the screen that `make(display)` makes and shows.
+template <typename Make>
+double keyOn(Make make, long rounds)
 {
     Phone phone;
     double time = 0;
     phone.onGui([&] {
-        Tree tree;
-        growTree(tree, nodes);
-        phone.display().setCurrent(&tree);
+        const auto screen = make(phone.display());
         time = pressKey(UGlobal::KeyDown, rounds);
         phone.display().setCurrent(nullptr);
     });
     return time;
+}
+
+auto showTree(Display& display, long nodes)
+{
+    auto tree = std::make_unique<Tree>();
+    growTree(*tree, nodes);
+    display.setCurrent(tree.get());
+    return tree;
+}
+
+auto showTab(Display& display, long rows)
+{
+    auto tabs = std::make_unique<TabScreen>(TabScreen::IconType{}, false);
+    auto* list = new List(0);
+    for (long row = 0; row < rows; ++row)
+        list->append(std::string("Anna Miller"));
+    tabs->addTab("Missed calls", list, false);
+    display.setCurrent(tabs.get());
+    tabs->setCurrentTabIndex(0);
+    return tabs;
+}
+
+/// Each row unfolds under the highlight.
+auto showForwarding(Display& display, long rows)
+{
+    auto list = std::make_unique<ExpandingTreeList>(true);
+    for (long row = 0; row < rows; ++row) {
+        auto* item = new CallForwardItem(CallLogMainItem::NoIcon, nullptr, false, false);
+        item->setTextBranch("0987654", nullptr, {});
+        list->append(item);
+    }
+    display.setCurrent(list.get());
+    return list;
 }
 
 }
@@ -209,6 +246,11 @@ void registerScreenBenchmarks(const std::string& mode)
         [] { return selectInTree(1000, 2000); });
     registerRatio(mode, "Tree::getSelectedIndex behind 10,000 nodes", 200, Report::NoLimit,
         [] { return selectInTree(10'000, 200); });
-    registerRatio(
-        mode, "key to frame, Tree of 10,000 nodes", 2000, Report::NoLimit, [] { return keyOnTree(10'000, 2000); });
+    const auto registerKey = [&mode](const char* name, auto show) {
+        registerRatio(mode, std::string("key to frame, ") + name, 2000, Report::NoLimit,
+            [show] { return keyOn([show](Display& display) { return show(display, 10'000); }, 2000); });
+    };
+    registerKey("Tree of 10,000 nodes", showTree);
+    registerKey("tab with a List of 10,000 rows", showTab);
+    registerKey("ExpandingTreeList of 10,000 rows", showForwarding);
 }
