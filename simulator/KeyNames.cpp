@@ -36,6 +36,17 @@ std::optional<int> keyCode(std::string_view name)
     return std::nullopt;
 }
 
+std::string keyName(int code)
+{
+    for (const auto& [name, known] : namedKeys) {
+        if (known == code)
+            return std::string(name);
+    }
+    if (UGlobal::isDialKey(code))
+        return {static_cast<char>(code)};
+    return "F" + std::to_string(code - UGlobal::KeyFunction1 + 1);
+}
+
 std::string keyNames()
 {
     std::string names;

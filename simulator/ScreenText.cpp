@@ -127,6 +127,7 @@ std::string inOneLine(const std::string& screenText)
         if (!line.empty())
             result += (result.empty() ? "" : " | ") + line;
     }
+    result.erase(result.find_last_not_of(" \t\r") + 1);
     return result.empty() ? "no text" : result;
 }
 

@@ -16,7 +16,7 @@ std::string closestField(const std::string& screenText, std::string_view wanted)
 /// The lines that hold a value; those of a subitem stand two blanks to the right.
 std::vector<std::string> fieldLines(const std::string& screenText);
 
-/// The screen text in one line, for messages.
+/// The screen text in one line, for messages and scripts; without blanks at its end, which no script could have.
 std::string inOneLine(const std::string& screenText);
 
 }

@@ -69,7 +69,8 @@ std::string ScriptRunner::play(const Step& step)
         return "";
     case Step::Kind::Release: mPhone.key(step.keys.front(), UGlobal::KeyReleased); return "";
     case Step::Kind::Expect:
-    case Step::Kind::ExpectNot: return expect(step);
+    case Step::Kind::ExpectNot:
+    case Step::Kind::ExpectScreen: return expect(step);
     case Step::Kind::Advance: return reasonUnless(mPhone.advance(step.time));
     case Step::Kind::Text: mOutput << settledScreen().text << std::flush; return "";
     case Step::Kind::Show: Simulator::printScreen(settledScreen(), mOutput); return "";
@@ -82,8 +83,10 @@ std::string ScriptRunner::play(const Step& step)
 
 std::string ScriptRunner::expect(const Step& step)
 {
-    const bool isWanted = step.kind == Step::Kind::Expect;
+    const bool isWanted = step.kind != Step::Kind::ExpectNot;
     const auto isAsWanted = [&](const Snapshot& snapshot) {
+        if (step.kind == Step::Kind::ExpectScreen)
+            return snapshot.number != 0 && inOneLine(snapshot.text) == step.text;
         return snapshot.number != 0 && containsField(snapshot.text, step.text) == isWanted;
     };
     // What came before may still be on its way to the screen; look only at what follows from it.
@@ -92,7 +95,7 @@ std::string ScriptRunner::expect(const Step& step)
     if (mPhone.watch().waitFor(isAsWanted, mSettings.patience))
         return "";
     const std::string text = mPhone.watch().snapshot().text;
-    const std::string closest = isWanted ? closestField(text, step.text) : "";
+    const std::string closest = step.kind == Step::Kind::Expect ? closestField(text, step.text) : "";
     return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text + "\", "
         + (closest.empty() ? "" : "closest is \"" + closest + "\", ") + "the screen has: "
         + (text.empty() ? "no text; display.setCurrent() shows a screen, once display.show() has been called"
