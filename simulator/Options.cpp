@@ -44,6 +44,9 @@ void addModes(CLI::App& app, Wishes& wishes)
     CLI::Option* control = app.add_option("--control", wishes.options.control,
         "Take commands of a program, in JSON, from standard input or from a socket");
     control->type_name("[SOCKET]")->expected(0, 1);
+    CLI::Option* record = app.add_option("--record", wishes.options.record,
+        "Write what is done to the telephone as a script, or as a pytest if FILE ends with .py");
+    record->type_name("FILE")->excludes(script)->excludes(tour)->excludes(text)->excludes(shot);
     script->excludes(tour)->excludes(text)->excludes(shot)->excludes(control);
     tour->excludes(text)->excludes(shot)->excludes(control);
     control->excludes(text)->excludes(shot);
@@ -99,6 +102,7 @@ Options parseOptions(int argc, const char* const* argv, const std::string& versi
 {
     Wishes wishes;
     wishes.options.program = programName(argc, argv);
+    wishes.options.command = argc > 0 && argv[0] ? argv[0] : wishes.options.program;
     CLI::App app(Description, wishes.options.program);
     wishes.options.programAndVersion
         = wishes.options.program + " " + (version.empty() ? "(on DisplayAPI " PHONE_VERSION ")" : version);

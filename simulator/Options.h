@@ -22,8 +22,10 @@ struct Options {
     std::string help;
     std::string program; ///< The name under which it was started.
     std::string programAndVersion;
+    std::string command; ///< As it was started.
     std::string script;
     std::string control; ///< The path of the socket; empty for standard input and output.
+    std::string record;  ///< The file to which the session is written; empty for none.
     bool text = false;
     std::string shot; ///< The file of the picture; empty for none.
     int scale = 4;

@@ -134,6 +134,8 @@ void Phone::key(int code, UGlobal::KeyState state)
             callStep(step->name, "");
         return;
     }
+    if (PhoneObserver* observer = mObserver)
+        observer->keyComes(code, state);
     UApplication::instance()->postKey(code, state);
 }
 
@@ -159,17 +161,23 @@ bool Phone::callStep(const std::string& name, const std::string& argument)
     if (step == mSettings.steps.end() || !finishPosted())
         return false;
     const std::lock_guard lock(mStepMutex);
+    if (PhoneObserver* observer = mObserver)
+        observer->stepComes(name, argument);
     step->function(argument);
     return true;
 }
 
 bool Phone::advance(std::chrono::milliseconds time)
 {
+    if (PhoneObserver* observer = mObserver)
+        observer->timeMoves(time);
     return onGui([time] { ULoop::instance().advance(static_cast<std::uint64_t>(time.count())); });
 }
 
 void Phone::quit()
 {
+    if (PhoneObserver* observer = mObserver)
+        observer->endComes();
     callOnGui([this] {
         if (mDisplay)
             mDisplay->shutdown();

@@ -3,6 +3,7 @@
 #include "CustomStep.h"
 #include "DeliveryLog.h"
 #include "FixedFont.h"
+#include "PhoneObserver.h"
 #include "ScreenWatch.h"
 
 #include <DisplayAPI/DisplayEventIfc.h>
@@ -51,6 +52,9 @@ public:
     void run(const Phonelet& phonelet, const Driver& driver);
 
     // For the driver; threads: any
+
+    /// Names who is told of keys, steps and the clock; null for nobody. The observer must stay while others use this.
+    void setObserver(PhoneObserver* observer) { mObserver = observer; }
 
     /// Hands a key to the telephone. A function key that the phonelet has taken for a step calls the step when it
     /// is pressed, on the calling thread, and is no key of the telephone.
@@ -118,6 +122,7 @@ private:
     std::atomic<bool> mIsPublishPosted = false;
     std::atomic<bool> mHasRun = false;
     std::atomic<bool> mIsStuck = false; // has not answered when it was last asked
+    std::atomic<PhoneObserver*> mObserver = nullptr;
     std::exception_ptr mDriverError;
     std::mutex mStepMutex; // held while a step of the phonelet's own runs
 };

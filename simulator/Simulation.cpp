@@ -3,6 +3,8 @@
 #include "ControlServer.h"
 #include "Picture.h"
 #include "Printable.h"
+#include "RecordFile.h"
+#include "Recorder.h"
 #include "Script.h"
 #include "ScriptRunner.h"
 #include "SignalWatch.h"
@@ -13,6 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <unistd.h>
 #include <utility>
@@ -59,7 +62,12 @@ int Simulation::run()
 {
     switch (mOptions.mode) {
     case Options::Mode::Help: std::cout << mOptions.help; return Success;
-    case Options::Mode::Terminal: return hasTerminal() ? runTerminal() : runTour();
+    case Options::Mode::Terminal:
+        if (hasTerminal())
+            return runTerminal();
+        if (!mOptions.record.empty())
+            throw UsageError("--record needs a terminal, or --control");
+        return runTour();
     case Options::Mode::Script: return runScript(readScript(mOptions.script, stepNames()));
     case Options::Mode::Control: return runControl();
     case Options::Mode::Once: return runOnce();
@@ -120,13 +128,24 @@ void Simulation::end(Phone& phone, int code) const
     std::_Exit(std::max(code, Failure));
 }
 
+std::unique_ptr<RecordFile> Simulation::recordFile() const
+{
+    return mOptions.record.empty() ? nullptr : RecordFile::create(mOptions.record, mOptions.command);
+}
+
 int Simulation::runTerminal()
 {
     SignalWatch signals(SignalWatch::Of::Terminal);
-    Phone phone(settings(Phone::ClockKind::Real));
+    const std::unique_ptr<RecordFile> record = recordFile();
+    Phone phone(settings(record ? Phone::ClockKind::Manual : Phone::ClockKind::Real));
     TerminalView view(phone, signals);
     int signal = 0;
-    phone.run(mPhonelet, [&](Phone&) { signal = view.run(); });
+    phone.run(mPhonelet, [&](Phone& driven) {
+        std::optional<Recorder> recorder;
+        if (record)
+            recorder.emplace(driven, *record, Recorder::ClockMover::Recorder);
+        signal = view.run();
+    });
     if (!phone.hasRun()) {
         std::cerr << mOptions.program << ": " << phone.trouble() << std::endl;
         return Failure;
@@ -171,13 +190,19 @@ int Simulation::runControl()
 {
     SignalWatch signals(SignalWatch::Of::Program);
     Phone phone(settings(Phone::ClockKind::Manual));
+    const std::unique_ptr<RecordFile> record = recordFile();
     ControlServer server(
         phone, signals, mOptions.control, {mOptions.patience, mOptions.scale, mOptions.programAndVersion});
     if (!mOptions.control.empty())
         std::cerr << mOptions.program << ": the control channel is at " << mOptions.control << std::endl;
     int code = Failure;
     phone.run(mPhonelet, [&](Phone& driven) {
+        std::optional<Recorder> recorder;
+        if (record)
+            recorder.emplace(driven, *record, Recorder::ClockMover::Driver);
         code = codeOf(server.run());
+        if (!server.isStuck())
+            recorder.reset();
         if (server.isStuck())
             std::cerr << mOptions.program << ": a command has not ended; it is left" << std::endl;
         end(driven, server.isStuck() ? std::max(code, Failure) : code);

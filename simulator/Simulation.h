@@ -4,11 +4,13 @@
 #include "Phone.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace Simulator {
 
+class RecordFile;
 struct Script;
 
 /// A phonelet run as the command line asks. Each way to run it is an operation that answers the exit code of the
@@ -35,6 +37,7 @@ private:
     int runControl();
     int drive(Phone& phone, const Driver& driver);
     void end(Phone& phone, int code) const;
+    std::unique_ptr<RecordFile> recordFile() const;
     std::vector<std::string> stepNames() const;
 
     Options mOptions;

@@ -51,6 +51,9 @@ public:
     /// The clock in milliseconds; it never goes back.
     std::uint64_t now() const;
 
+    /// True while some timer is started.
+    bool hasTimers() const { return !mTimers.empty(); }
+
     /// When the next timer is due, in milliseconds from now; -1 if none is started.
     std::int64_t timeToNextTimer() const;
 
