@@ -109,7 +109,7 @@ private:
     void destroy();
 
     const char* mType = "Selectionfield"; // type and id have no reader
-    unsigned int mId = itemCount++;
+    [[maybe_unused]] unsigned int mId = itemCount++;
     std::unique_ptr<SelectionFieldPrivateIfc> mPrivate;
 };
 
