@@ -84,6 +84,16 @@ private:
     int mHeight;
 };
 
+png_image headerOf(const Picture& picture)
+{
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(picture.width);
+    image.height = static_cast<png_uint_32>(picture.height);
+    image.format = PNG_FORMAT_RGB;
+    return image;
+}
+
 }
 
 Picture drawPicture(const UScreenWE1& screen, int scale)
@@ -91,13 +101,25 @@ Picture drawPicture(const UScreenWE1& screen, int scale)
     return Drawing(screen, std::max(scale, 1)).picture();
 }
 
+std::string encodePicture(const Picture& picture)
+{
+    png_image image = headerOf(picture);
+    png_alloc_size_t size = 0;
+    std::string bytes;
+    bool isDone = png_image_write_to_memory(&image, nullptr, &size, 0, picture.bytes.data(), 0, nullptr) != 0;
+    if (isDone) {
+        bytes.resize(size);
+        isDone = png_image_write_to_memory(&image, bytes.data(), &size, 0, picture.bytes.data(), 0, nullptr) != 0;
+    }
+    if (!isDone)
+        throw std::runtime_error(std::string("cannot make a picture: ") + image.message);
+    bytes.resize(size);
+    return bytes;
+}
+
 void writePicture(const Picture& picture, const std::string& file)
 {
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(picture.width);
-    image.height = static_cast<png_uint_32>(picture.height);
-    image.format = PNG_FORMAT_RGB;
+    png_image image = headerOf(picture);
     if (png_image_write_to_file(&image, file.c_str(), 0, picture.bytes.data(), 0, nullptr) == 0)
         throw std::runtime_error("cannot write the picture " + file + ": " + image.message);
 }

@@ -18,6 +18,9 @@ struct Picture {
 /// Draws the screen with `scale` pixels for each of its own.
 Picture drawPicture(const UScreenWE1& screen, int scale);
 
+/// The picture as the bytes of a PNG file. Throws std::runtime_error when that fails.
+std::string encodePicture(const Picture& picture);
+
 /// Writes the picture as a PNG file. Throws std::runtime_error with the file's name when that fails.
 void writePicture(const Picture& picture, const std::string& file);
 
