@@ -20,6 +20,7 @@ struct Wishes {
     Options options;
     bool tour = false;
     bool hasControl = false;
+    bool hasServe = false;
     double patienceInSeconds = 5;
     std::string model = "plain";
     std::string software = "other";
@@ -47,9 +48,14 @@ void addModes(CLI::App& app, Wishes& wishes)
     CLI::Option* record = app.add_option("--record", wishes.options.record,
         "Write what is done to the telephone as a script, or as a pytest if FILE ends with .py");
     record->type_name("FILE")->excludes(script)->excludes(tour)->excludes(text)->excludes(shot);
-    script->excludes(tour)->excludes(text)->excludes(shot)->excludes(control);
-    tour->excludes(text)->excludes(shot)->excludes(control);
-    control->excludes(text)->excludes(shot);
+    CLI::Option* serve = app.add_option("--serve", wishes.options.port,
+        "Show the telephone as a page of a browser on this machine, at a port; 0 takes a free one");
+    serve->type_name("[PORT]")->expected(0, 1)->default_str("8080")->check(CLI::Range(0, 65535));
+    script->excludes(tour)->excludes(text)->excludes(shot)->excludes(control)->excludes(serve);
+    tour->excludes(text)->excludes(shot)->excludes(control)->excludes(serve);
+    control->excludes(text)->excludes(shot)->excludes(serve);
+    serve->excludes(text)->excludes(shot);
+    record->excludes(serve);
 }
 
 void addSettings(CLI::App& app, Wishes& wishes)
@@ -85,6 +91,8 @@ Options::Mode modeOf(const Wishes& wishes)
         return Options::Mode::Script;
     if (wishes.hasControl)
         return Options::Mode::Control;
+    if (wishes.hasServe)
+        return Options::Mode::Serve;
     if (wishes.tour)
         return Options::Mode::Tour;
     return wishes.options.text || !wishes.options.shot.empty() ? Options::Mode::Once : Options::Mode::Terminal;
@@ -112,6 +120,7 @@ Options parseOptions(int argc, const char* const* argv, const std::string& versi
     try {
         app.parse(argc, argv);
         wishes.hasControl = app.count("--control") > 0;
+        wishes.hasServe = app.count("--serve") > 0;
     } catch (const CLI::CallForHelp&) {
         wishes.options.help = app.help();
     } catch (const CLI::CallForVersion&) {

@@ -12,6 +12,7 @@ struct Options {
     enum class Mode {
         Terminal, ///< The telephone is worked by the keys of the terminal.
         Script,
+        Serve,   ///< A browser shows and works the telephone.
         Control, ///< Programs work the telephone by the control channel.
         Tour,
         Once, ///< The first screen is written as text, picture, or both.
@@ -26,6 +27,7 @@ struct Options {
     std::string script;
     std::string control; ///< The path of the socket; empty for standard input and output.
     std::string record;  ///< The file to which the session is written; empty for none.
+    int port = 0; ///< Of the page; 0 for any that is free.
     bool text = false;
     std::string shot; ///< The file of the picture; empty for none.
     int scale = 4;

@@ -10,6 +10,7 @@
 #include "SignalWatch.h"
 #include "TerminalView.h"
 #include "UsageError.h"
+#include "WebServer.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -70,6 +71,7 @@ int Simulation::run()
         return runTour();
     case Options::Mode::Script: return runScript(readScript(mOptions.script, stepNames()));
     case Options::Mode::Control: return runControl();
+    case Options::Mode::Serve: return runServe();
     case Options::Mode::Once: return runOnce();
     case Options::Mode::Tour: return runTour();
     }
@@ -214,6 +216,15 @@ int Simulation::runControl()
         return Failure;
     }
     return code;
+}
+
+int Simulation::runServe()
+{
+    SignalWatch signals(SignalWatch::Of::Program);
+    Phone phone(settings(Phone::ClockKind::Real));
+    WebServer server(phone, signals, {mOptions.port, {mOptions.patience, mOptions.scale, mOptions.programAndVersion}});
+    std::cout << mOptions.program << ": the telephone is at " << server.address() << "; Ctrl-C ends it" << std::endl;
+    return drive(phone, [&server](Phone&) { return codeOf(server.run()); });
 }
 
 }

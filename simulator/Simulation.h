@@ -35,6 +35,7 @@ private:
     int runTour();
     int runOnce();
     int runControl();
+    int runServe();
     int drive(Phone& phone, const Driver& driver);
     void end(Phone& phone, int code) const;
     std::unique_ptr<RecordFile> recordFile() const;
