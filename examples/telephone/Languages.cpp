@@ -66,9 +66,16 @@ bool Languages::speak(const std::string& code)
 std::string Languages::translate(std::string key)
 {
     std::lock_guard lock(mMutex);
-    if (mCurrent == "pseudo")
-        return lengthened(key);
-    const auto catalog = mCatalogs.find(mCurrent);
+    if (mCurrent != "pseudo")
+        return lookUp(mCurrent, key);
+    // What the keys write is no text that anybody reads.
+    const std::string english = lookUp("en", key);
+    return key.starts_with("Keypad.") ? english : lengthened(english);
+}
+
+std::string Languages::lookUp(const std::string& code, const std::string& key) const
+{
+    const auto catalog = mCatalogs.find(code);
     if (catalog == mCatalogs.end())
         return key;
     const auto found = catalog->second.find(key);

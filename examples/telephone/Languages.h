@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/// The languages of the telephone. The keys are the English texts; the others come from the catalogs in `po`.
+/// The languages of the telephone. The keys are the English texts, and the names that the library gives
+/// to its own; what they say comes from the catalogs in `po`.
 ///
 /// Threads: any. The library asks on the GUI thread and, for the texts of commands, wherever they are read.
 class Languages final : public TranslatorIfc {
@@ -38,6 +39,8 @@ public:
 
 private:
     using Catalog = std::map<std::string, std::string, std::less<>>;
+
+    std::string lookUp(const std::string& code, const std::string& key) const;
 
     std::map<std::string, Catalog> mCatalogs;
     mutable std::mutex mMutex;

@@ -11,8 +11,9 @@ Telephone::Telephone(Display& display)
           display, mLanguages, [this](const auto& number) { mCalls.dial(number); }, [this] { showIdle(); })
     , mDirectory(
           display, mLanguages, [this](const auto& number) { mCalls.dial(number); }, [this] { showIdle(); })
-    , mSettings(
-          display, mLanguages, [this](const auto& code) { speak(code); }, [this] { showIdle(); })
+    , mForwarding(
+          display, mLanguages, [this](const auto& number) { forward(number); }, [this] { mSettings.open(); })
+    , mSettings(display, mLanguages, answers())
     , mToCalls(mLanguages.text("Calls", "?"), 1)
     , mToLog(mLanguages.text("Call log", "?"), 2)
     , mToDirectory(mLanguages.text("Directory", "?"), 3)
@@ -51,6 +52,22 @@ void Telephone::speak(const std::string& code)
     const std::string chosen = code.empty() ? mLanguages.next() : code;
     if (mLanguages.speak(chosen))
         mDisplay.localeChanged(chosen);
+}
+
+Settings::Answers Telephone::answers()
+{
+    return {
+        [this](const auto& code) { speak(code); },
+        [this](const auto& name) { mIdle.setBrandingText(name); },
+        [this] { mForwarding.open(); },
+        [this] { showIdle(); },
+    };
+}
+
+void Telephone::forward(const std::string& number)
+{
+    mIdle.setForwardingAddress(number);
+    mIdle.setForwardingIconVisible(!number.empty());
 }
 
 void Telephone::showIdle()

@@ -4,6 +4,7 @@
 #include "CallScreens.h"
 #include "Directory.h"
 #include "Exchange.h"
+#include "Forwarding.h"
 #include "Languages.h"
 #include "Settings.h"
 
@@ -37,6 +38,8 @@ public:
     void commandAction(DisplayAPI::Command* command, DisplayAPI::Displayable* displayable) override;
 
 private:
+    Settings::Answers answers();
+    void forward(const std::string& number);
     void showIdle();
     void logCall(const CallScreens::EndedCall& ended);
     void greet();
@@ -48,6 +51,7 @@ private:
     CallScreens mCalls;
     CallLog mLog;
     Directory mDirectory;
+    Forwarding mForwarding;
     Settings mSettings;
     DisplayAPI::MenuCommand mToCalls;
     DisplayAPI::MenuCommand mToLog;
