@@ -4,25 +4,12 @@
 #include <DisplayAPI/ListItemPrivateIfc.h>
 #include <DisplayAPI/QVTList.h>
 
-#include <VantoListBoxWithTitleMEG.h>
+#include <functional>
+#include <tuple>
 
 using namespace DisplayAPI;
 
 namespace {
-
-VantoListBoxMEG& boxOf(QVTList& list)
-{
-    return *dynamic_cast<VantoListBoxWithTitleMEG&>(*list.getPrivateImpl()->getWidget()).list();
-}
-
-/// The rows on the glass.
-std::string glassRows(QVTList& list)
-{
-    std::string all;
-    for (int i = 0; i < boxOf(list).count(); ++i)
-        all += boxOf(list).item(i)->getText().toUTF8();
-    return all;
-}
 
 class QVTListTest : public ListFixture { };
 
@@ -63,41 +50,40 @@ INSTANTIATE_TEST_SUITE_P(QVTList, EveryScreenTest,
 TEST_F(QVTListTest, TheBarShowsWhatTheApplicationHasSelected)
 {
     QVTList list;
-    fill(list, "AB");
+    const std::tuple<const char*, std::function<void()>, bool> steps[] = {
+        {"append", [&] { fill(list, "AB"); }, false},
+        {"setSelectedIndex", [&] { list.setSelectedIndex(0); }, true},
+        {"insertAt", [&] { list.insertAt(new CountedItem("X"), 0); }, true},
+        {"append again", [&] { fill(list, "C"); }, false},
+        {"setSelected", [&] { list.setSelected(list.getItems()[0]); }, true},
+    };
     show(list);
-    const auto isBarShown = [&] { return boxOf(list).isHighlightBarShown(); };
-    EXPECT_FALSE(isBarShown());
-    list.setSelectedIndex(0);
-    EXPECT_TRUE(isBarShown());
-    list.insertAt(new CountedItem("X"), 0);
-    EXPECT_TRUE(isBarShown());
-    list.append(new CountedItem("Y"));
-    EXPECT_FALSE(isBarShown());
-    list.setSelected(list.getItems()[0]);
-    EXPECT_TRUE(isBarShown());
+    for (const auto& [name, step, isShown] : steps) {
+        step();
+        EXPECT_EQ(box(list).isHighlightBarShown(), isShown) << name;
+    }
     EXPECT_EQ(screenText(), "");
     EXPECT_EQ(display->serialise(), lines({"object:", "name:Not Implemented", "end:"}));
 }
 
-TEST_F(QVTListTest, TheFlagTellsOfTheUsersMoves)
+TEST_F(QVTListTest, TheFlagTellsOfTheUsersMovesOnce)
 {
     QVTList list;
     fill(list, "ABC");
-    EXPECT_FALSE(list.selectionHasChanged());
-    show(list);
-    EXPECT_TRUE(list.selectionHasChanged()) << "as it is shown";
-    EXPECT_FALSE(list.selectionHasChanged()) << "asked twice";
-    show(list);
-    press(UGlobal::KeyDown);
-    EXPECT_FALSE(list.selectionHasChanged()) << "no row is known to have been left";
-    press(UGlobal::KeyDown);
-    EXPECT_TRUE(list.selectionHasChanged());
-    delete list.removeAt(2);
-    press(UGlobal::KeyDown);
-    EXPECT_TRUE(list.selectionHasChanged()) << "from a row that has gone";
-    show(list);
-    display->setCurrent(nullptr);
-    EXPECT_FALSE(list.selectionHasChanged()) << "off the glass";
+    const std::tuple<const char*, std::function<void()>, bool> steps[] = {
+        {"made", [] {}, false},
+        {"shown", [&] { show(list); }, true},
+        {"asked again", [] {}, false},
+        {"from no known row", [&] { press(UGlobal::KeyDown); }, false},
+        {"from row to row", [&] { press(UGlobal::KeyDown); }, true},
+        {"its row has gone", [&] { delete list.removeAt(2); }, false},
+        {"from a row that has gone", [&] { press(UGlobal::KeyDown); }, true},
+        {"off the glass", [&] { display->setCurrent(nullptr); }, false},
+    };
+    for (const auto& [name, step, hasChanged] : steps) {
+        step();
+        EXPECT_EQ(list.selectionHasChanged(), hasChanged) << name;
+    }
 }
 
 TEST_F(QVTListTest, HandlesAndGlassGoTheirOwnWaysWhereTheGlassDoesNotFollow)
@@ -105,25 +91,20 @@ TEST_F(QVTListTest, HandlesAndGlassGoTheirOwnWaysWhereTheGlassDoesNotFollow)
     QVTList list;
     fill(list, "AB");
     show(list);
+    const std::vector<ListItem*> first = list.getItems();
     auto* x = new CountedItem("X");
-    list.insertAt(x, -1);
-    EXPECT_EQ(rows(list), "[X]AB");
-    EXPECT_EQ(glassRows(list), "AB");
-    ListItem* a = list.getItems()[1];
-    EXPECT_EQ(list.removeAt(0), x);
-    EXPECT_EQ(glassRows(list), "B") << "the row at the index";
-    delete x;
-    delete a; // with its row, which it has back
-    EXPECT_EQ(rows(list), "[B]");
-
-    ListItem* b = list.getItems()[0];
     auto* y = new CountedItem("Y");
-    list.move(b, y, 0);
-    EXPECT_EQ(rows(list), "[Y]");
-    EXPECT_EQ(glassRows(list), "B");
-    delete b;
-    EXPECT_EQ(glassRows(list), "B") << "the row has lost its handle";
+    list.insertAt(x, -1);
+    EXPECT_EQ(rows(list) + toolkitRows(list), "[X]AB[A]B");
+    EXPECT_EQ(list.removeAt(0), x);
+    EXPECT_EQ(rows(list) + toolkitRows(list), "[A]B[B]") << "the row of A, which has it back";
+    delete first[0];
+    EXPECT_EQ(rows(list) + toolkitRows(list), "[B][B]");
+    list.move(first[1], y, 0);
+    delete first[1];
+    EXPECT_EQ(rows(list) + toolkitRows(list), "[Y][B]") << "a row without its handle";
     EXPECT_EQ(list.removeAt(0), y);
-    EXPECT_EQ(glassRows(list), "");
+    EXPECT_EQ(rows(list) + toolkitRows(list), "");
+    delete x;
     delete y;
 }

@@ -10,6 +10,7 @@
 
 #include <VantoListBoxItemMEG.h>
 #include <VantoListBoxMEG.h>
+#include <VantoListBoxWithTitleMEG.h>
 
 #include <string>
 
@@ -33,7 +34,7 @@ inline DisplayAPI::ListBoxPrivate& half(DisplayAPI::List& list)
 
 inline VantoListBoxMEG& box(DisplayAPI::List& list)
 {
-    return *half(list).getListWidget()->list();
+    return *dynamic_cast<VantoListBoxWithTitleMEG&>(*list.getPrivateImpl()->getWidget()).list();
 }
 
 /// The handles' texts in order, and the current one in brackets.
