@@ -40,12 +40,6 @@ namespace {
 constexpr const char* LogModule = "DisplayAPI::TabScreen";
 constexpr int FaultLevel = 2;
 
-/// The commands are told apart by address, and workers may still hold them when the process ends.
-Command* lastingCommand(Command::Type type)
-{
-    return new Command(std::string(), type);
-}
-
 }
 
 // A step changes the screens that the handle owns first and its half last, which gives the notice: the subscriber may
@@ -275,25 +269,25 @@ void TabScreen::addCommandListener(CommandListener* listener)
 
 Command* TabScreen::BACK_COMMAND()
 {
-    static Command* command = lastingCommand(Command::Back);
+    static auto* command = new Command("", Command::Back);
     return command;
 }
 
 Command* TabScreen::OK()
 {
-    static Command* command = lastingCommand(Command::Select);
+    static auto* command = new Command("", Command::Select);
     return command;
 }
 
 Command* TabScreen::TABBACK_COMMAND()
 {
-    static Command* command = lastingCommand(Command::TabBack);
+    static auto* command = new Command("", Command::TabBack);
     return command;
 }
 
 Command* TabScreen::TABFWD_COMMAND()
 {
-    static Command* command = lastingCommand(Command::TabForward);
+    static auto* command = new Command("", Command::TabForward);
     return command;
 }
 
