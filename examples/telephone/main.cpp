@@ -2,6 +2,7 @@
 // language, and `language CODE` a certain one.
 
 #include "Telephone.h"
+#include "Tour.h"
 
 #include <PhoneSimulator/PhoneSimulator.h>
 
@@ -29,6 +30,7 @@ void language(const std::string& code)
 int main(int argc, char** argv)
 {
     return PhoneSimulator(argc, argv)
+        .setTour(Tour)
         .onStep("incoming", incoming, 1)
         .onStep("language", language, 2)
         .run([](DisplayAPI::Display& display) {

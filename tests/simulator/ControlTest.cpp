@@ -1,4 +1,4 @@
-// The language of the control channel, and the socket over which the program `phone` speaks it.
+// The language of the control channel, and the socket over which a phonelet speaks it.
 
 #include "ControlCommands.h"
 #include "Descriptor.h"
@@ -206,7 +206,7 @@ protected:
         mChild = fork();
         if (mChild == 0) {
             dup2(pipe[0], STDIN_FILENO);
-            execl(PROJECT_BINARY_DIR "/bin/phone", "phone", "--control", mPath.c_str(), "--timeout", "1",
+            execl(PROJECT_BINARY_DIR "/bin/example-audio", "example-audio", "--control", mPath.c_str(), "--timeout", "1",
                 static_cast<char*>(nullptr));
             _exit(127);
         }

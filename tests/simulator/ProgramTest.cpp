@@ -1,4 +1,4 @@
-// The program `phone` as its users start it: options, exit codes, and what it writes where.
+// A phonelet as its users start it: options, exit codes, and what it writes where.
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ protected:
 
     Result run(const std::string& arguments) const
     {
-        const std::string command = "cd '" + mFolder.string() + "' && '" PROJECT_BINARY_DIR "/bin/phone' " + arguments
+        const std::string command = "cd '" + mFolder.string() + "' && '" PROJECT_BINARY_DIR "/bin/example-audio' " + arguments
             + " >output 2>errors </dev/null";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, content("output"), content("errors")};
@@ -117,7 +117,7 @@ TEST_F(ProgramTest, WhatCannotBeUsedGivesOneLineAndExitCodeTwo)
         const Result result = run(arguments);
         EXPECT_EQ(result.code, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;
-        EXPECT_EQ(result.errors.find("phone: "), 0U) << arguments << ": " << result.errors;
+        EXPECT_EQ(result.errors.find("example-audio: "), 0U) << arguments << ": " << result.errors;
         EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << arguments << ": " << result.errors;
     }
 }
@@ -128,7 +128,7 @@ TEST_F(ProgramTest, NothingOfAScriptReachesTheTerminalAsControl)
     const Result result = run("--script test.script --timeout 0");
     EXPECT_EQ(result.errors.find("test.script:1: expect ?[2J?? caf\xc3\xa9: expected "), 0U) << result.errors;
     writeScript("\x1b]0;title\x07\n");
-    EXPECT_EQ(run("--script test.script").errors.find("phone: test.script:1: no step is called \"?]0;title?\""), 0U);
+    EXPECT_EQ(run("--script test.script").errors.find("example-audio: test.script:1: no step is called \"?]0;title?\""), 0U);
 }
 
 TEST_F(ProgramTest, HelpAndVersionAreAnswersAndNoErrors)
@@ -139,7 +139,7 @@ TEST_F(ProgramTest, HelpAndVersionAreAnswersAndNoErrors)
         EXPECT_NE(help.output.find(word), std::string::npos) << word;
     const Result version = run("--version");
     EXPECT_EQ(version.code, 0);
-    EXPECT_EQ(version.output, "phone (on DisplayAPI 0.1.0)\n");
+    EXPECT_EQ(version.output, "example-audio (on DisplayAPI 0.1.0)\n");
 }
 
 }

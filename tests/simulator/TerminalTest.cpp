@@ -1,4 +1,4 @@
-// The program `phone` in a terminal of its own: what it draws, its keys, and the terminal that it leaves behind.
+// A phonelet in a terminal of its own: what it draws, its keys, and the terminal that it leaves behind.
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ protected:
             login_tty(mSlave);
             setenv("TERM", kind, 1);
             setenv("LC_ALL", "C", 1);
-            execl("/bin/sh", "sh", "-mc", shellCommand, PROJECT_BINARY_DIR "/bin/phone", static_cast<char*>(nullptr));
+            execl("/bin/sh", "sh", "-mc", shellCommand, PROJECT_BINARY_DIR "/bin/example-audio", static_cast<char*>(nullptr));
             _exit(127);
         }
     }
@@ -175,8 +175,8 @@ TEST_F(TerminalTest, ControlZGivesTheTerminalToTheShellUntilItGoesOn)
 TEST_F(TerminalTest, ATerminalThatCannotBeUsedIsRefused)
 {
     for (const auto& [kind, reason] :
-        {std::pair("nonexistent", "phone: no description of the terminal \"nonexistent\""),
-            std::pair("dumb", "phone: the terminal \"dumb\" can't show a full screen")}) {
+        {std::pair("nonexistent", "example-audio: no description of the terminal \"nonexistent\""),
+            std::pair("dumb", "example-audio: the terminal \"dumb\" can't show a full screen")}) {
         start(90, 24, kind);
         while (readMore(30000) && mSent.find('\n') == std::string::npos) { }
         EXPECT_NE(mSent.find(reason), std::string::npos) << mSent;
