@@ -2,6 +2,7 @@
 #include <DisplayAPI/Form.h>
 #include <DisplayAPI/FormPrivateIfc.h>
 #include <DisplayAPI/ItemPrivateIfc.h>
+#include <DisplayAPI/SelectionField.h>
 
 #include "FormItems.h"
 #include "FormPrivate.h"
@@ -89,6 +90,11 @@ void Form::insertItem(Item* item, int index)
 {
     if (auto* half = Road::wait(this, mPrivate, Request::InsertItem, item, index))
         add(item, index, [half, index](ItemPrivateIfc* itemHalf) { half->insertItem(itemHalf, index); });
+}
+
+void Form::setFormOptions(SelectionField* field)
+{
+    append(field);
 }
 
 template <typename Show>

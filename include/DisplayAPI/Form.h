@@ -18,6 +18,7 @@ class CommandListener;
 class FormItems;
 class FormPrivateIfc;
 class Item;
+class SelectionField;
 
 /// A screen of rows that the user fills in: texts, choices and sliders, and below them a row for each command.
 ///
@@ -63,6 +64,9 @@ public:
     /// Adds an item at a place from 0, counting all rows, so that it may come to stand among the commands. Below 0, and
     /// past the end, means the end.
     void insertItem(Item* item, int index);
+
+    /// The same as append().
+    void setFormOptions(SelectionField* field);
 
     /// Takes the item at an index out, with all its rows, and gives it to the caller. Null outside the form, and if the
     /// subscriber has handed the item on, or has deleted it or the form, while he was told.
