@@ -41,7 +41,6 @@ INSTANTIATE_TEST_SUITE_P(TextField, EveryRowTest,
             {"a translation", [](auto& field, auto& stage) { field.setString(stage.translation("anna")); }},
             {"setLabel", [](auto& field, auto&) { field.setLabel("First name"); }},
             {"its translation", [](auto& field, auto& stage) { field.setLabel(stage.translation("first")); }},
-            {"setIcon", [](auto& field, auto&) { field.setIcon(TextField::IconImage(3)); }},
             {"a password", [](auto& field, auto&) { field.setFieldType(TextField::Password); }},
             {"setMaxFieldLength", [](auto& field, auto&) { field.setMaxFieldLength(8); }},
             {"setInformAppOnOk", [](auto& field, auto& stage) { field.setInformAppOnOk(&stage.yes); }},
@@ -143,5 +142,4 @@ TEST_F(TextFieldTest, AFieldBecomesAPasswordInTheMiddleOfItsForm)
     field->setFieldType(TextField::AnyText);
     field->setString("none");
     EXPECT_EQ(screenField("string1"), " none ");
-    EXPECT_EQ(glassLine(1).substr(0, 5), "none ");
 }
