@@ -14,9 +14,10 @@ namespace {
 
 class SliderItemTest : public PhoneTest {
 protected:
-    ~SliderItemTest() override { display->setCurrent(nullptr); }
+    ~SliderItemTest() override { endLoop(); } // which waits for the listener
 
     TestTranslator translator;
+    RecordingListener listener;
     Form form{Form::Proportion0};
     SliderItem& slider = *new SliderItem(new TranslationInfo("<", "Volume", ">", &translator)); // the form's
 };
@@ -62,7 +63,6 @@ TEST_F(SliderItemTest, OfEachNumberTheLow16BitsAreTaken)
 
 TEST_F(SliderItemTest, TheKeysMoveTheValueBetweenTheLimits)
 {
-    RecordingListener listener;
     form.addItemStateListener(&listener);
     form.append(&slider);
     slider.setMaxValue("10");
