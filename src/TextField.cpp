@@ -50,7 +50,9 @@ void TextField::create(TranslationInfo* label, IconImage icon, TranslationInfo* 
 
 void TextField::destroy()
 {
-    Numbered<TextField>::leave();
+    // On the GUI thread alone: a popup that has found the field alive goes on with it until its step ends.
+    if (isGuiThread())
+        Numbered<TextField>::leave();
     Road::end(this, mPrivate, Request::Destroy);
 }
 
