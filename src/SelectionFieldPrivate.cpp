@@ -102,12 +102,16 @@ MenuCommand* SelectionFieldPrivate::getSelectionCommand()
     return static_cast<MenuCommand*>(selection().get());
 }
 
-/// The row knows the address alone.
+/// The row knows address and index alone.
 Living<Command> SelectionFieldPrivate::selection() const
 {
     const auto* address = mRow ? reinterpret_cast<const Command*>(mRow->getSelectionCommand()) : nullptr;
     if (mSelected && mSelected.isAt(address))
         return mSelected;
+    // It may have died, and another choice have its address.
+    const std::size_t index = mRow ? mRow->getSelectionIndex() : FormItemMEG::NoSelection;
+    if (index < mChoices.size() && mChoices[index].isAt(address))
+        return mChoices[index];
     const auto found = std::find_if(mChoices.begin(), mChoices.end(),
         [address](const Living<Command>& choice) { return choice && choice.isAt(address); });
     return found == mChoices.end() ? Living<Command>() : *found;

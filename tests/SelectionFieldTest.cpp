@@ -157,6 +157,7 @@ TEST_F(SelectionFieldTest, ACommandThatDiedIsNotTakenForAnotherAtItsAddress)
     display->localeChanged("fr");
     EXPECT_EQ(screenField("string1"), " Gone ");
     field.appendSelection(other);
+    EXPECT_EQ(field.getSelectionCommand(), nullptr) << "a choice that nobody took";
     field.setSelectionCommand(other);
     EXPECT_EQ(tell(field), "1fr Gone?0");
     std::destroy_at(other);
