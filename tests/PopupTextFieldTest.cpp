@@ -142,6 +142,7 @@ TEST_F(PopupTextFieldTest, WhatTheUserDoesIsToldInOrder)
     popup.addCommandListener(&listener);
     popup.addItemStateListener(&listener);
     popup.removeItemStateListener(&listener);
+    popup.getPrivateImpl()->clearCommandListeners();
     popup.addCommand(&ok);
     popup.setDefaultCommand(&cancel);
     show(popup);
