@@ -1,3 +1,4 @@
+#include "Deliveries.h"
 #include "EveryScreen.h"
 #include "PhoneTest.h"
 #include "RecordingListener.h"
@@ -41,6 +42,7 @@ protected:
     /// The texts of the input are the process's: with the keys themselves the toolkit takes its own again.
     ~FormTest() override
     {
+        endDeliveries();
         TestTranslator own;
         form.setSpellerLanguage(&own);
     }

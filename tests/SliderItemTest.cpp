@@ -1,3 +1,4 @@
+#include "Deliveries.h"
 #include "EveryScreen.h"
 #include "FormHolder.h"
 #include "PhoneTest.h"
@@ -88,6 +89,7 @@ TEST_F(SliderItemTest, TheKeysMoveTheValueBetweenTheLimits)
     press(UGlobal::KeyOk);
     EXPECT_EQ(tell(slider), "0|0|10|read-only|");
     EXPECT_EQ(screenField("string0"), "[<Volume>");
+    endDeliveries();
 }
 
 TEST_F(SliderItemTest, TheLabelFollowsTheLocaleWithoutAFormToo)

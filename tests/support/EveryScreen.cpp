@@ -1,5 +1,6 @@
 #include "EveryScreen.h"
 
+#include "Deliveries.h"
 #include "ThreadedPhoneTest.h"
 
 #include <UApplication.h>
@@ -15,6 +16,7 @@ using namespace DisplayAPI;
 
 Stage::~Stage()
 {
+    endDeliveries();
     for (ListItem* row : ListItem::all()) {
         if (!row->holder())
             delete row;
