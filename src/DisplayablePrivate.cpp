@@ -3,6 +3,7 @@
 
 #include "DisplayPrivate.h"
 #include "ExistingDisplayables.h"
+#include "KeptHalves.h"
 #include "ScreenHolder.h"
 
 #include <utility>
@@ -69,7 +70,8 @@ void DisplayablePrivate::join(DisplayablePrivate* other)
 
 void DisplayablePrivate::generateDisplayChangedEvent()
 {
-    if (DisplayPrivateIfc* living = display())
+    DisplayPrivateIfc* living = display();
+    if (living && !areKeptHalvesGoing())
         living->displayChanged();
 }
 

@@ -1,10 +1,12 @@
 #include "Road.h"
 
 #include "ExistingDisplayables.h"
+#include "KeptHalves.h"
 
 #include <TranslationInfo.h>
 
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace DisplayAPI {
@@ -16,6 +18,8 @@ struct Kept {
     std::vector<void*> objects;
     std::vector<std::shared_ptr<void>> halves;
 };
+
+thread_local bool keptHalvesGo = false;
 
 // Never destroyed, so that what is kept stays reachable.
 Kept& kept()
@@ -42,9 +46,19 @@ void keepForGuiThread(std::shared_ptr<void> half)
 
 void deleteKeptHalves()
 {
-    std::vector<std::shared_ptr<void>> halves; // they go behind the lock
-    std::lock_guard lock(kept().mutex);
-    halves.swap(kept().halves);
+    std::vector<std::shared_ptr<void>> halves;
+    {
+        std::lock_guard lock(kept().mutex);
+        halves.swap(kept().halves);
+    }
+    const bool goAlready = std::exchange(keptHalvesGo, true);
+    halves.clear();
+    keptHalvesGo = goAlready;
+}
+
+bool areKeptHalvesGoing()
+{
+    return keptHalvesGo;
 }
 
 void RequestSlots::keepIfRefused(void* object)

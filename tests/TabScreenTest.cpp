@@ -11,6 +11,7 @@
 #include <DisplayAPI/TabScreen.h>
 
 #include <climits>
+#include <thread>
 
 using namespace DisplayAPI;
 
@@ -285,6 +286,21 @@ TEST_F(TabScreenTest, AScreenBelongsToOneTabUntilItLeaves)
     delete b;
     EXPECT_EQ(tell(*inner), "0 of 0");
     delete inner;
+}
+
+TEST_F(TabScreenTest, AScreenThatDiesBehindTheLoopLeavesWithoutANotice)
+{
+    auto mortal = std::make_unique<TabScreen>(TabScreen::IconType{}, false);
+    List* list = newList("Anna");
+    mortal->addTab("Missed", list, false);
+    show(*mortal);
+    mortal->setCurrentTabIndex(0);
+    endLoop();
+    std::thread([list] { delete list; }).join();
+    changes.onNotice = [&mortal] { mortal.reset(); };
+    EXPECT_EQ(mortal->numberOfTabs(), 0);
+    changes.onNotice = nullptr;
+    ASSERT_TRUE(mortal) << "it was deleted in the midst of its operation";
 }
 
 TEST_F(TabScreenTest, IndicesOutsideDoNothing)
