@@ -74,4 +74,5 @@ inline void Gate::open()
     } while (!mWord.compare_exchange_weak(word, next, std::memory_order_release, std::memory_order_relaxed));
     if (next >= OneSleeper)
         wakeOne(&mWord);
+    disturb(); // whom it let in may be the first to go on
 }
