@@ -290,9 +290,16 @@ TEST_F(PopupConfirmTest, NobodyIsToldOfAPopupThatHasDied)
 TEST_F(PopupConfirmTest, ACommandMayDieWhileItIsAdded)
 {
     PopupConfirm popup(true);
-    underDisturbance([&popup] {
-        auto* command = new MenuCommand("Short-lived?", 5);
-        std::thread owner([command] { delete command; });
+    TestTranslator translator;
+    underDisturbance([&] {
+        auto* command = new MenuCommand(new TranslationInfo("", "Short-lived", "?", &translator), 5);
+        std::thread owner;
+        translator.whenAsked = [&](const std::string& key) {
+            // Its owner's deletion waits from here on for the lock under which the text is read.
+            if (!owner.joinable())
+                owner = std::thread([command] { delete command; });
+            return key;
+        };
         popup.addCommand(command);
         owner.join();
     });
