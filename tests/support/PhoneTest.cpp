@@ -1,5 +1,6 @@
 #include "PhoneTest.h"
 
+#include "CommandExecutor.h"
 #include "ScreenTextParser.h"
 
 #include <Disturb.h>
@@ -14,6 +15,7 @@
 #include <string>
 #include <thread>
 
+using DisplayAPI::CommandExecutor;
 using DisplayAPI::Display;
 using DisplayAPI::Rect;
 
@@ -99,6 +101,12 @@ void PhoneTest::endLoop()
     std::thread application([this] { display->shutdown(); });
     display->exec();
     application.join();
+}
+
+void PhoneTest::TearDown()
+{
+    CommandExecutor::closeDeliveries(std::chrono::seconds(20));
+    CommandExecutor::openDeliveries();
 }
 
 void PhoneTest::pump()

@@ -39,6 +39,9 @@ protected:
     explicit PhoneTest(const PhoneSetup& setup = {});
     ~PhoneTest() override;
 
+    /// Waits for the delivery in hand: the listeners of the fixture go next.
+    void TearDown() override;
+
     /// Runs what is queued, timers that are due, and the painting.
     void pump();
 
