@@ -64,6 +64,8 @@ void addSettings(CLI::App& app, Wishes& wishes)
         ->check(CLI::Range(1, 32))
         ->capture_default_str()
         ->type_name("N");
+    app.add_flag(
+        "--report-cuts", wishes.options.reportsCuts, "At the end, list the texts that had no room on the glass");
     app.add_option("--font", wishes.options.font, "A bitmap font of 6x13 pixels")->type_name("FILE");
     app.add_option(
            "--timeout", wishes.patienceInSeconds, "How long to wait for an answer or an expected text, in seconds")

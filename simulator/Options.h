@@ -28,6 +28,7 @@ struct Options {
     std::string control; ///< The path of the socket; empty for standard input and output.
     std::string record;  ///< The file to which the session is written; empty for none.
     int port = 0; ///< Of the page; 0 for any that is free.
+    bool reportsCuts = false; ///< Of texts that have no room on the glass.
     bool text = false;
     std::string shot; ///< The file of the picture; empty for none.
     int scale = 4;

@@ -1,6 +1,7 @@
 #include "Simulation.h"
 
 #include "ControlServer.h"
+#include "CutReport.h"
 #include "Picture.h"
 #include "Printable.h"
 #include "RecordFile.h"
@@ -60,6 +61,16 @@ Simulation::Simulation(Options options, std::vector<CustomStep> steps, std::stri
 }
 
 int Simulation::run()
+{
+    if (!mOptions.reportsCuts)
+        return runMode();
+    const CutReport cuts;
+    const int code = runMode();
+    cuts.print(std::cerr);
+    return code;
+}
+
+int Simulation::runMode()
 {
     switch (mOptions.mode) {
     case Options::Mode::Help: std::cout << mOptions.help; return Success;

@@ -29,6 +29,7 @@ public:
 private:
     using Driver = std::function<int(Phone& phone)>;
 
+    int runMode();
     Phone::Settings settings(Phone::ClockKind clock) const;
     int runTerminal();
     int runScript(const Script& script);
