@@ -68,8 +68,12 @@ void Stage::takeBack(Item* item)
 
 PromiseTest::~PromiseTest()
 {
-    if (display)
-        display->setCurrent(nullptr);
+    if (!display)
+        return;
+    display->setCurrent(nullptr);
+    // Behind the loop no worker is inside the stage's listener any more.
+    if (stage.hasLoop)
+        endLoop();
 }
 
 void PromiseTest::comeTo(Moment moment)
