@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace DisplayAPI {
@@ -18,6 +19,11 @@ template <typename T>
 class OwnedHandles {
 public:
     OwnedHandles() = default;
+    ~OwnedHandles()
+    {
+        if (mHaveGone)
+            *mHaveGone = true;
+    }
     OwnedHandles(const OwnedHandles&) = delete;
     OwnedHandles& operator=(const OwnedHandles&) = delete;
 
@@ -94,20 +100,29 @@ public:
         return std::erase_if(mEntries, isDead) > 0;
     }
 
-    /// Deletes the handles from the last to the first, and those that come meanwhile.
+    /// Deletes the handles from the last to the first, and those that come meanwhile. A handle's destructor, which is
+    /// the application's own, perhaps, may delete the owner.
     void deleteAll()
     {
+        bool haveGone = false;
+        bool* const outer = std::exchange(mHaveGone, &haveGone);
         for (;;) {
             T* last = nullptr;
             {
                 std::lock_guard lock(mMutex);
                 if (mEntries.empty())
-                    return;
+                    break;
                 last = mEntries.back().get();
                 mEntries.pop_back();
             }
             delete last;
+            if (haveGone) {
+                if (outer)
+                    *outer = true;
+                return;
+            }
         }
+        mHaveGone = outer;
     }
 
 private:
@@ -125,6 +140,7 @@ private:
 
     mutable std::mutex mMutex;
     std::vector<Living<T>> mEntries;
+    bool* mHaveGone = nullptr; // of the deleteAll() that is under way, the innermost
 };
 
 }

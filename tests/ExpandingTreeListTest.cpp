@@ -196,6 +196,26 @@ TEST_F(ExpandingTreeListTest, TheTextIsOfTheRowThatHasTheHighlight)
     EXPECT_EQ(screenField("string0"), "0");
 }
 
+TEST_F(ExpandingTreeListTest, AnItemMayTakeItsListWithIt)
+{
+    struct Vengeful : CallForwardItem {
+        explicit Vengeful(std::unique_ptr<ExpandingTreeList>& list)
+            : CallForwardItem(icon(0), nullptr, false, false)
+            , mine(list)
+        {
+        }
+        ~Vengeful() override { mine.reset(); }
+
+        std::unique_ptr<ExpandingTreeList>& mine;
+    };
+    auto mortal = std::make_unique<ExpandingTreeList>(false);
+    for (int i = 0; i < 3; ++i)
+        mortal->append(new Vengeful(mortal));
+    show(*mortal);
+    mortal->clear();
+    EXPECT_FALSE(mortal);
+}
+
 TEST_F(ExpandingTreeListTest, EachKeyIsACommandAndNoneAChange)
 {
     RecordingListener listener;
