@@ -244,8 +244,11 @@ Json ControlCommands::expect(const ControlRequest& request)
     finish();
     mPhone.watch().waitFor([&](const Snapshot& shown) { return mIsCancelled || isAsWanted(shown); }, limit);
     const Snapshot shown = mPhone.watch().snapshot();
-    if (isAsWanted(shown))
+    if (isAsWanted(shown)) {
+        if (!isWhole)
+            mPhone.noteText(wanted, !isNegative);
         return Json::object();
+    }
     require(!mPhone.watch().hasEnded());
     const std::string closest = isNegative || isWhole ? "" : closestField(shown.text, wanted);
     throw ControlError("not-shown",

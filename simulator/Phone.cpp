@@ -139,6 +139,12 @@ void Phone::key(int code, UGlobal::KeyState state)
     UApplication::instance()->postKey(code, state);
 }
 
+void Phone::noteText(const std::string& text, bool isThere)
+{
+    if (PhoneObserver* observer = mObserver)
+        observer->textCame(text, isThere);
+}
+
 void Phone::tap(int code)
 {
     key(code, UGlobal::KeyPressed);

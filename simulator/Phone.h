@@ -56,6 +56,9 @@ public:
     /// Names who is told of keys, steps and the clock; null for nobody. The observer must stay while others use this.
     void setObserver(PhoneObserver* observer) { mObserver = observer; }
 
+    /// Tells the observer that somebody has waited for a text, until the screen had it, or had it no more.
+    void noteText(const std::string& text, bool isThere);
+
     /// Hands a key to the telephone. A function key that the phonelet has taken for a step calls the step when it
     /// is pressed, on the calling thread, and is no key of the telephone.
     void key(int code, UGlobal::KeyState state);

@@ -14,6 +14,9 @@ public:
     virtual void stepComes(const std::string& name, const std::string& argument) = 0;
     virtual void timeMoves(std::chrono::milliseconds time) = 0;
 
+    /// Somebody has waited for a text until the screen had it, or had it no more.
+    virtual void textCame(const std::string& text, bool isThere) = 0;
+
     /// The telephone is asked to end.
     virtual void endComes() = 0;
 

@@ -36,6 +36,10 @@ public:
     {
         mOutput << name << (argument.empty() ? "" : " ") << argument << std::endl;
     }
+    void expectLine(const std::string& line, bool isThere) override
+    {
+        mOutput << (isThere ? "expect " : "expect-not ") << line << std::endl;
+    }
     void expect(const std::string& screenText) override
     {
         mOutput << "expect-screen " << inOneLine(screenText) << std::endl;
@@ -85,6 +89,10 @@ public:
     void callStep(const std::string& name, const std::string& argument) override
     {
         call("phone.step", quoted(name) + (argument.empty() ? "" : ", " + quoted(argument)));
+    }
+    void expectLine(const std::string& line, bool isThere) override
+    {
+        call(isThere ? "expect(phone).to_show" : "expect(phone).not_to_show", quoted(line));
     }
     void expect(const std::string& screenText) override
     {

@@ -22,6 +22,9 @@ public:
     virtual void advance(std::chrono::milliseconds time) = 0;
     virtual void callStep(const std::string& name, const std::string& argument) = 0;
 
+    /// A line of the screen text that is to be there, or not to be there.
+    virtual void expectLine(const std::string& line, bool isThere) = 0;
+
     /// The whole screen text that is to be there now.
     virtual void expect(const std::string& screenText) = 0;
 };

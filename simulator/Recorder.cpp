@@ -40,6 +40,14 @@ Recorder::~Recorder()
     endComes();
 }
 
+void Recorder::textCame(const std::string& text, bool isThere)
+{
+    const std::lock_guard lock(mMutex);
+    writePress();
+    writeTime();
+    mFile.expectLine(text, isThere);
+}
+
 void Recorder::endComes()
 {
     const std::lock_guard lock(mMutex);

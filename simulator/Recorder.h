@@ -36,6 +36,7 @@ private:
     void keyComes(int code, UGlobal::KeyState state) override;
     void stepComes(const std::string& name, const std::string& argument) override;
     void timeMoves(std::chrono::milliseconds time) override;
+    void textCame(const std::string& text, bool isThere) override;
     void endComes() override;
 
     void run();
