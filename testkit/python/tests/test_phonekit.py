@@ -76,6 +76,21 @@ def test_a_killed_test_leaves_no_telephone(request, tmp_path):
         assert time.monotonic() < deadline, "the telephone is left behind"
 
 
+def test_a_recorded_session_is_a_test(pytester, request):
+    program = str(pathlib.Path(request.config.getoption("--phone")).absolute())
+    with Phone(program, ["--record", str(pytester.path / "test_recorded.py")], timeout=20) as phone:
+        expect(phone).to_show("Speaker (in use)")
+        phone.press("DOWN")
+        phone.press("OK")
+        expect(phone).to_show("Use HeadSet?")
+        phone.hold("OK")
+        phone.release("OK")
+        expect(phone).to_show("HeadSet (in use)")
+    recorded = (pytester.path / "test_recorded.py").read_text()
+    assert 'phone.hold("OK")' in recorded and "HeadSet (in use)" in recorded
+    pytester.runpytest_subprocess("-p", "no:cacheprovider").assert_outcomes(passed=1)
+
+
 def test_the_screen_text_is_objects():
     screen = Screen("object:\nname:List\ncaption: A:b \nsubitem:\nname:Row\nstring0:One\nendsubitem:\nend:\nobject:\nend:\n")
     assert [block.name for block in screen.blocks] == ["List", ""]
