@@ -4,8 +4,13 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-# One class a header, named after it.
+# One class a header, named after it, and beside them the functions that stand in no class.
 file(GLOB public RELATIVE ${HEADERS} ${HEADERS}/*.h)
+foreach(header IN LISTS public)
+    file(STRINGS ${HEADERS}/${header} functions REGEX "^DISPLAYAPI_EXPORT [^()]*[ *&][A-Za-z0-9_]+\\(.*\\);")
+    list(TRANSFORM functions REPLACE "^[^(]*[ *&]([A-Za-z0-9_]+)\\(.*$" "\\1")
+    list(APPEND public ${functions})
+endforeach()
 list(TRANSFORM public REPLACE "\\.h$" "")
 
 # Each line is an address, a letter and a name. Brackets would make one element of several lines.
