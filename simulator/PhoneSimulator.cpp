@@ -5,6 +5,8 @@
 #include "Simulation.h"
 #include "UsageError.h"
 
+#include <ULoop.h>
+
 #include <iostream>
 #include <utility>
 
@@ -37,6 +39,11 @@ PhoneSimulator& PhoneSimulator::onStep(const std::string& name, StepFunction fun
     std::erase_if(mSteps, [&name](const OwnStep& step) { return step.name == name; });
     mSteps.push_back({name, std::move(function), functionKey});
     return *this;
+}
+
+std::time_t PhoneSimulator::now()
+{
+    return ULoop::instance().wallClock();
 }
 
 int PhoneSimulator::run(const Phonelet& phonelet)

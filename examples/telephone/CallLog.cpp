@@ -3,6 +3,7 @@
 #include <DisplayAPI/CallLogMainItem.h>
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/Display.h>
+#include <PhoneSimulator/PhoneSimulator.h>
 
 #include <algorithm>
 #include <ctime>
@@ -13,7 +14,7 @@ namespace {
 
 std::string now()
 {
-    const std::time_t time = std::time(nullptr);
+    const std::time_t time = PhoneSimulator::now();
     std::tm parts{};
     localtime_r(&time, &parts);
     char text[32];

@@ -23,6 +23,17 @@ std::uint64_t realTime()
     return static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::milliseconds>(time).count());
 }
 
+/// When a stopped clock starts: the same day and hour wherever the machine stands.
+std::time_t mondayMorning()
+{
+    std::tm morning{};
+    morning.tm_year = 2024 - 1900;
+    morning.tm_mday = 1;
+    morning.tm_hour = 9;
+    morning.tm_isdst = -1;
+    return std::mktime(&morning);
+}
+
 }
 
 ULoop& ULoop::instance()
@@ -171,11 +182,26 @@ void ULoop::setManualClock(bool manual)
 {
     if (manual == mIsClockManual)
         return;
-    if (manual)
-        mManualTime = now();
-    else
+    if (manual) {
+        mManualStart = now();
+        moveTo(mManualStart);
+    } else {
         mClockOffset = mManualTime - realTime(); // may wrap; the sum in now() wraps back
+        mStoppedWallClock = 0;
+    }
     mIsClockManual = manual;
+}
+
+void ULoop::moveTo(std::uint64_t time)
+{
+    mManualTime = time;
+    mStoppedWallClock = mondayMorning() + static_cast<std::time_t>((time - mManualStart) / 1000);
+}
+
+std::time_t ULoop::wallClock() const
+{
+    const std::time_t stopped = mStoppedWallClock;
+    return stopped != 0 ? stopped : std::time(nullptr);
 }
 
 std::uint64_t ULoop::now() const
@@ -189,10 +215,10 @@ void ULoop::advance(std::uint64_t milliseconds)
         return;
     const std::uint64_t end = mManualTime + milliseconds;
     while (!mQuit && !mTimers.empty() && mTimers.begin()->first.first <= end) {
-        mManualTime = std::max(mManualTime, mTimers.begin()->first.first);
+        moveTo(std::max(mManualTime, mTimers.begin()->first.first));
         processEvents();
     }
-    mManualTime = std::max(mManualTime, end);
+    moveTo(std::max(mManualTime, end));
     processEvents();
 }
 

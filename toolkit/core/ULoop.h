@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <ctime>
 #include <map>
 #include <utility>
 
@@ -51,6 +52,10 @@ public:
     /// The clock in milliseconds; it never goes back.
     std::uint64_t now() const;
 
+    /// The time of day, in seconds since 1970. While the clock is stopped that is nine o'clock on a Monday, and what
+    /// advance() has added: so what a test shows of it is the same on every day. Threads: any.
+    std::time_t wallClock() const;
+
     /// True while some timer is started.
     bool hasTimers() const { return !mTimers.empty(); }
 
@@ -67,6 +72,7 @@ private:
     void sleep();
     void fetchQueue();
     bool hasWork() const;
+    void moveTo(std::uint64_t time);
     static UEvent* inOrderOfPosting(UEvent* newest);
     static void destroyAll(UEvent* first);
 
@@ -78,7 +84,9 @@ private:
     bool mIsExecuting = false;
     bool mIsClockManual = false;
     std::uint64_t mManualTime = 0;
-    std::uint64_t mClockOffset = 0; // what advance() has added to the real clock
+    std::uint64_t mManualStart = 0;
+    std::atomic<std::time_t> mStoppedWallClock = 0; // 0 while the clock runs
+    std::uint64_t mClockOffset = 0;                 // what advance() has added to the real clock
     std::uint64_t mTimerOrder = 0;
     std::map<TimerKey, UTimer*> mTimers;
 };

@@ -2,6 +2,7 @@
 
 #include "Icons.h"
 #include "UEvent.h"
+#include "ULoop.h"
 #include "UPainter.h"
 
 #include <ctime>
@@ -40,7 +41,7 @@ bool isMoment(const std::string& text)
 
 std::string today()
 {
-    const std::time_t now = std::time(nullptr);
+    const std::time_t now = ULoop::instance().wallClock();
     std::tm local{};
     localtime_r(&now, &local);
     char date[sizeof "YYYY-MM-DD"] = "";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -53,6 +54,10 @@ public:
     /// Errors: an empty function, a name that has blanks or that a step of every script has, a key outside 0 to 8
     /// and one key for two steps end run() with 2.
     PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
+
+    /// The time of day of the telephone, in seconds since 1970. Where scripts move the clock it starts at nine o'clock
+    /// on the same Monday each time, so that what a screen shows of it can be compared. Threads: any.
+    static std::time_t now();
 
     /// Runs the phonelet until the user or the script leaves, and gives the exit code of the program: 0, 1 after
     /// a failed step or a failed phonelet, 2 for an option, script, or font that can't be used, 128 and the number of
