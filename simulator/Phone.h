@@ -108,6 +108,11 @@ public:
 
     ScreenWatch& watch() { return mWatch; }
     const ScreenWatch& watch() const { return mWatch; }
+
+    /// What the desktop shows, the strip above the glass; its number is 0 while there is none. Its observer is called on
+    /// a thread of the desktop's.
+    ScreenWatch& desktop() { return mNoDesktop; }
+
     DeliveryLog& deliveries() { return mDeliveries; }
     const std::vector<CustomStep>& steps() const { return mSettings.steps; }
     std::chrono::milliseconds patience() const { return mSettings.patience; }
@@ -120,6 +125,7 @@ private:
     FixedFont mFont;
     Settings mSettings;
     ScreenWatch mWatch;
+    ScreenWatch mNoDesktop;
     DeliveryLog mDeliveries;
     DisplayAPI::Display* mDisplay = nullptr; // while run() lasts
     std::atomic<bool> mIsPublishPosted = false;

@@ -41,6 +41,16 @@ PhoneSimulator& PhoneSimulator::onStep(const std::string& name, StepFunction fun
     return *this;
 }
 
+PhoneSimulator& PhoneSimulator::setDesktop(std::string program)
+{
+    mDesktopProgram = std::move(program);
+    return *this;
+}
+
+void PhoneSimulator::tellDesktop(const std::string&, const std::string&)
+{
+}
+
 std::time_t PhoneSimulator::now()
 {
     return ULoop::instance().wallClock();

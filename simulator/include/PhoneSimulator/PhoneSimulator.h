@@ -55,6 +55,16 @@ public:
     /// and one key for two steps end run() with 2.
     PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
 
+    /// Gives the telephone a desktop: another program with a PhoneSimulator in it, which stands beside this one. It runs
+    /// as the application "DesktopPhonelet" in a process of its own while the phonelet runs, and ends with it; its strip
+    /// of glass is shown above that of the phonelet. A name with a slash is a path. A desktop that can't be started, or
+    /// dies, is missing, and that is said on standard error. Returns the simulator itself.
+    PhoneSimulator& setDesktop(std::string program);
+
+    /// Calls a step that the desktop has registered with onStep(), behind those that were called before. Returns at
+    /// once; without a desktop nothing happens. Threads: any, while run() runs.
+    void tellDesktop(const std::string& step, const std::string& argument = "");
+
     /// The time of day of the telephone, in seconds since 1970. Where scripts move the clock it starts at nine o'clock
     /// on the same Monday each time, so that what a screen shows of it can be compared. Threads: any.
     static std::time_t now();
@@ -71,6 +81,7 @@ private:
     std::string mVersion;
     std::string mTour;
     std::string mApplicationName;
+    std::string mDesktopProgram;
     struct OwnStep {
         std::string name;
         StepFunction function;
