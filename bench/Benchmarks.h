@@ -11,6 +11,7 @@ void registerScreenBenchmarks(const std::string& mode);
 void registerMemoryBenchmarks(const std::string& mode);
 void registerWidgetBenchmarks(const std::string& mode);
 void registerSearchBenchmarks(const std::string& mode);
+void registerTelephoneBenchmarks(const std::string& mode);
 
 /// Registers a benchmark that measures its operations itself: `measure` returns nanoseconds for each operation, of
 /// which `operations` make a round. Each round is one iteration, so that the report gets the median of the rounds.

@@ -16,6 +16,7 @@ int main(int argc, char** argv)
         registerMemoryBenchmarks(mode);
         registerWidgetBenchmarks(mode);
         registerSearchBenchmarks(mode);
+        registerTelephoneBenchmarks(mode);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
