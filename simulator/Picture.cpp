@@ -5,6 +5,10 @@
 #include <png.h>
 
 #include <algorithm>
+#include <array>
+#include <fstream>
+#include <map>
+#include <optional>
 #include <stdexcept>
 
 namespace Simulator {
@@ -13,6 +17,8 @@ namespace {
 
 struct Colour {
     std::uint8_t red, green, blue;
+
+    bool operator==(const Colour&) const = default;
 };
 
 constexpr Colour Outside{236, 238, 240};
@@ -22,6 +28,10 @@ constexpr Colour Glass{200, 212, 172};
 constexpr Colour GlassGap{207, 218, 181};
 constexpr Colour Dot{33, 42, 30};
 constexpr Colour DotGap{62, 73, 54};
+
+// Of a difference.
+constexpr Colour OfShown{208, 32, 32};
+constexpr Colour OfGolden{32, 64, 208};
 
 // All in pixels of the telephone's screen.
 constexpr int FrameWidth = 5;
@@ -84,15 +94,60 @@ private:
     int mHeight;
 };
 
-png_image headerOf(const Picture& picture)
+std::optional<Colour> colourOf(const Picture& picture, int x, int y)
 {
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(picture.width);
-    image.height = static_cast<png_uint_32>(picture.height);
-    image.format = PNG_FORMAT_RGB;
-    return image;
+    if (x >= picture.width || y >= picture.height)
+        return std::nullopt;
+    const auto* bytes = &picture.bytes[(static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width)
+                                           + static_cast<std::size_t>(x))
+        * 3];
+    return Colour{bytes[0], bytes[1], bytes[2]};
 }
+
+std::uint8_t paled(std::uint8_t part)
+{
+    return static_cast<std::uint8_t>(255 - (255 - part) / 4);
+}
+
+Colour paled(const Colour& colour)
+{
+    return {paled(colour.red), paled(colour.green), paled(colour.blue)};
+}
+
+/// A picture as libpng wants it: the number of a colour for each pixel. A picture of a glass has seven colours, so its
+/// file has half of the size that three bytes a pixel need.
+class IndexedPicture {
+public:
+    explicit IndexedPicture(const Picture& picture)
+    {
+        mImage.version = PNG_IMAGE_VERSION;
+        mImage.width = static_cast<png_uint_32>(picture.width);
+        mImage.height = static_cast<png_uint_32>(picture.height);
+        mImage.format = PNG_FORMAT_RGB_COLORMAP;
+        std::map<std::array<std::uint8_t, 3>, std::uint8_t> numbers;
+        for (std::size_t i = 0; i + 2 < picture.bytes.size(); i += 3) {
+            const std::array<std::uint8_t, 3> colour{picture.bytes[i], picture.bytes[i + 1], picture.bytes[i + 2]};
+            const auto [number, isNew] = numbers.emplace(colour, static_cast<std::uint8_t>(numbers.size()));
+            if (isNew)
+                mColours.insert(mColours.end(), colour.begin(), colour.end());
+            mPixels.push_back(number->second);
+        }
+        mImage.colormap_entries = static_cast<png_uint_32>(numbers.size());
+    }
+
+    /// Without memory `size` becomes what is needed. False with a message when it fails.
+    bool write(char* memory, png_alloc_size_t& size)
+    {
+        return png_image_write_to_memory(&mImage, memory, &size, 0, mPixels.data(), 0, mColours.data()) != 0;
+    }
+
+    std::string message() const { return mImage.message; }
+
+private:
+    png_image mImage{};
+    std::vector<std::uint8_t> mColours;
+    std::vector<std::uint8_t> mPixels;
+};
 
 }
 
@@ -101,27 +156,61 @@ Picture drawPicture(const UScreenWE1& screen, int scale)
     return Drawing(screen, std::max(scale, 1)).picture();
 }
 
+Picture drawDifference(const Picture& golden, const Picture& shown)
+{
+    const Colour none{255, 255, 255};
+    Picture result{std::max(golden.width, shown.width), std::max(golden.height, shown.height), {}};
+    for (int y = 0; y < result.height; ++y) {
+        for (int x = 0; x < result.width; ++x) {
+            const Colour was = colourOf(golden, x, y).value_or(none);
+            const Colour is = colourOf(shown, x, y).value_or(none);
+            const Colour colour = is == was ? paled(is) : is.green < was.green ? OfShown : OfGolden;
+            result.bytes.insert(result.bytes.end(), {colour.red, colour.green, colour.blue});
+        }
+    }
+    return result;
+}
+
 std::string encodePicture(const Picture& picture)
 {
-    png_image image = headerOf(picture);
+    IndexedPicture indexed(picture);
     png_alloc_size_t size = 0;
     std::string bytes;
-    bool isDone = png_image_write_to_memory(&image, nullptr, &size, 0, picture.bytes.data(), 0, nullptr) != 0;
+    bool isDone = indexed.write(nullptr, size);
     if (isDone) {
         bytes.resize(size);
-        isDone = png_image_write_to_memory(&image, bytes.data(), &size, 0, picture.bytes.data(), 0, nullptr) != 0;
+        isDone = indexed.write(bytes.data(), size);
     }
     if (!isDone)
-        throw std::runtime_error(std::string("cannot make a picture: ") + image.message);
+        throw std::runtime_error("cannot make a picture: " + indexed.message());
     bytes.resize(size);
     return bytes;
 }
 
 void writePicture(const Picture& picture, const std::string& file)
 {
-    png_image image = headerOf(picture);
-    if (png_image_write_to_file(&image, file.c_str(), 0, picture.bytes.data(), 0, nullptr) == 0)
-        throw std::runtime_error("cannot write the picture " + file + ": " + image.message);
+    std::ofstream output(file, std::ios::binary);
+    output << encodePicture(picture) << std::flush;
+    if (!output)
+        throw std::runtime_error("cannot write the picture " + file);
+}
+
+Picture readPicture(const std::string& file)
+{
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    Picture picture;
+    bool isDone = png_image_begin_read_from_file(&image, file.c_str()) != 0;
+    if (isDone) {
+        image.format = PNG_FORMAT_RGB;
+        picture.width = static_cast<int>(image.width);
+        picture.height = static_cast<int>(image.height);
+        picture.bytes.resize(PNG_IMAGE_SIZE(image));
+        isDone = png_image_finish_read(&image, nullptr, picture.bytes.data(), 0, nullptr) != 0;
+    }
+    if (!isDone)
+        throw std::runtime_error("cannot read the picture " + file + ": " + image.message);
+    return picture;
 }
 
 }
