@@ -166,8 +166,9 @@ struct CommandExecutor::State {
     std::deque<CommandDelivery> commands GUARDED_BY(semaphore); // in the order of the queue
     std::unordered_set<ItemStateDelivery, ItemStateDelivery::Hash> changes GUARDED_BY(semaphore);
     bool running GUARDED_BY(semaphore) = false;
-    bool starting GUARDED_BY(semaphore) = false; // a worker has been called and has not arrived yet
-    bool closed GUARDED_BY(semaphore) = false;   // nothing is queued
+    bool starting GUARDED_BY(semaphore) = false;   // a worker has been called and has not arrived yet
+    bool closed GUARDED_BY(semaphore) = false;     // nothing is queued
+    std::uint64_t count GUARDED_BY(semaphore) = 0; // of the deliveries that have begun
     const Delivery* inHand GUARDED_BY(semaphore) = nullptr;
     unsigned int worker GUARDED_BY(semaphore) = 0;         // the thread that is at it
     std::vector<Semaphore*> closers GUARDED_BY(semaphore); // who waits until the work is done
@@ -195,6 +196,7 @@ bool CommandExecutor::State::takeFirst(Delivery& delivery)
         return false;
     const auto [type, record] = queue.front();
     queue.pop_front();
+    ++count;
     if (type == ItemType::Command) {
         delivery = *static_cast<const CommandDelivery*>(record);
         commands.pop_front();
@@ -363,6 +365,13 @@ bool CommandExecutor::closeDeliveries(std::chrono::milliseconds patience)
     else
         done.take(-1); // it has ended meanwhile, and its worker is about to say so
     return !isLate;
+}
+
+std::optional<std::uint64_t> CommandExecutor::countAtRest()
+{
+    State& waiting = state();
+    CriticalSection section(waiting.semaphore);
+    return waiting.running || waiting.starting ? std::nullopt : std::optional(waiting.count);
 }
 
 void CommandExecutor::openDeliveries()

@@ -5,7 +5,9 @@
 #include <Semaphore.h>
 
 #include <chrono>
+#include <cstdint>
 #include <deque>
+#include <optional>
 #include <utility>
 
 namespace DisplayAPI {
@@ -44,6 +46,9 @@ public:
 
     /// Takes deliveries again, as it does when the process begins.
     static void openDeliveries();
+
+    /// How many deliveries have begun, or nothing while one is under way or waits for a worker that comes.
+    static std::optional<std::uint64_t> countAtRest();
 
     /// Empties the queue, unless another worker is at it.
     void run() override;

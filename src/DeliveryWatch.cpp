@@ -1,5 +1,6 @@
 #include <DisplayAPI/DeliveryWatch.h>
 
+#include "CommandExecutor.h"
 #include "DeliveryNotice.h"
 #include "ExistingDisplayables.h"
 
@@ -33,6 +34,11 @@ void DeliveryWatch::setObserver(Observer observer)
     CriticalSection section(watch.semaphore);
     watch.isWatched = static_cast<bool>(observer);
     watch.observer = std::move(observer);
+}
+
+std::optional<std::uint64_t> DeliveryWatch::countAtRest()
+{
+    return CommandExecutor::countAtRest();
 }
 
 void noticeDelivery(

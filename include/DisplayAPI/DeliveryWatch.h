@@ -2,7 +2,9 @@
 
 #include <DisplayAPI/Export.h>
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace DisplayAPI {
@@ -23,6 +25,10 @@ public:
     /// the listener is; changes of items are not told. When this returns, no call of the earlier observer is under way;
     /// so it must not be called by an observer.
     static void setObserver(Observer observer);
+
+    /// How many deliveries there have been, commands and changes of items; nothing while one is under way or waits. The
+    /// same number twice means that the application has been told nothing in between.
+    static std::optional<std::uint64_t> countAtRest();
 };
 
 }

@@ -8,6 +8,7 @@
 
 #include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
+#include <DisplayAPI/DeliveryWatch.h>
 #include <DisplayAPI/Displayable.h>
 #include <DisplayAPI/ItemStateListener.h>
 
@@ -256,6 +257,28 @@ TEST(CommandExecutorTest, TheEndRecallsWhatWaitsAndAwaitsWhatHasBegun)
         recorder.postCommandAction(&command, nullptr);
         recorder.postItemStateChange(itemNumber(1));
         EXPECT_EQ(recorder.told(2), (std::vector<const void*>{&command, itemNumber(1)}));
+    });
+}
+
+TEST(CommandExecutorTest, ThereIsNoRestUntilTheLastListenerHasReturned)
+{
+    Command command("", Command::Select);
+    underDisturbance([&command] {
+        RecordingListener second;
+        const auto atRest = [] {
+            while (!DeliveryWatch::countAtRest())
+                std::this_thread::yield();
+            return *DeliveryWatch::countAtRest();
+        };
+        const std::uint64_t before = atRest();
+        Blocker first;
+        first.block();
+        EXPECT_FALSE(DeliveryWatch::countAtRest());
+        second.reaction = [](Command*) { EXPECT_FALSE(DeliveryWatch::countAtRest()); };
+        second.postCommandAction(&command, nullptr);
+        first.letGo();
+        EXPECT_EQ(atRest(), before + 2);
+        EXPECT_EQ(second.count(), 1U);
     });
 }
 
