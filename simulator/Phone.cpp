@@ -235,8 +235,16 @@ std::string Phone::trouble() const
 
 void Phone::settle()
 {
-    finishPosted();
-    mWatch.waitUntilQuiet(Quiet, SettleLimit);
+    const auto deadline = ScreenWatch::Clock::now() + SettleLimit;
+    while (finishPosted() && ScreenWatch::Clock::now() < deadline) {
+        const auto told = DisplayAPI::DeliveryWatch::countAtRest();
+        mWatch.waitUntilQuiet(Quiet, SettleLimit);
+        const std::uint64_t shown = mWatch.snapshot().number;
+        // A loaded machine may have kept the GUI thread from its work for longer than the moment.
+        if (finishPosted() && mWatch.snapshot().number == shown && told
+            && told == DisplayAPI::DeliveryWatch::countAtRest())
+            return;
+    }
 }
 
 }

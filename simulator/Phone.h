@@ -102,8 +102,8 @@ public:
     /// True once the phonelet's loop has turned.
     bool hasRun() const { return mHasRun; }
 
-    /// The same, and then waits for the screen to keep still, since the phonelet's own threads may have to
-    /// answer first.
+    /// The same, and waits until the phonelet has answered every command that it was given, and what follows from that
+    /// is painted. Then the screen has to keep still for a moment, since threads of the phonelet's own may be at work.
     void settle();
 
     ScreenWatch& watch() { return mWatch; }
