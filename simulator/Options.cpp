@@ -37,6 +37,12 @@ void addModes(CLI::App& app, Wishes& wishes)
 {
     CLI::Option* script
         = app.add_option("--script", wishes.options.script, "Play a script, and end")->type_name("FILE");
+    CLI::Option* golden
+        = app.add_option("--golden", wishes.options.golden,
+                 "Compare each picture of the script, and the screen text with it, with those in a folder")
+              ->type_name("FOLDER")
+              ->needs(script);
+    app.add_flag("--update", wishes.options.updatesGoldens, "Write what is there now into that folder")->needs(golden);
     CLI::Option* tour = app.add_flag("--tour", wishes.tour, "Play the tour: print each screen, drawn and as text");
     CLI::Option* text = app.add_flag("--text", wishes.options.text, "Print the text of the first screen, and end");
     CLI::Option* shot

@@ -26,8 +26,10 @@ struct Options {
     std::string command; ///< As it was started.
     std::string script;
     std::string control; ///< The path of the socket; empty for standard input and output.
-    std::string record;  ///< The file to which the session is written; empty for none.
-    int port = 0; ///< Of the page; 0 for any that is free.
+    std::string golden;  ///< The folder with which the pictures of the script are compared; empty for none.
+    bool updatesGoldens = false;
+    std::string record;       ///< The file to which the session is written; empty for none.
+    int port = 0;             ///< Of the page; 0 for any that is free.
     bool reportsCuts = false; ///< Of texts that have no room on the glass.
     bool text = false;
     std::string shot; ///< The file of the picture; empty for none.

@@ -1,6 +1,7 @@
 #include "ScriptRunner.h"
 
 #include "BlockDrawing.h"
+#include "GoldenFolder.h"
 #include "Phone.h"
 #include "Picture.h"
 #include "Printable.h"
@@ -39,9 +40,19 @@ int ScriptRunner::run(const Script& script)
         mErrors << printable(script.name + ":" + std::to_string(step.line) + ": " + step.source + ": " + reason)
                 << std::endl;
         if (mPhone.watch().hasEnded() || mIsStuck)
-            break;
+            return failures;
     }
-    return failures;
+    return failures + reportUnusedGoldens(script);
+}
+
+int ScriptRunner::reportUnusedGoldens(const Script& script)
+{
+    if (!mSettings.goldens)
+        return 0;
+    const std::vector<std::string> unused = mSettings.goldens->unused();
+    for (const std::string& file : unused)
+        mErrors << printable(script.name + ": no step takes " + file + "; delete it") << std::endl;
+    return static_cast<int>(unused.size());
 }
 
 std::string ScriptRunner::playChecked(const Step& step)
@@ -74,11 +85,19 @@ std::string ScriptRunner::play(const Step& step)
     case Step::Kind::Advance: return reasonUnless(mPhone.advance(step.time));
     case Step::Kind::Text: mOutput << settledScreen().text << std::flush; return "";
     case Step::Kind::Show: Simulator::printScreen(settledScreen(), mOutput); return "";
-    case Step::Kind::Shot: writePicture(drawPicture(settledScreen().screen, mSettings.scale), step.text); return "";
+    case Step::Kind::Shot: return shoot(step);
     case Step::Kind::Custom: return reasonUnless(mPhone.callStep(step.name, step.text));
     case Step::Kind::Say: mOutput << step.text << std::endl; return "";
     }
     return "";
+}
+
+std::string ScriptRunner::shoot(const Step& step)
+{
+    const Snapshot shown = settledScreen();
+    const Picture picture = drawPicture(shown.screen, mSettings.scale);
+    writePicture(picture, step.text);
+    return mSettings.goldens ? mSettings.goldens->check(step.text, picture, shown.text) : "";
 }
 
 std::string ScriptRunner::expect(const Step& step)

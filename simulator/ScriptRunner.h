@@ -8,6 +8,7 @@
 
 namespace Simulator {
 
+class GoldenFolder;
 class Phone;
 struct Snapshot;
 
@@ -17,13 +18,14 @@ public:
     struct Settings {
         std::chrono::milliseconds patience{5000}; ///< How long an expected text may take.
         int scale = 4;                            ///< Of the pictures.
+        GoldenFolder* goldens = nullptr;          ///< What the pictures should be, if somebody wants to know.
     };
 
     /// What the script prints goes to `output`, a line for each failed step to `errors`.
     ScriptRunner(Phone& phone, const Settings& settings, std::ostream& output, std::ostream& errors);
 
     /// Plays every step, also after a failed one. Returns how many failed; none are played once the phonelet
-    /// has ended. Threads: not the GUI thread.
+    /// has ended. A golden that no step has asked for is a failure too. Threads: not the GUI thread.
     int run(const Script& script);
 
 private:
@@ -31,6 +33,8 @@ private:
     std::string play(const Step& step);
     std::string playChecked(const Step& step);
     std::string expect(const Step& step);
+    std::string shoot(const Step& step);
+    int reportUnusedGoldens(const Script& script);
     std::string reasonUnless(bool hasAnswered);
     Snapshot settledScreen();
 

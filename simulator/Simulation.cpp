@@ -2,6 +2,7 @@
 
 #include "ControlServer.h"
 #include "CutReport.h"
+#include "GoldenFolder.h"
 #include "Picture.h"
 #include "Printable.h"
 #include "RecordFile.h"
@@ -168,10 +169,18 @@ int Simulation::runTerminal()
 
 int Simulation::runScript(const Script& script)
 {
+    std::optional<GoldenFolder> goldens;
+    if (!mOptions.golden.empty())
+        goldens.emplace(
+            mOptions.golden, mOptions.updatesGoldens ? GoldenFolder::Mode::Update : GoldenFolder::Mode::Compare);
     Phone phone(settings(Phone::ClockKind::Manual));
     return drive(phone, [&](Phone& driven) {
-        ScriptRunner runner(driven, {mOptions.patience, mOptions.scale}, std::cout, std::cerr);
-        return runner.run(script) == 0 ? Success : Failure;
+        ScriptRunner runner(
+            driven, {mOptions.patience, mOptions.scale, goldens ? &*goldens : nullptr}, std::cout, std::cerr);
+        const int failures = runner.run(script);
+        if (goldens && goldens->hasChanged())
+            std::cerr << mOptions.program << ": --update takes over what the screens show now" << std::endl;
+        return failures == 0 ? Success : Failure;
     });
 }
 

@@ -28,8 +28,8 @@ protected:
 
     Result run(const std::string& arguments) const
     {
-        const std::string command = "cd '" + mFolder.string() + "' && '" PROJECT_BINARY_DIR "/bin/example-audio' " + arguments
-            + " >output 2>errors </dev/null";
+        const std::string command = "cd '" + mFolder.string() + "' && '" PROJECT_BINARY_DIR "/bin/example-audio' "
+            + arguments + " >output 2>errors </dev/null";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, content("output"), content("errors")};
     }
@@ -113,7 +113,7 @@ TEST_F(ProgramTest, WhatCannotBeUsedGivesOneLineAndExitCodeTwo)
     for (const char* arguments :
         {"--script test.script", "--script missing.script", "--script", "--bogus", "something", "--font /etc/passwd",
             "--font missing.pcf", "--lines 4", "--model rx99", "--software isdn", "--desktop --lines 3", "--scale big",
-            "--timeout -1", "--tour --text", "--script test.script --shot x.png"}) {
+            "--timeout -1", "--tour --text", "--script test.script --shot x.png", "--golden ."}) {
         const Result result = run(arguments);
         EXPECT_EQ(result.code, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;
@@ -122,13 +122,42 @@ TEST_F(ProgramTest, WhatCannotBeUsedGivesOneLineAndExitCodeTwo)
     }
 }
 
+TEST_F(ProgramTest, GoldensAreComparedExactlyAndChangeByUpdateAlone)
+{
+    writeScript("shot list.png\npress DOWN\nshot second.png\n");
+    const std::string play = "--script test.script --golden goldens --timeout 20";
+    EXPECT_EQ(run(play).errors, "example-audio: there is no folder goldens; --update makes it\n");
+    EXPECT_EQ(run(play + " --update").code, 0);
+    EXPECT_EQ(run(play).errors, "");
+
+    std::ofstream(mFolder / "goldens/list.txt") << "object:\nname:List\n";
+    std::filesystem::copy(mFolder / "goldens/second.png", mFolder / "goldens/third.png");
+    std::filesystem::remove(mFolder / "goldens/second.png");
+    std::filesystem::copy(
+        mFolder / "goldens/third.png", mFolder / "goldens/list.png", std::filesystem::copy_options::overwrite_existing);
+    const Result changed = run(play);
+    EXPECT_EQ(changed.code, 1);
+    EXPECT_EQ(changed.errors,
+        "test.script:1: shot list.png: goldens/list.txt differs: line 2 is \"name:List\" there and "
+        "\"name:VantoListBox\" on the screen; goldens/list.png differs, see list-difference.png\n"
+        "test.script:3: shot second.png: goldens/second.png is missing\n"
+        "test.script: no step takes goldens/third.png; delete it\n"
+        "example-audio: --update takes over what the screens show now\n");
+    EXPECT_EQ(content("list-difference.png").substr(1, 3), "PNG");
+
+    std::filesystem::remove(mFolder / "goldens/third.png");
+    EXPECT_EQ(run(play + " --update").errors, "");
+    EXPECT_EQ(run(play).errors, "");
+}
+
 TEST_F(ProgramTest, NothingOfAScriptReachesTheTerminalAsControl)
 {
     writeScript("expect \x1b[2J\x9b\x07 caf\xc3\xa9\n");
     const Result result = run("--script test.script --timeout 0");
     EXPECT_EQ(result.errors.find("test.script:1: expect ?[2J?? caf\xc3\xa9: expected "), 0U) << result.errors;
     writeScript("\x1b]0;title\x07\n");
-    EXPECT_EQ(run("--script test.script").errors.find("example-audio: test.script:1: no step is called \"?]0;title?\""), 0U);
+    EXPECT_EQ(
+        run("--script test.script").errors.find("example-audio: test.script:1: no step is called \"?]0;title?\""), 0U);
 }
 
 TEST_F(ProgramTest, HelpAndVersionAreAnswersAndNoErrors)
