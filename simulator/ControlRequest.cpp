@@ -18,6 +18,15 @@ std::string quoted(const std::string& name)
     return '"' + printable(name) + '"';
 }
 
+/// Refuses what is nested so deeply that whoever copies or writes it would run out of stack.
+bool isWithinDepth(int depth, Json::parse_event_t, Json&)
+{
+    constexpr int deepest = 100;
+    if (depth > deepest)
+        throw ControlError(BadRequest, "the line has brackets in more than " + std::to_string(deepest) + " levels");
+    return true;
+}
+
 }
 
 ControlError::ControlError(std::string code, const std::string& reason, Json details)
@@ -30,7 +39,7 @@ ControlError::ControlError(std::string code, const std::string& reason, Json det
 ControlRequest::ControlRequest(const std::string& line)
 {
     try {
-        mObject = Json::parse(line);
+        mObject = Json::parse(line, isWithinDepth);
     } catch (const Json::parse_error& error) {
         constexpr std::size_t shown = 20;
         const std::size_t place = std::min(error.byte == 0 ? 0 : error.byte - 1, line.size());
@@ -114,8 +123,12 @@ std::chrono::milliseconds ControlRequest::secondsOr(const std::string& name, std
 
 Json ControlRequest::idOf(const std::string& line)
 {
-    const Json object = Json::parse(line, nullptr, false);
-    return object.is_object() ? object.value("id", Json()) : Json();
+    try {
+        const Json object = Json::parse(line, isWithinDepth, false);
+        return object.is_object() ? object.value("id", Json()) : Json();
+    } catch (const ControlError&) {
+        return {};
+    }
 }
 
 }

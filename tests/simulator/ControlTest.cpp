@@ -127,7 +127,8 @@ TEST_F(ControlTest, WhatIsWrongIsSaidAndTheTelephoneGoesOn)
     } rows[] = {
         {"{\"do\": key}", "bad-json", "from byte 8 on"},
         {"\"unfinished", "bad-json", "ends too early"},
-        {std::string(60000, '['), "bad-json", "ends too early"},
+        {"{\"do\": \"hello\", \"id\": " + std::string(30000, '[') + std::string(30000, ']') + "}", "bad-request",
+            "levels"},
         {"\xff\x01", "bad-json", "on: ??;"},
         {"[]", "bad-request", "no object"},
         {"{}", "bad-request", "\"do\" is missing"},
