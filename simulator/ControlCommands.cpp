@@ -56,6 +56,11 @@ Json jsonOf(const std::vector<T>& entries)
     return json;
 }
 
+Json jsonOf(const Variant& variant)
+{
+    return {{"lines", variant.displayLines}, {"model", variant.model}, {"software", variant.software}};
+}
+
 Json rowsOf(const UScreenWE1& screen)
 {
     Json rows = Json::array();
@@ -134,6 +139,7 @@ Json ControlCommands::carryOut(const ControlRequest& request)
         {"tree", &ControlCommands::tree},
         {"commands", &ControlCommands::commands},
         {"quit", &ControlCommands::quit},
+        {"variant", &ControlCommands::variant},
     };
     const std::string name = request.command();
     Json answer{{"ok", true}};
@@ -151,6 +157,8 @@ Json ControlCommands::carryOut(const ControlRequest& request)
 std::string ControlCommands::names() const
 {
     std::string names = "hello, key, type, text, expect, pixels, advance, tree, commands, quit";
+    if (mSettings.onVariant)
+        names += ", variant";
     for (const CustomStep& step : mPhone.steps())
         names += ", " + step.name;
     return names;
@@ -171,12 +179,20 @@ Json ControlCommands::hello(const ControlRequest& request)
 {
     request.allow({});
     Json steps = Json::array();
-    for (const CustomStep& step : mPhone.steps())
+    Json functionKeys = Json::object();
+    for (const CustomStep& step : mPhone.steps()) {
         steps.push_back(step.name);
+        if (step.functionKey > 0)
+            functionKeys["F" + std::to_string(step.functionKey)] = step.name;
+    }
     finish();
     const UScreenWE1 screen = mPhone.watch().snapshot().screen;
-    return {
-        {"program", mSettings.program}, {"width", UScreenWE1::Width}, {"height", screen.height()}, {"steps", steps}};
+    Json answer{{"program", mSettings.program}, {"width", UScreenWE1::Width}, {"height", screen.height()},
+        {"steps", steps}, {"functionKeys", functionKeys}, {"variant", jsonOf(mSettings.variant)}};
+    if (mSettings.onVariant)
+        answer["variants"] = {{"lines", VariantChoices::displayLines()}, {"model", VariantChoices::models()},
+            {"software", VariantChoices::software()}};
+    return answer;
 }
 
 Json ControlCommands::key(const ControlRequest& request)
@@ -317,6 +333,20 @@ Json ControlCommands::quit(const ControlRequest& request)
 {
     request.allow({});
     mHasQuit = true;
+    return Json::object();
+}
+
+Json ControlCommands::variant(const ControlRequest& request)
+{
+    request.allow({"lines", "model", "software"});
+    if (!mSettings.onVariant)
+        throw ControlError("bad-request", "this telephone keeps its variant; the command line chooses it");
+    const Variant& present = mSettings.variant;
+    const Variant wanted{request.has("lines") ? request.number("lines", 0, 9) : present.displayLines,
+        request.textOr("model", present.model), request.textOr("software", present.software)};
+    checked([&wanted] { check(wanted); });
+    if (wanted != present)
+        mSettings.onVariant(wanted);
     return Json::object();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ControlRequest.h"
 #include "ScreenWatch.h"
+#include "Variant.h"
 
 #include <atomic>
 #include <chrono>
@@ -21,7 +22,10 @@ public:
     struct Settings {
         std::chrono::milliseconds patience{5000}; ///< How long an expected text may take, unless the command says.
         int scale = 4;                            ///< Of the pictures, unless the command says.
-        std::string program;                      ///< Name and version, for `hello`.
+        std::string program = {};                 ///< Name and version, for `hello`.
+        Variant variant = {};                     ///< The one that is on.
+        /// Told of the variant that is to be on instead. Null where there is no other. Threads: that of answer().
+        std::function<void(const Variant&)> onVariant = {};
     };
 
     ControlCommands(Phone& phone, Settings settings);
@@ -54,6 +58,7 @@ private:
     Json tree(const ControlRequest& request);
     Json commands(const ControlRequest& request);
     Json quit(const ControlRequest& request);
+    Json variant(const ControlRequest& request);
     Json step(const std::string& name, const ControlRequest& request);
 
     void finish();

@@ -22,8 +22,6 @@ struct Wishes {
     bool hasControl = false;
     bool hasServe = false;
     double patienceInSeconds = 5;
-    std::string model = "plain";
-    std::string software = "other";
     bool isDesktop = false;
 };
 
@@ -78,18 +76,18 @@ void addSettings(CLI::App& app, Wishes& wishes)
         ->check(CLI::Range(0.0, 3600.0))
         ->capture_default_str()
         ->type_name("S");
-    CLI::Option* lines = app.add_option("--lines", wishes.options.hardware.displayLines, "Lines of the display")
-                             ->check(CLI::Range(2, 3))
+    CLI::Option* lines = app.add_option("--lines", wishes.options.variant.displayLines, "Lines of the display")
+                             ->check(CLI::IsMember(VariantChoices::displayLines()).description(""))
                              ->capture_default_str()
                              ->type_name("N");
     app.add_flag("--desktop", wishes.isDesktop, "Run the phonelet as the desktop, on its glass of one line")
         ->excludes(lines);
-    app.add_option("--software", wishes.software, "Of the telephone: sip, qvt or other")
-        ->check(CLI::IsMember({"sip", "qvt", "other"}, CLI::ignore_case).description(""))
+    app.add_option("--software", wishes.options.variant.software, "Of the telephone: sip, qvt or other")
+        ->check(CLI::IsMember(VariantChoices::software(), CLI::ignore_case).description(""))
         ->capture_default_str()
         ->type_name("NAME");
-    app.add_option("--model", wishes.model, "Of the telephone: plain, rx40 or rx70")
-        ->check(CLI::IsMember({"plain", "rx40", "rx70"}, CLI::ignore_case).description(""))
+    app.add_option("--model", wishes.options.variant.model, "Of the telephone: plain, rx40 or rx70")
+        ->check(CLI::IsMember(VariantChoices::models(), CLI::ignore_case).description(""))
         ->type_name("NAME");
 }
 
@@ -139,10 +137,11 @@ Options parseOptions(int argc, const char* const* argv, const std::string& versi
     Options options = wishes.options;
     options.mode = options.help.empty() ? modeOf(wishes) : Options::Mode::Help;
     options.patience = std::chrono::milliseconds(static_cast<long>(wishes.patienceInSeconds * 1000));
-    options.softwareType = softwareType(CLI::detail::to_lower(wishes.software));
+    options.softwareType = softwareType(options.variant.software);
     options.application = wishes.isDesktop ? "DesktopPhonelet" : "";
-    options.hardware.isRX40 = CLI::detail::to_lower(wishes.model) == "rx40";
-    options.hardware.isRX70 = CLI::detail::to_lower(wishes.model) == "rx70";
+    options.hardware.displayLines = options.variant.displayLines;
+    options.hardware.isRX40 = options.variant.model == "rx40";
+    options.hardware.isRX70 = options.variant.model == "rx70";
     return options;
 }
 

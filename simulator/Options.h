@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Variant.h"
+
 #include <HardwareVersion.h>
 
 #include <chrono>
@@ -36,9 +38,10 @@ struct Options {
     int scale = 4;
     std::string font; ///< Empty for the system's.
     std::chrono::milliseconds patience{5000};
-    HardwareVersion::Set hardware;
-    std::string application; ///< As which application the phonelet runs; empty for its own name.
-    std::string softwareType;
+    Variant variant;
+    HardwareVersion::Set hardware; ///< As the variant says.
+    std::string application;       ///< As which application the phonelet runs; empty for its own name.
+    std::string softwareType;      ///< The same, in the words of the display.
 };
 
 /// The name of the program, without its folder.

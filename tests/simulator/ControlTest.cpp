@@ -51,11 +51,13 @@ class ControlTest : public testing::Test {
 protected:
     void drive(const std::function<void(ControlCommands&)>& driver)
     {
-        const CustomStep step{"incoming", [this](const std::string& party) {
-                                  if (party.empty())
-                                      throw std::runtime_error("nobody calls");
-                                  mCallers += party;
-                              }};
+        const CustomStep step{"incoming",
+            [this](const std::string& party) {
+                if (party.empty())
+                    throw std::runtime_error("nobody calls");
+                mCallers += party;
+            },
+            1};
         Phone phone({"", {}, Phone::ClockKind::Manual, {step}, 20s});
         phone.run([](DisplayAPI::Display& display) { Outputs().run(display); },
             [&](Phone& driven) {
@@ -73,7 +75,9 @@ TEST_F(ControlTest, ATestRobotWorksTheTelephone)
 {
     drive([this](ControlCommands& commands) {
         EXPECT_EQ(ask(commands, R"({"do": "hello", "id": [7]})"),
-            Json::parse(R"({"ok":true,"program":"test 1","width":162,"height":31,"steps":["incoming"],"id":[7]})"));
+            Json::parse(
+                R"({"ok":true,"program":"test 1","width":162,"height":31,"steps":["incoming"],)"
+                R"("functionKeys":{"F1":"incoming"},"variant":{"lines":2,"model":"plain","software":"other"},"id":[7]})"));
         EXPECT_EQ(ask(commands, R"({"do": "expect", "text": "Speaker"})"), Json::parse(R"({"ok":true})"));
         ask(commands, R"({"do": "key", "key": "down"})");
         const std::string text = ask(commands, R"({"do": "text"})")["text"];
@@ -149,6 +153,7 @@ TEST_F(ControlTest, WhatIsWrongIsSaidAndTheTelephoneGoesOn)
         {R"({"do": "tree", "at": [1]})", "bad-request", "a pixel"},
         {R"({"do": "pixels", "file": "/nonexistent/a.png"})", "failed", "/nonexistent/a.png"},
         {R"({"do": "incoming"})", "failed", "nobody calls"},
+        {R"({"do": "variant", "lines": 3})", "bad-request", "keeps its variant"},
     };
     drive([&](ControlCommands& commands) {
         for (const auto& row : rows) {
@@ -207,8 +212,8 @@ protected:
         mChild = fork();
         if (mChild == 0) {
             dup2(pipe[0], STDIN_FILENO);
-            execl(PROJECT_BINARY_DIR "/bin/example-audio", "example-audio", "--control", mPath.c_str(), "--timeout", "1",
-                static_cast<char*>(nullptr));
+            execl(PROJECT_BINARY_DIR "/bin/example-audio", "example-audio", "--control", mPath.c_str(), "--timeout",
+                "1", static_cast<char*>(nullptr));
             _exit(127);
         }
     }
