@@ -7,8 +7,9 @@
 
 namespace Simulator {
 
-ControlWorker::ControlWorker(ControlCommands& commands)
+ControlWorker::ControlWorker(ControlCommands& commands, std::function<void()> onAnswer)
     : mCommands(commands)
+    , mOnAnswer(std::move(onAnswer))
     , mThread([this] { run(); })
 {
 }
@@ -62,6 +63,11 @@ void ControlWorker::run()
         lock.lock();
         mAnswer = std::move(answer);
         mWake.set();
+        if (mOnAnswer) {
+            lock.unlock();
+            mOnAnswer();
+            lock.lock();
+        }
     }
 }
 

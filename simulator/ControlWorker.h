@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -17,7 +18,8 @@ class ControlCommands;
 /// the lines can go on listening. Threads: one user.
 class ControlWorker {
 public:
-    explicit ControlWorker(ControlCommands& commands);
+    /// `onAnswer` is called on the thread of the worker whenever an answer is there.
+    explicit ControlWorker(ControlCommands& commands, std::function<void()> onAnswer = {});
 
     /// Cancels the command in hand, and waits until it has ended.
     ~ControlWorker();
@@ -43,6 +45,7 @@ private:
     void run();
 
     ControlCommands& mCommands;
+    std::function<void()> mOnAnswer;
     WakeSignal mWake;
     std::mutex mMutex;
     std::condition_variable mHasWork;
