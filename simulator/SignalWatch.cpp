@@ -38,6 +38,11 @@ SignalWatch::~SignalWatch()
 {
     while (take() != 0) { }
     close(mDescriptor);
+    release();
+}
+
+void SignalWatch::release() const
+{
     const sigset_t signals = watchedSignals(mKind);
     pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
 }

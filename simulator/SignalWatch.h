@@ -20,6 +20,9 @@ public:
     /// The number of a signal that has come; 0 for none.
     int take();
 
+    /// Lets signals come to this thread as if nobody watched them; one that waits to be taken comes at once.
+    void release() const;
+
     /// Stops the process and those that run with it, as Ctrl-Z does, and returns when they go on. Where no shell
     /// could let them go on, it returns at once.
     void stopHere() const;

@@ -7,6 +7,7 @@
 #include "Printable.h"
 #include "RecordFile.h"
 #include "Recorder.h"
+#include "Restart.h"
 #include "Script.h"
 #include "ScriptRunner.h"
 #include "SignalWatch.h"
@@ -142,6 +143,16 @@ void Simulation::end(Phone& phone, int code) const
     std::_Exit(std::max(code, Failure));
 }
 
+/// The same, when a command of the control channel may be stuck in the phonelet: then nothing can be cleaned up.
+void Simulation::leave(Phone& phone, int code, bool isStuck) const
+{
+    if (isStuck)
+        std::cerr << mOptions.program << ": a command has not ended; it is left" << std::endl;
+    end(phone, isStuck ? std::max(code, Failure) : code);
+    if (isStuck)
+        std::_Exit(std::max(code, Failure));
+}
+
 std::unique_ptr<RecordFile> Simulation::recordFile() const
 {
     return mOptions.record.empty() ? nullptr : RecordFile::create(mOptions.record, mOptions.command);
@@ -213,8 +224,8 @@ int Simulation::runControl()
     SignalWatch signals(SignalWatch::Of::Program);
     Phone phone(settings(Phone::ClockKind::Manual));
     const std::unique_ptr<RecordFile> record = recordFile();
-    ControlServer server(
-        phone, signals, mOptions.control, {mOptions.patience, mOptions.scale, mOptions.programAndVersion});
+    ControlServer server(phone, signals, mOptions.control,
+        {mOptions.patience, mOptions.scale, mOptions.programAndVersion, mOptions.variant});
     if (!mOptions.control.empty())
         std::cerr << mOptions.program << ": the control channel is at " << mOptions.control << std::endl;
     int code = Failure;
@@ -225,11 +236,7 @@ int Simulation::runControl()
         code = codeOf(server.run());
         if (!server.isStuck())
             recorder.reset();
-        if (server.isStuck())
-            std::cerr << mOptions.program << ": a command has not ended; it is left" << std::endl;
-        end(driven, server.isStuck() ? std::max(code, Failure) : code);
-        if (server.isStuck())
-            std::_Exit(std::max(code, Failure));
+        leave(driven, code, server.isStuck());
     });
     if (!phone.hasRun()) {
         std::cerr << mOptions.program << ": " << phone.trouble() << std::endl;
@@ -242,9 +249,36 @@ int Simulation::runServe()
 {
     SignalWatch signals(SignalWatch::Of::Program);
     Phone phone(settings(Phone::ClockKind::Real));
-    WebServer server(phone, signals, {mOptions.port, {mOptions.patience, mOptions.scale, mOptions.programAndVersion}});
+    // The glass of a desktop is the same on every telephone.
+    const bool canSwitch = mOptions.application != "DesktopPhonelet";
+    WebServer server(phone, signals,
+        {mOptions.port, {mOptions.patience, mOptions.scale, mOptions.programAndVersion, mOptions.variant}, canSwitch});
     std::cout << mOptions.program << ": the telephone is at " << server.address() << "; Ctrl-C ends it" << std::endl;
-    return drive(phone, [&server](Phone&) { return codeOf(server.run()); });
+    const int code = drive(phone, [&](Phone& driven) { return servePages(driven, server, signals); });
+    const int late = signals.take(); // it has come while the phonelet ended
+    if (late != 0)
+        Restart::cancel();
+    return late != 0 ? codeOf(late) : code;
+}
+
+/// When a page wants another variant, the phonelet ends in order, and the process begins anew.
+int Simulation::servePages(Phone& phone, WebServer& server, const SignalWatch& signals) const
+{
+    const int code = codeOf(server.run());
+    const std::optional<Variant> wanted = server.wantedVariant();
+    if (!wanted || code != Success) {
+        if (server.isStuck())
+            leave(phone, code, true);
+        return code;
+    }
+    std::vector<std::string> arguments = argumentsFor(*wanted, server.port(), Restart::ownArguments());
+    if (server.isStuck() || !phone.end()) {
+        std::cerr << mOptions.program << ": the phonelet does not end; it is left, and begins anew" << std::endl;
+        signals.release();
+        Restart::now(arguments);
+    }
+    Restart::atExit(std::move(arguments));
+    return code;
 }
 
 }

@@ -11,6 +11,8 @@
 namespace Simulator {
 
 class RecordFile;
+class SignalWatch;
+class WebServer;
 struct Script;
 
 /// A phonelet run as the command line asks. Each way to run it is an operation that answers the exit code of the
@@ -37,8 +39,10 @@ private:
     int runOnce();
     int runControl();
     int runServe();
+    int servePages(Phone& phone, WebServer& server, const SignalWatch& signals) const;
     int drive(Phone& phone, const Driver& driver);
     void end(Phone& phone, int code) const;
+    void leave(Phone& phone, int code, bool isStuck) const;
     std::unique_ptr<RecordFile> recordFile() const;
     std::vector<std::string> stepNames() const;
 
