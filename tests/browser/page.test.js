@@ -3,11 +3,10 @@
 import assert from "node:assert/strict";
 import {spawn} from "node:child_process";
 import {once} from "node:events";
-import http from "node:http";
 import {after, before, test} from "node:test";
 import {chromium} from "playwright-core";
+import {endTelephone, startTelephone} from "./telephone.js";
 
-const TELEPHONE = process.env.TELEPHONE;
 const BROWSER = {
   executablePath: process.env.CHROMIUM || "/usr/bin/chromium",
   args: ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
@@ -15,15 +14,8 @@ const BROWSER = {
 };
 
 let telephone;
-let address;
 let browser;
 let page;
-
-async function start() {
-  const child = spawn(TELEPHONE, ["--serve", "0"], {stdio: ["ignore", "pipe", "inherit"]});
-  const [line] = await once(child.stdout, "data");
-  return [child, String(line).match(/http:\S+\//)[0]];
-}
 
 async function shows(line) {
   await page.waitForFunction((wanted) => document.getElementById("text").textContent.split("\n").includes(wanted), line);
@@ -35,20 +27,17 @@ async function press(...keys) {
 }
 
 before(async () => {
-  [telephone, address] = await start();
+  telephone = await startTelephone();
   browser = await chromium.launch(BROWSER);
   page = await browser.newPage({viewport: {width: 1000, height: 900}});
   page.on("pageerror", (error) => assert.fail(error));
-  await page.goto(address);
+  await page.goto(telephone.address);
 });
 
 after(async () => {
   await browser?.close();
-  telephone?.kill("SIGTERM");
-  if (telephone) {
-    const [code, signal] = await once(telephone, "exit");
-    assert.equal(signal ?? code, 143);
-  }
+  if (telephone)
+    assert.equal(await endTelephone(telephone), 143);
 });
 
 test("a number is dialled by clicking, and the call is there", async () => {
@@ -98,40 +87,8 @@ test("the canvas has the pixels of the picture", async () => {
   assert.equal(different, 0);
 });
 
-function request(headers) {
-  return new Promise((resolve, reject) => {
-    const asked = http.request(address, {headers, agent: false});
-    asked.on("response", (answer) => { answer.resume(); resolve(answer.statusCode); });
-    asked.on("upgrade", (answer, socket) => { socket.on("error", () => {}); resolve({code: answer.statusCode, socket}); });
-    asked.on("error", (error) => resolve(error.code));
-    asked.end();
-  });
-}
-
-const UPGRADE = {
-  Connection: "Upgrade", Upgrade: "websocket", "Sec-WebSocket-Version": "13",
-  "Sec-WebSocket-Key": "dGhlIHNhbXBsZSBub25jZQ==", "Sec-WebSocket-Protocol": "telephone",
-};
-
-test("a page of another site and another name are refused", async () => {
-  assert.equal(await request({Origin: "http://elsewhere.example"}), 403);
-  assert.equal(await request({Host: "elsewhere.example"}), 403);
-  const other = await request({...UPGRADE, Origin: "http://elsewhere.example"});
-  assert.notEqual(other.code, 101);
-});
-
-test("fifty others who never read do not disturb", async () => {
-  const others = await Promise.all(Array.from({length: 50}, () => request(UPGRADE)));
-  for (const other of others)
-    assert.equal(other.code, 101);
-  await press("LEFT");
-  await page.waitForFunction(() => !document.getElementById("text").textContent.includes("Hold?"));
-  for (const other of others)
-    other.socket.destroy();
-});
-
 test("a port that is taken is told", async () => {
-  const child = spawn(TELEPHONE, ["--serve", new URL(address).port], {stdio: ["ignore", "ignore", "pipe"]});
+  const child = spawn(process.env.TELEPHONE, ["--serve", String(telephone.port)], {stdio: ["ignore", "ignore", "pipe"]});
   let told = "";
   child.stderr.on("data", (part) => { told += part; });
   const [code] = await once(child, "close");
