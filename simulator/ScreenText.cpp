@@ -119,6 +119,41 @@ std::vector<std::string> fieldLines(const std::string& screenText)
     return result;
 }
 
+std::string topmostBlock(const std::string& screenText)
+{
+    std::istringstream lines(screenText);
+    std::string topmost;
+    std::string block;
+    const auto endBlock = [&] {
+        // Volume and function keys stand behind the screens and lie over none of them.
+        const bool isScreen = !block.empty() && !block.starts_with("object:\nname:VolumeIndicator\n")
+            && !block.starts_with("object:\nname:FPKBar\n");
+        if (isScreen || topmost.empty())
+            topmost = block;
+        block.clear();
+    };
+    for (std::string line; std::getline(lines, line);) {
+        if (line == "object:")
+            endBlock();
+        if (!line.empty() || !block.empty())
+            block += line + "\n";
+    }
+    endBlock();
+    return topmost;
+}
+
+std::string valuesInOneLine(const std::string& screenText)
+{
+    std::string result;
+    for (const std::string& line : fieldLines(screenText)) {
+        const std::string_view field = trimmed(line);
+        const std::string_view value = trimmed(field.substr(field.find(':') + 1));
+        if (!value.empty() && !field.starts_with("name:"))
+            result += (result.empty() ? "" : "  ") + std::string(value);
+    }
+    return result;
+}
+
 std::string inOneLine(const std::string& screenText)
 {
     std::istringstream lines(screenText);
