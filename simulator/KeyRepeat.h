@@ -27,6 +27,9 @@ public:
     /// The release, if the time has come.
     std::vector<Stroke> tick(Clock::time_point now);
 
+    /// The key that is down.
+    std::optional<int> pressedKey() const { return mKey; }
+
     /// How long to wait for tick(); nothing while no key is down.
     std::optional<std::chrono::milliseconds> timeToTick(Clock::time_point now) const;
 

@@ -151,14 +151,15 @@ void Phone::tap(int code)
     key(code, UGlobal::KeyReleased);
 }
 
-std::string Phone::functionKeys() const
+std::vector<std::string> Phone::functionKeyLabels() const
 {
-    std::string keys;
-    for (const CustomStep& step : mSettings.steps) {
-        if (step.functionKey > 0)
-            keys += (keys.empty() ? "F" : "  F") + std::to_string(step.functionKey) + " " + step.name;
+    constexpr int count = 8;
+    std::vector<std::string> labels;
+    for (int key = 1; key <= count; ++key) {
+        const auto step = std::ranges::find(mSettings.steps, key, &CustomStep::functionKey);
+        labels.push_back("F" + std::to_string(key) + (step == mSettings.steps.end() ? "" : " " + step->name));
     }
-    return keys.empty() ? "F1-F8" : keys;
+    return labels;
 }
 
 bool Phone::callStep(const std::string& name, const std::string& argument)

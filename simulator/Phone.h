@@ -66,8 +66,8 @@ public:
     /// Presses the key and releases it.
     void tap(int code);
 
-    /// What the function keys are for: "F1-F8", or the steps that have taken some, as "F1 incoming".
-    std::string functionKeys() const;
+    /// What stands on the function keys: "F3", or "F1 incoming" on one that a step has taken.
+    std::vector<std::string> functionKeyLabels() const;
 
     /// Calls a step of the phonelet's own, on the calling thread, once what was posted before has run. False when
     /// the telephone did not answer in time, has ended, or has no such step. What the step throws comes out.

@@ -20,7 +20,7 @@ sigset_t setOf(std::initializer_list<int> signals)
 
 sigset_t watchedSignals(SignalWatch::Of kind)
 {
-    return kind == SignalWatch::Of::Terminal ? setOf({SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGWINCH})
+    return kind == SignalWatch::Of::Terminal ? setOf({SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGCONT, SIGWINCH})
                                              : setOf({SIGINT, SIGTERM, SIGHUP, SIGQUIT});
 }
 

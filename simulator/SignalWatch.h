@@ -6,7 +6,7 @@ namespace Simulator {
 /// while it lives take none of them; so make it before any other thread.
 class SignalWatch {
 public:
-    /// A terminal program is told of Ctrl-Z and of a new size, too.
+    /// A terminal program is told of Ctrl-Z, of going on after a stop, and of a new size, too.
     enum class Of { Program, Terminal };
 
     explicit SignalWatch(Of kind);

@@ -11,8 +11,10 @@
 #include "Script.h"
 #include "ScriptRunner.h"
 #include "SignalWatch.h"
+#include "TerminalSession.h"
 #include "TerminalView.h"
 #include "UsageError.h"
+#include "WakeSignal.h"
 #include "WebServer.h"
 
 #include <algorithm>
@@ -163,14 +165,18 @@ int Simulation::runTerminal()
     SignalWatch signals(SignalWatch::Of::Terminal);
     const std::unique_ptr<RecordFile> record = recordFile();
     Phone phone(settings(record ? Phone::ClockKind::Manual : Phone::ClockKind::Real));
-    TerminalView view(phone, signals);
     int signal = 0;
-    phone.run(mPhonelet, [&](Phone& driven) {
-        std::optional<Recorder> recorder;
-        if (record)
-            recorder.emplace(driven, *record, Recorder::ClockMover::Recorder);
-        signal = view.run();
-    });
+    {
+        WakeSignal wake;
+        TerminalSession session([&wake] { wake.set(); });
+        TerminalView view(phone, signals, session, wake);
+        phone.run(mPhonelet, [&](Phone& driven) {
+            std::optional<Recorder> recorder;
+            if (record)
+                recorder.emplace(driven, *record, Recorder::ClockMover::Recorder);
+            signal = view.run();
+        });
+    }
     if (!phone.hasRun()) {
         std::cerr << mOptions.program << ": " << phone.trouble() << std::endl;
         return Failure;

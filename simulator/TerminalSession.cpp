@@ -10,13 +10,16 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <ncurses.h>
 #include <string>
+#include <strings.h>
 #include <sys/ioctl.h>
 #include <term.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Simulator {
 
@@ -26,6 +29,8 @@ constexpr std::array crashSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 
 // What a signal handler needs, ready before any signal can come.
 std::atomic<bool> gIsActive = false;
+pid_t gOwner = 0; // a child process that was forked has nothing to restore
+int gTerminal = -1;
 termios gSettings;
 char gLeaveText[128];
 struct sigaction gOldActions[crashSignals.size()];
@@ -37,30 +42,22 @@ void append(const char* capability)
         std::strncat(gLeaveText, capability, sizeof gLeaveText - std::strlen(gLeaveText) - 1);
 }
 
-extern "C" void onCrash(int signal)
+extern "C" void onCrash(int signal, siginfo_t* information, void*)
 {
     TerminalSession::restore();
     for (std::size_t index = 0; index < crashSignals.size(); ++index) {
         if (crashSignals[index] == signal)
             sigaction(signal, &gOldActions[index], nullptr);
     }
-    // With the old handler back, the signal comes again.
-    raise(signal);
+    // With the old handler back, what the processor has refused is refused again; another signal is sent again.
+    if (information->si_code <= 0)
+        raise(signal);
 }
 
-void catchCrashes()
+void restoreAtExit()
 {
-    struct sigaction action { };
-    action.sa_handler = onCrash;
-    sigemptyset(&action.sa_mask);
-    for (std::size_t index = 0; index < crashSignals.size(); ++index)
-        sigaction(crashSignals[index], &action, &gOldActions[index]);
-}
-
-void releaseCrashes()
-{
-    for (std::size_t index = 0; index < crashSignals.size(); ++index)
-        sigaction(crashSignals[index], &gOldActions[index], nullptr);
+    std::fflush(stdout);
+    TerminalSession::restore();
 }
 
 // newterm() would tell as well, but leaves memory behind when it fails.
@@ -77,33 +74,57 @@ void requireDescription()
         throw UsageError(kind + " can't show a full screen; try --tour");
 }
 
-void chooseCharacterSet()
+/// The name of the character set that the user's language asks for; empty if it does not say.
+std::string wantedCharacterSet()
 {
-    if (std::setlocale(LC_CTYPE, "") && std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
-        return;
-    // The blocks of the drawing need it, whatever the user's language is.
-    std::setlocale(LC_CTYPE, "C.UTF-8");
+    for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        const char* value = std::getenv(variable);
+        if (!value || *value == '\0')
+            continue;
+        const std::string name = value;
+        const auto dot = name.find('.');
+        return dot == std::string::npos ? "" : name.substr(dot + 1, name.find('@') - dot - 1);
+    }
+    return "";
+}
+
+bool isUtf8(const char* name)
+{
+    return strcasecmp(name, "UTF-8") == 0 || strcasecmp(name, "UTF8") == 0;
+}
+
+GlassCharacters chooseCharacters()
+{
+    const char* variable = std::getenv("TERM");
+    const std::string kind = variable ? variable : "";
+    const bool isKnown = std::setlocale(LC_CTYPE, "") != nullptr;
+    const std::string set = isKnown ? nl_langinfo(CODESET) : wantedCharacterSet();
+    // Who asks for no language has one of the terminals of today all the same.
+    const bool saysNothing = set.empty() || set == "ANSI_X3.4-1968";
+    if (!isUtf8(set.c_str()) && !saysNothing)
+        return GlassCharacters::None;
+    if (!isKnown || saysNothing)
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+    const bool isOld = kind.size() > 2 && kind.starts_with("vt") && kind[2] >= '0' && kind[2] <= '9';
+    if (isOld || kind.starts_with("ansi"))
+        return GlassCharacters::None;
+    return kind.starts_with("linux") ? GlassCharacters::Halves : GlassCharacters::Quarters;
 }
 
 }
 
-TerminalSession::TerminalSession()
+TerminalSession::TerminalSession(std::function<void()> outputObserver)
+    : mCharacters(chooseCharacters())
 {
-    chooseCharacterSet();
     if (tcgetattr(STDIN_FILENO, &gSettings) != 0)
         throw UsageError("standard input is no terminal");
     requireDescription();
-    SCREEN* screen = newterm(nullptr, stdout, stdin);
-    if (!screen)
-        throw UsageError("the terminal can't be used");
-    set_term(screen);
-    gLeaveText[0] = '\0';
-    append(tigetstr("sgr0"));
-    append(tigetstr("rmkx"));
-    append(tigetstr("cnorm"));
-    append(tigetstr("rmcup"));
+    mOutput.emplace(std::move(outputObserver));
+    gTerminal = mOutput->terminal();
+    open();
+    gOwner = getpid();
     gIsActive = true;
-    static const int registered = std::atexit(TerminalSession::restore);
+    static const int registered = std::atexit(restoreAtExit) + std::at_quick_exit(restore);
     static_cast<void>(registered);
     catchCrashes();
     raw();
@@ -117,18 +138,57 @@ TerminalSession::TerminalSession()
 
 TerminalSession::~TerminalSession()
 {
-    releaseCrashes();
     SCREEN* screen = set_term(nullptr);
     set_term(screen);
     endwin();
     gIsActive = false;
     delscreen(screen);
+    mOutput.reset();
+    releaseCrashes();
+}
+
+void TerminalSession::open()
+{
+    mDevice.reset(fdopen(fcntl(gTerminal, F_DUPFD_CLOEXEC, 3), "w"));
+    SCREEN* screen = mDevice ? newterm(nullptr, mDevice.get(), stdin) : nullptr;
+    if (!screen)
+        throw UsageError("the terminal can't be used");
+    set_term(screen);
+    gLeaveText[0] = '\0';
+    append(tigetstr("sgr0"));
+    append(tigetstr("rmkx"));
+    append(tigetstr("cnorm"));
+    append(tigetstr("rmcup"));
+}
+
+void TerminalSession::catchCrashes()
+{
+    // A function that calls itself for ever leaves no stack for the handler.
+    constexpr std::size_t stackSize = std::size_t{1} << 17;
+    mCrashStack.resize(stackSize);
+    stack_t stack{};
+    stack.ss_sp = mCrashStack.data();
+    stack.ss_size = mCrashStack.size();
+    sigaltstack(&stack, &mOldStack);
+    struct sigaction action { };
+    action.sa_sigaction = onCrash;
+    action.sa_flags = SA_ONSTACK | SA_SIGINFO;
+    sigemptyset(&action.sa_mask);
+    for (std::size_t index = 0; index < crashSignals.size(); ++index)
+        sigaction(crashSignals[index], &action, &gOldActions[index]);
+}
+
+void TerminalSession::releaseCrashes()
+{
+    for (std::size_t index = 0; index < crashSignals.size(); ++index)
+        sigaction(crashSignals[index], &gOldActions[index], nullptr);
+    sigaltstack(&mOldStack, nullptr);
 }
 
 void TerminalSession::resize()
 {
     winsize size{};
-    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0)
+    if (ioctl(gTerminal, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0)
         resizeterm(size.ws_row, size.ws_col);
 }
 
@@ -144,16 +204,19 @@ void TerminalSession::resume()
     gIsActive = true;
     reset_prog_mode();
     resize();
-    clear();
+    clearok(curscr, TRUE);
 }
 
 void TerminalSession::restore()
 {
-    if (!gIsActive.exchange(false))
-        return;
     // Only calls that a signal handler may make.
-    [[maybe_unused]] const ssize_t written = write(STDOUT_FILENO, gLeaveText, std::strlen(gLeaveText));
-    tcsetattr(STDIN_FILENO, TCSANOW, &gSettings);
+    if (getpid() != gOwner)
+        return;
+    if (gIsActive.exchange(false)) {
+        [[maybe_unused]] const ssize_t written = write(gTerminal, gLeaveText, std::strlen(gLeaveText));
+        tcsetattr(STDIN_FILENO, TCSANOW, &gSettings);
+    }
+    OutputKeeper::giveBack();
 }
 
 }

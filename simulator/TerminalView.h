@@ -1,6 +1,10 @@
 #pragma once
 
 #include "KeyRepeat.h"
+#include "TerminalKey.h"
+#include "TerminalPages.h"
+#include "TerminalPicture.h"
+#include "WakeSignal.h"
 
 #include <string>
 #include <vector>
@@ -10,13 +14,13 @@ namespace Simulator {
 class Phone;
 class SignalWatch;
 class TerminalSession;
-struct Snapshot;
 
-/// The telephone in a terminal: the glass, the screen text beside or below it, and the keys.
+/// The telephone in a terminal: the glass and its keys, the screen text beside or below it, and what it answers to.
 class TerminalView {
 public:
-    /// Make it, like the signals that it takes, before the telephone runs: it watches the screen from then on.
-    TerminalView(Phone& phone, SignalWatch& signals);
+    /// Make it, like the signals and the terminal that it takes, before the telephone runs: it watches the screen from
+    /// then on. `wake` wakes it too.
+    TerminalView(Phone& phone, SignalWatch& signals, TerminalSession& session, WakeSignal& wake);
     ~TerminalView();
     TerminalView(const TerminalView&) = delete;
     TerminalView& operator=(const TerminalView&) = delete;
@@ -28,25 +32,31 @@ public:
 private:
     enum class Command { None, Leave };
 
-    void suspend(TerminalSession& session);
-
     void waitForSomething();
-    Command handleSignals(TerminalSession& session);
-    Command handleKeys(TerminalSession& session);
+    void leave();
+    void suspend();
+    Command handleSignals();
+    Command handleKeys();
+    Command handle(const TerminalKey& key);
+    bool handleForPage(const TerminalKey& key);
+    void handleForTelephone(const TerminalKey& key);
     void post(const std::vector<KeyRepeat::Stroke>& strokes);
-    void draw() const;
-    void drawTooSmall() const;
-    std::string statusLine() const;
+
+    void draw();
+    TerminalState state();
+    std::string statusLine(const TerminalLayout& layout, const Snapshot& screen) const;
+    std::string missingGlass() const;
     bool isWaitingForScreen() const;
-    void drawGlass(const Snapshot& snapshot) const;
-    void drawText(const std::string& text, int lineBelow) const;
-    int glassHeight(const Snapshot& snapshot) const;
+    bool isPageInFront() const;
 
     Phone& mPhone;
     SignalWatch& mSignals;
+    TerminalSession& mSession;
+    WakeSignal& mWake;
     KeyRepeat mRepeat;
+    TerminalPages mPages;
+    std::string mMessage; // about the last key
     int mInput;
-    int mWakeDescriptor;
     bool mIsHungUp = false; // the terminal has gone
     bool mIsLeaving = false;
     int mSignal = 0; // that has ended it

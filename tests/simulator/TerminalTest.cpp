@@ -49,7 +49,8 @@ protected:
             login_tty(mSlave);
             setenv("TERM", kind, 1);
             setenv("LC_ALL", "C", 1);
-            execl("/bin/sh", "sh", "-mc", shellCommand, PROJECT_BINARY_DIR "/bin/example-audio", static_cast<char*>(nullptr));
+            execl("/bin/sh", "sh", "-mc", shellCommand, PROJECT_BINARY_DIR "/bin/example-audio",
+                static_cast<char*>(nullptr));
             _exit(127);
         }
     }
@@ -74,6 +75,12 @@ protected:
         }
         return testing::AssertionFailure()
             << "the terminal has been sent " << testing::PrintToString(mSent.substr(0, 4000));
+    }
+
+    void resize(unsigned short columns, unsigned short lines) const
+    {
+        const winsize size{lines, columns, 0, 0};
+        ioctl(mMaster, TIOCSWINSZ, &size);
     }
 
     bool readMore(int milliseconds)
@@ -132,17 +139,36 @@ TEST_F(TerminalTest, KeysWorkTheTelephoneAndQLeavesIt)
     expectTerminalAsBefore();
 }
 
-TEST_F(TerminalTest, ASmallTerminalIsToldUntilItIsMadeLarger)
+TEST_F(TerminalTest, WhatIsShownFollowsTheSizeOfTheTerminal)
 {
-    start(80, 24);
-    ASSERT_TRUE(shows("needs 83 columns"));
-    const winsize larger{24, 84, 0, 0};
-    ioctl(mMaster, TIOCSWINSZ, &larger);
+    start(12, 3);
+    ASSERT_TRUE(shows("needs 20"));
+    resize(80, 24);
+    ASSERT_TRUE(shows("── Telephone ─"));
+    ASSERT_TRUE(shows("[2 abc ]"));
+    resize(70, 8);
+    ASSERT_TRUE(shows("No room for the glass"));
+    resize(90, 50);
     ASSERT_TRUE(shows("┌─ Telephone ─"));
-    ASSERT_TRUE(shows("Screen text")) << "below the glass";
     type("\x03");
     EXPECT_EQ(WEXITSTATUS(finish()), 128 + SIGINT);
     expectTerminalAsBefore();
+}
+
+TEST_F(TerminalTest, AKeyThatDoesNothingSaysSo)
+{
+    start(80, 24);
+    ASSERT_TRUE(shows("Speaker (in use)"));
+    for (const auto& [keys, message] :
+        {std::pair("x", "x does nothing; ? shows the keys"), std::pair("\xC3\xB6", "ö does"),
+            std::pair("\x1b[99;7~", "This key does"), std::pair("?\r", "The telephone is behind this page")}) {
+        type(keys);
+        EXPECT_TRUE(shows(message));
+    }
+    type("\x1b");
+    ASSERT_TRUE(shows("Speaker (in use)"));
+    type("q");
+    EXPECT_EQ(finish(), 0);
 }
 
 TEST_F(TerminalTest, ASignalGivesTheTerminalBack)
