@@ -18,7 +18,7 @@ namespace Simulator {
 namespace {
 
 constexpr std::chrono::seconds SettleLimit{5};
-constexpr std::chrono::milliseconds Quiet{120};
+constexpr std::chrono::milliseconds Quiet{50};
 constexpr std::chrono::milliseconds ShortestEnd{2000}; // also for somebody who has no patience with texts
 constexpr std::chrono::milliseconds StuckEnd{200};     // of a telephone that has been waited for already
 
