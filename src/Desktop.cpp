@@ -3,6 +3,7 @@
 #include <DisplayAPI/MenuCommand.h>
 
 #include "DesktopPrivate.h"
+#include "LastingCommand.h"
 #include "Road.h"
 
 #include <Log.h>
@@ -305,7 +306,7 @@ void Desktop::setShifted(bool) { }
 
 MenuCommand* Desktop::HIDDEN_COMMAND()
 {
-    static auto* command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", 1001012345);
+    static MenuCommand* command = lastingHiddenCommand();
     return command;
 }
 

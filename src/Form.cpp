@@ -6,6 +6,7 @@
 
 #include "FormItems.h"
 #include "FormPrivate.h"
+#include "LastingCommand.h"
 #include "Road.h"
 
 #include <TranslationInfo.h>
@@ -31,16 +32,6 @@ enum class Form::Request : int {
     AddCommand = 15,
     ClearCommands = 16,
 };
-
-namespace {
-
-/// The commands are told apart by address, and workers may still hold them when the process ends.
-Command* lastingCommand(Command::Type type, const char* label = "")
-{
-    return new Command(label, type);
-}
-
-}
 
 Form::Form(FormProportionType proportion)
     : mItems(std::make_unique<FormItems>(mPrivate))

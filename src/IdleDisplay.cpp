@@ -9,6 +9,7 @@
 #include "ExistingDisplayables.h"
 #include "HeldDialer.h"
 #include "IdleDisplayPrivate.h"
+#include "LastingCommand.h"
 #include "Road.h"
 
 #include <TranslationInfo.h>
@@ -339,8 +340,8 @@ void IdleDisplay::tell(Command* command)
 
 Command* IdleDisplay::BACK_COMMAND()
 {
-    static Command& command = *new Command("", Command::Back);
-    return &command;
+    static Command* command = lastingCommand(Command::Back);
+    return command;
 }
 
 // Dialer

@@ -2,6 +2,7 @@
 
 #include <DisplayAPI/Command.h>
 
+#include "LastingCommand.h"
 #include "ListBoxPrivate.h"
 #include "ListTrace.h"
 #include "Road.h"
@@ -60,12 +61,6 @@ void tell(ListBoxPrivateIfc* box, void (Class::*operation)(Parameters...), Argum
 {
     if (box)
         (box->*operation)(arguments...);
-}
-
-/// The commands are told apart by address, and workers may still hold them when the process ends.
-Command* lastingCommand(Command::Type type)
-{
-    return new Command(std::string(), type);
 }
 
 }

@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupCall.h>
 #include <DisplayAPI/PopupCallPrivateIfc.h>
 
+#include "LastingCommand.h"
 #include "PartyText.h"
 #include "PopupCallPrivate.h"
 #include "Road.h"
@@ -226,7 +227,7 @@ void PopupCall::removeCommandListener(CommandListener* listener)
 
 MenuCommand* PopupCall::HIDDEN_COMMAND()
 {
-    static auto* command = new MenuCommand("", 1001012345);
+    static MenuCommand* command = lastingHiddenCommand("");
     return command;
 }
 

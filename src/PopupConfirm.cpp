@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupConfirm.h>
 #include <DisplayAPI/PopupConfirmPrivateIfc.h>
 
+#include "LastingCommand.h"
 #include "PartyText.h"
 #include "PopupConfirmPrivate.h"
 #include "Road.h"
@@ -205,7 +206,7 @@ void PopupConfirm::removeCommandListener(CommandListener* listener)
 
 MenuCommand* PopupConfirm::HIDDEN_COMMAND()
 {
-    static auto* command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", 1001012345);
+    static MenuCommand* command = lastingHiddenCommand();
     return command;
 }
 

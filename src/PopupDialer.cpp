@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupDialer.h>
 #include <DisplayAPI/PopupDialerPrivateIfc.h>
 
+#include "LastingCommand.h"
 #include "PopupDialerPrivate.h"
 #include "Road.h"
 
@@ -225,14 +226,14 @@ void PopupDialer::addCommandListener(CommandListener* listener)
 
 Command* PopupDialer::BackCommand()
 {
-    static Command& command = *new Command("", Command::Back);
-    return &command;
+    static Command* command = lastingCommand(Command::Back);
+    return command;
 }
 
 Command* PopupDialer::EditFieldShownCommand()
 {
-    static Command& command = *new Command("", Command::Menu);
-    return &command;
+    static Command* command = lastingCommand(Command::Menu);
+    return command;
 }
 
 // Without effect on this telephone

@@ -3,6 +3,7 @@
 #include <DisplayAPI/PopupNotification.h>
 #include <DisplayAPI/PopupNotificationPrivateIfc.h>
 
+#include "LastingCommand.h"
 #include "PartyText.h"
 #include "PopupNotificationPrivate.h"
 #include "Road.h"
@@ -196,7 +197,7 @@ void PopupNotification::removeCommandListener(CommandListener* listener)
 
 MenuCommand* PopupNotification::HIDDEN_COMMAND()
 {
-    static auto* command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", 1001012345);
+    static MenuCommand* command = lastingHiddenCommand();
     return command;
 }
 

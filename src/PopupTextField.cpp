@@ -2,6 +2,7 @@
 #include <DisplayAPI/PopupTextField.h>
 #include <DisplayAPI/PopupTextFieldPrivateIfc.h>
 
+#include "LastingCommand.h"
 #include "PopupTextFieldPrivate.h"
 #include "Road.h"
 
@@ -167,7 +168,7 @@ void PopupTextField::removeCommandListener(CommandListener* listener)
 
 MenuCommand* PopupTextField::HIDDEN_COMMAND()
 {
-    static auto* command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", 1001012345);
+    static MenuCommand* command = lastingHiddenCommand();
     return command;
 }
 

@@ -3,6 +3,7 @@
 #include <DisplayAPI/SearchListBoxPrivateIfc.h>
 
 #include "BoxRows.h"
+#include "LastingCommand.h"
 #include "Road.h"
 #include "SearchListBoxPrivate.h"
 
@@ -273,19 +274,19 @@ void SearchList::addItemStateListener(ItemStateListener* listener)
 
 Command* SearchList::BACK_COMMAND()
 {
-    static auto* command = new Command("", Command::Back);
+    static Command* command = lastingCommand(Command::Back);
     return command;
 }
 
 Command* SearchList::RIGHT_COMMAND()
 {
-    static auto* command = new Command("", Command::Right);
+    static Command* command = lastingCommand(Command::Right);
     return command;
 }
 
 Command* SearchList::SELECT_COMMAND()
 {
-    static auto* command = new Command("", Command::Select);
+    static Command* command = lastingCommand(Command::Select);
     return command;
 }
 

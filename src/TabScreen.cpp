@@ -3,6 +3,7 @@
 #include <DisplayAPI/TabScreenPrivateIfc.h>
 
 #include "ExistingDisplayables.h"
+#include "LastingCommand.h"
 #include "OwnedHandles.h"
 #include "Road.h"
 #include "TabScreenPrivate.h"
@@ -269,25 +270,25 @@ void TabScreen::addCommandListener(CommandListener* listener)
 
 Command* TabScreen::BACK_COMMAND()
 {
-    static auto* command = new Command("", Command::Back);
+    static Command* command = lastingCommand(Command::Back);
     return command;
 }
 
 Command* TabScreen::OK()
 {
-    static auto* command = new Command("", Command::Select);
+    static Command* command = lastingCommand(Command::Select);
     return command;
 }
 
 Command* TabScreen::TABBACK_COMMAND()
 {
-    static auto* command = new Command("", Command::TabBack);
+    static Command* command = lastingCommand(Command::TabBack);
     return command;
 }
 
 Command* TabScreen::TABFWD_COMMAND()
 {
-    static auto* command = new Command("", Command::TabForward);
+    static Command* command = lastingCommand(Command::TabForward);
     return command;
 }
 

@@ -3,6 +3,7 @@
 #include <DisplayAPI/TextBoxPrivateIfc.h>
 
 #include "CurrentApplication.h"
+#include "LastingCommand.h"
 #include "Road.h"
 #include "TextBoxPrivate.h"
 #include "TextBoxPrivate2Line.h"
@@ -156,19 +157,19 @@ void TextBox::removeCommandListener(CommandListener* listener)
 
 Command* TextBox::BACK_COMMAND()
 {
-    static auto* command = new Command("", Command::Back);
+    static Command* command = lastingCommand(Command::Back);
     return command;
 }
 
 Command* TextBox::RIGHT_COMMAND()
 {
-    static auto* command = new Command("", Command::Right);
+    static Command* command = lastingCommand(Command::Right);
     return command;
 }
 
 Command* TextBox::SELECT_COMMAND()
 {
-    static auto* command = new Command("", Command::Select);
+    static Command* command = lastingCommand(Command::Select);
     return command;
 }
 

@@ -3,6 +3,7 @@
 #include <DisplayAPI/TreeNode.h>
 #include <DisplayAPI/TreePrivateIfc.h>
 
+#include "LastingCommand.h"
 #include "Road.h"
 #include "TreeNodes.h"
 #include "TreePrivate.h"
@@ -178,7 +179,7 @@ void Tree::addCommandListener(CommandListener* listener)
 
 Command* Tree::HIGHLIGHT_CHANGED_COMMAND()
 {
-    static auto* command = new Command("", Command::Menu);
+    static Command* command = lastingCommand(Command::Menu);
     return command;
 }
 
