@@ -145,6 +145,16 @@ TEST_F(FormTest, AnEditorGoesWithTheRowThatItBelongsTo)
         recorder.takeTypes();
         form->setCurrentRow(form->currentRow());
         EXPECT_TRUE(row->getEditing()) << "nothing has changed";
+        const UString value = row->valueText();
+        row->setReadOnlyMode(true);
+        EXPECT_FALSE(row->getEditing());
+        for (const int key : {UGlobal::KeyRight, UGlobal::KeyOk})
+            press(key);
+        EXPECT_EQ(row->valueText(), value) << "what has become read-only is edited no further";
+        row->setReadOnlyMode(false);
+        press(UGlobal::KeyOk);
+        EXPECT_TRUE(row->getEditing());
+        recorder.takeTypes();
         delete row;
         EXPECT_EQ(form->displayMode(), FormWidgetMEG::Rows);
         EXPECT_EQ(form->speller(), nullptr);
@@ -206,6 +216,25 @@ TEST_F(FormTest, AListenerMayDeleteTheFormInsideAnyOfItsEvents)
             HighlightMoved, SelectionListMoved, SelectionListMoved, ValueCommitted, RowMoved, DisplayModeChanged,
             HighlightMoved, DisplayModeChanged, ValueCommitted, DisplayModeChanged, HighlightMoved, FormRowChosen,
             LeftPressed}));
+}
+
+TEST_F(FormTest, EveryEditorMayBeClosedInsideItsEvents)
+{
+    FormItemMEG* rows[] = {add("text"), addSelection(), addSlider()};
+    for (FormItemMEG* row : rows) {
+        for (std::size_t last = 1; last <= 4; ++last) {
+            row->setReadOnlyMode(false);
+            form->setCurrentRow(row);
+            recorder.entries.clear();
+            recorder.onEvent = [&](UEvent&) {
+                if (recorder.entries.size() == last)
+                    row->setReadOnlyMode(true);
+            };
+            for (const int key : std::initializer_list<int>{UGlobal::KeyOk, '2', UGlobal::KeyUp, UGlobal::KeyOk})
+                press(key);
+            EXPECT_FALSE(row->getReadOnlyMode() && row->getEditing());
+        }
+    }
 }
 
 TEST_F(FormTest, OnlyARowWithoutAValueShowsTheCaption)

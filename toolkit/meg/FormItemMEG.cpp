@@ -1,6 +1,7 @@
 #include "FormItemMEG.h"
 
 #include "ContextMenuMEG.h"
+#include "FormWidgetMEG.h"
 #include "TextBlock.h"
 #include "TextCells.h"
 #include "UPainter.h"
@@ -54,6 +55,14 @@ void FormItemMEG::setFieldType(FieldType type)
 {
     mType = type;
     refresh();
+}
+
+void FormItemMEG::setReadOnlyMode(bool readOnly)
+{
+    setReadonly(readOnly);
+    const UWidget* list = readOnly && mIsEditing ? parentWidget() : nullptr;
+    if (auto* form = list ? dynamic_cast<FormWidgetMEG*>(list->parentWidget()) : nullptr)
+        form->closeEditor();
 }
 
 void FormItemMEG::setEditing(bool editing)

@@ -79,8 +79,8 @@ public:
     void setInformAppOnOk(bool inform) { mInformsOnOk = inform; }
     bool informsAppOnOk() const { return mInformsOnOk; }
 
-    /// A read-only row stands in brackets and can't be edited.
-    void setReadOnlyMode(bool readOnly) { setReadonly(readOnly); }
+    /// A read-only row stands in brackets and can't be edited. If the user is about it, what was begun is given up.
+    void setReadOnlyMode(bool readOnly);
     bool getReadOnlyMode() const override { return isReadonly(); }
 
     /// True while the user edits the row; set by the form.

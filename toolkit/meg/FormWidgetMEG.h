@@ -20,7 +20,7 @@ class VantoListBoxMEG;
 /// A text that is confirmed raises ValueCommitted, SpellerConfirmed and DisplayModeChanged, in this order; a choice
 /// ValueCommitted, RowMoved and DisplayModeChanged; a step of a slider ValueCommitted. These have the row as payload.
 /// What is given up raises DisplayModeChanged. Operations raise nothing; one that takes the highlight from a row that
-/// is being edited closes the editor.
+/// is being edited, or makes it read-only, closes the editor.
 ///
 /// Threads: GUI thread only. Its listener may delete it inside any event.
 /// Ownership: the form owns its rows; a row that is taken out is the caller's.
@@ -91,6 +91,9 @@ public:
     /// The open speller, or null.
     virtual SpellerMEG* speller() const { return mSpeller; }
 
+    /// Gives up what the user is editing, and raises nothing.
+    void closeEditor();
+
     // Overrides
 
     void setVisible(bool visible) override;
@@ -121,7 +124,6 @@ private:
     void listTold(const UEvent& event);
     void commit(std::uint16_t second);
     void giveUp();
-    void closeEditor();
 
     FormProportionType mProportion;
     bool mFlag;
