@@ -95,9 +95,13 @@ void ContextMenu::addCommandWithIcon(MenuCommand* command, Command* other, bool 
 
 void ContextMenu::setCommands(const std::vector<MenuCommand*>& commands)
 {
+    // Each notice may delete the menu.
+    const Living<Displayable> self(this);
     clearCommands();
-    for (MenuCommand* command : commands)
-        addCommandWithIcon(command, nullptr, false);
+    for (MenuCommand* command : commands) {
+        if (self)
+            addCommandWithIcon(command, nullptr, false);
+    }
 }
 
 void ContextMenu::clearCommands()

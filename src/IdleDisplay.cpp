@@ -15,6 +15,7 @@
 #include <TranslationInfo.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace DisplayAPI {
 
@@ -226,12 +227,12 @@ void IdleDisplay::addCommandImpl(Command* command)
 
 void IdleDisplay::setCommands(const std::vector<MenuCommand*>& commands)
 {
+    // Each notice may delete the screen.
+    const Living<Displayable> self(this);
     clearCommands();
     for (MenuCommand* command : commands) {
-        // Each notice may delete the screen.
-        if (!displayableExists(this))
-            return;
-        addCommand(command);
+        if (self)
+            addCommand(command);
     }
 }
 

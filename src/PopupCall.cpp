@@ -170,9 +170,13 @@ void PopupCall::addCommand(MenuCommand* command)
 
 void PopupCall::setCommands(const std::vector<MenuCommand*>& commands)
 {
+    // Each notice may delete the popup.
+    const Living<Displayable> self(this);
     clearCommands();
-    for (MenuCommand* command : commands)
-        addCommand(command);
+    for (MenuCommand* command : commands) {
+        if (self)
+            addCommand(command);
+    }
 }
 
 void PopupCall::setDefaultCommand(MenuCommand* command)

@@ -70,6 +70,10 @@ INSTANTIATE_TEST_SUITE_P(ContextMenu, EveryScreenTest,
             {"OK", [](auto&, auto& stage) { stage.press(UGlobal::KeyOk); }},
             {"Left", [](auto&, auto& stage) { stage.press(UGlobal::KeyLeft); }, false},
             {"setDefaultCommand", [](auto& menu, auto& stage) { menu.setDefaultCommand(&stage.last); }},
+            {"setCommands",
+                [](auto& menu, auto& stage) {
+                    menu.setCommands({&stage.no, &stage.yes});
+                }},
             {"clearCommands", [](auto& menu, auto&) { menu.clearCommands(); }},
             {"auto-hide", [](auto&, auto& stage) { stage.advance(3000); }},
             {"dismiss", [](auto& menu, auto&) { menu.dismiss(); }},

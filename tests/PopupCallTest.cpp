@@ -83,6 +83,10 @@ INSTANTIATE_TEST_SUITE_P(PopupCall, EveryScreenTest,
             {"setDefaultCommand", [](auto& popup, auto& stage) { popup.setDefaultCommand(&stage.last); }},
             {"setState", [](auto& popup, auto&) { popup.setState(PopupCall::RINGING_GROUP, PopupCall::URGENT); }},
             {"another state", [](auto& popup, auto&) { popup.setState(PopupCall::CONNECTING, PopupCall::NORMAL); }},
+            {"setCommands",
+                [](auto& popup, auto& stage) {
+                    popup.setCommands({&stage.no, &stage.yes});
+                }},
             {"clearCommands", [](auto& popup, auto&) { popup.clearCommands(); }},
             {"dismiss", [](auto& popup, auto&) { popup.dismiss(); }},
         },
