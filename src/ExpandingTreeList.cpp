@@ -9,8 +9,6 @@
 
 #include <ExpandingListMEG.h>
 
-#include <utility>
-
 namespace DisplayAPI {
 
 enum class ExpandingTreeList::Request : int {
@@ -103,8 +101,7 @@ void ExpandingTreeList::clear()
 /// They tell of nothing on their way.
 void ExpandingTreeList::deleteItems()
 {
-    for (ExpandingTreeListItem* item : mItems->all())
-        item->mList = nullptr;
+    mItems->forEach([](ExpandingTreeListItem& item) { item.mList = nullptr; });
     mItems->deleteAll();
 }
 
@@ -168,8 +165,7 @@ void ExpandingTreeList::localeChanged(std::string locale)
 {
     if (mPrivate)
         mPrivate->localeChanged(locale);
-    for (ExpandingTreeListItem* item : mItems->all())
-        item->localeChanged(locale);
+    mItems->forEach([&locale](ExpandingTreeListItem& item) { item.localeChanged(locale); });
 }
 
 // Commands

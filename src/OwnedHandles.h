@@ -69,6 +69,21 @@ public:
         return -1;
     }
 
+    /// Calls `visit(handle)` for each that lives when its turn comes. It may delete others, and the owner.
+    template <typename Visit>
+    void forEach(Visit visit) const
+    {
+        std::vector<Living<T>> entries;
+        {
+            std::lock_guard lock(mMutex);
+            entries = mEntries;
+        }
+        for (const Living<T>& entry : entries) {
+            if (T* handle = entry.get())
+                visit(*handle);
+        }
+    }
+
     // Changes; an index outside is ignored
 
     void add(T* handle)

@@ -216,6 +216,25 @@ TEST_F(ExpandingTreeListTest, AnItemMayTakeItsListWithIt)
     EXPECT_FALSE(mortal);
 }
 
+TEST_F(ExpandingTreeListTest, AnItemMayTakeAnotherWithItAtAChangeOfLocale)
+{
+    struct Jealous : CallForwardItem {
+        Jealous()
+            : CallForwardItem(icon(0), nullptr, false, false)
+        {
+        }
+        void localeChanged(std::string) override { delete std::exchange(other, nullptr); }
+
+        ExpandingTreeListItem* other = nullptr;
+    };
+    auto* jealous = new Jealous;
+    jealous->other = new Jealous;
+    list.append(jealous);
+    list.append(jealous->other);
+    list.localeChanged("de");
+    EXPECT_EQ(list.getExpandingItemsList(), std::vector<ExpandingTreeListItem*>{jealous});
+}
+
 TEST_F(ExpandingTreeListTest, EachKeyIsACommandAndNoneAChange)
 {
     RecordingListener listener;
