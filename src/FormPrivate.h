@@ -61,9 +61,11 @@ public:
     Item* getSelected() override;
     void setSelected(Item* item) override;
 
-    // Commands and listeners
+    // Commands and listeners. One that is added twice is told twice, and stays until it dies
 
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
+    void removeCommandListener(CommandListener*) override { }
+    void clearCommandListeners() override { }
     std::vector<CommandListener*> getCommandListeners() const;
     void addCommand(Command* command) override;
     void clearCommands() override;

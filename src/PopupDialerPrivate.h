@@ -51,8 +51,9 @@ public:
     int getSelectedIndex() override;
     bool selectionHasChanged() override;
 
-    // Listeners
+    // Listeners. One for commands stays until it dies
 
+    void removeCommandListener(CommandListener*) override { }
     void addItemStateListener(ItemStateListener* listener) override { mItemStateListeners.addOnce(listener); }
     void removeItemStateListener(ItemStateListener* listener) override { mItemStateListeners.remove(listener); }
 

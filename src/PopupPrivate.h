@@ -38,6 +38,9 @@ public:
     bool hideOldWidgetOnFocusGained() override { return false; }
     int widgetPosition() override { return 1; }
 
+    /// Without effect: listeners stay until they leave or die.
+    void clearCommandListeners() override { }
+
     void dismiss() override
     {
         // What the popup raises on its way down may delete this object.

@@ -43,9 +43,6 @@ public:
     void removeCommandListener(CommandListener* listener) override;
     std::vector<CommandListener*> getCommandListeners() const override;
 
-    /// Without effect: the listeners stay until they leave or die.
-    void clearCommandListeners() override { }
-
     // Life on the screen
 
     int widgetPosition() override { return 0; }

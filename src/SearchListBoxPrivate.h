@@ -61,6 +61,7 @@ public:
     std::vector<ItemStateListener*> getItemStateListeners() override;
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
     void removeCommandListener(CommandListener*) override { }
+    void clearCommandListeners() override { }
 
     // Life on the screen
 

@@ -67,9 +67,11 @@ public:
     /// The widget of the current tab's screen; null without one.
     UWidget* getWidgetOnCurrentTab() const;
 
-    // Listeners: one that is added twice is told twice
+    // Listeners. One that is added twice is told twice, and stays until it dies
 
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
+    void removeCommandListener(CommandListener*) override { }
+    void clearCommandListeners() override { }
     void setTabListener(TabListener* listener) override { mTabListeners.add(listener); }
 
     // What is up

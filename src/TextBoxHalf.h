@@ -50,6 +50,9 @@ public:
     void hide() override;
     void lostFocus() override { }
 
+    /// Without effect: listeners stay until they leave or die.
+    void clearCommandListeners() override { }
+
     // What the user does
 
     void event(UEvent* event) override;

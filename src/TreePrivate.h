@@ -72,9 +72,10 @@ public:
     bool keyEvent(UKeyEvent* key) override;
     void event(UEvent* event) override;
 
-    // Listeners: one that is added twice is told twice
+    // Listeners. One that is added twice is told twice, and stays until it leaves or dies
 
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
+    void clearCommandListeners() override { }
 
     // Life on the screen
 

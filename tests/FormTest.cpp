@@ -203,6 +203,8 @@ TEST_F(FormTest, ATextIsCopiedIntoAnother)
     form.append(other);
     translator.words = {{"Speller.menu.Copy", "Kopieren"}, {"Speller.menu.Paste", "Einsetzen"}};
     form.setSpellerLanguage(&translator);
+    form.getPrivateImpl()->removeCommandListener(&listener);
+    form.getPrivateImpl()->clearCommandListeners();
     show(form);
     for (const auto& [row, downs] : {std::pair("Kopieren?", 4), {"Einsetzen?", 5}}) {
         press(UGlobal::KeyOk);

@@ -124,6 +124,7 @@ TEST_F(PopupDialerTest, TypingMovingAndChoosingAreToldInOrder)
     dialer.addItemStateListener(&typing);
     dialer.addCommandListener(&listener);
     dialer.addCommandListener(&listener);
+    dialer.getPrivateImpl()->removeCommandListener(&listener);
     dialer.addCommand(&call);
     dialer.addCommand(&save);
     dialer.setMode(PopupDialer::LABEL);

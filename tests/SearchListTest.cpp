@@ -231,6 +231,7 @@ TEST_F(SearchListTest, OneThatListensTwiceIsToldTwiceAndStays)
 {
     list.addCommandListener(&listener);
     list.removeCommandListener(&listener);
+    list.getPrivateImpl()->clearCommandListeners();
     list.addItemStateListener(&listener);
     list.addItemStateListener(nullptr);
     auto& half = dynamic_cast<SearchListBoxPrivate&>(*list.getPrivateImpl());

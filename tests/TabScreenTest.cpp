@@ -168,6 +168,8 @@ TEST_F(TabScreenTest, AChosenTabComesUpWhenTheApplicationSaysSo)
     RecordingListener listener;
     tabs.addCommandListener(&listener);
     tabs.addCommandListener(&listener);
+    tabs.getPrivateImpl()->removeCommandListener(&listener);
+    tabs.getPrivateImpl()->clearCommandListeners();
     tabs.addTab("Missed", newList("Anna"), false);
     tabs.addTab("Dialled", newList("Carol"), false);
     show(tabs);

@@ -174,6 +174,14 @@ TEST_F(TreeTest, AnEmptyTreeBearsEveryKey)
     EXPECT_EQ(tree->getSelectedIndex(), 0);
     EXPECT_EQ(tree->getSelected(), nullptr);
     EXPECT_EQ(listener.waitFor(1).front().first->getType(), Command::Back);
+
+    RecordingListener second;
+    tree->addCommandListener(&second);
+    tree->getPrivateImpl()->removeCommandListener(&listener);
+    tree->getPrivateImpl()->clearCommandListeners();
+    press(UGlobal::KeyLeft);
+    EXPECT_EQ(second.waitFor(1).front().first->getType(), Command::Back);
+    EXPECT_EQ(listener.count(), 1U);
 }
 
 TEST_F(TreeTest, OkTellsWhatTheRowIsFor)
