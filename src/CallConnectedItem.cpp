@@ -88,13 +88,8 @@ void CallConnectedItem::endRow()
 {
     if (exists(this) && Road::wait(this, Request::Destroy))
         destroy();
-    if (!exists(this))
-        return;
-    // Refused, since the loop has ended: whoever has the row finds out when it asks.
-    leave();
-    HeldRows::noteRefusedDeath();
-    std::unique_ptr<CallConnectedItemPrivateIfc> half(mPrivate.exchange(nullptr));
-    Road::keepIfRefused(this, half);
+    if (exists(this))
+        HeldRows::refuseDeath(*this, mPrivate.exchange(nullptr));
 }
 
 ListItemPrivateIfc* CallConnectedItem::getPrivateImplemetation()

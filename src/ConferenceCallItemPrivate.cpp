@@ -47,10 +47,7 @@ CallConnectedItem* ConferenceCallItemPrivate::getTitleCall()
 void ConferenceCallItemPrivate::localeChanged(std::string locale)
 {
     CallConnectedItemPrivate::localeChanged(locale);
-    mMembers.forEach([&locale](ListItem& call) {
-        if (ListItemPrivateIfc* half = call.getPrivateImplemetation())
-            half->localeChanged(locale);
-    });
+    mMembers.localeChanged(locale);
     if (mTitleSuffixInfo && widget())
         widget()->setPrePrefixText(UString(mTitleSuffixInfo.string()));
 }

@@ -2,9 +2,14 @@
 
 #include <DisplayAPI/ListItemPrivateIfc.h>
 
+#include "GuiThread.h"
+#include "Road.h"
+
 #include <VantoListBoxItemMEG.h>
+#include <VantoListBoxMEG.h>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace DisplayAPI {
@@ -105,6 +110,14 @@ int HeldRows::indexOf(const Row& row) const
 bool HeldRows::holds(const ListItem* row) const
 {
     return ListItem::exists(row) && row->mHolder == this && !row->mIsLeaving;
+}
+
+void HeldRows::localeChanged(const std::string& locale)
+{
+    forEach([&locale](ListItem& row) {
+        if (ListItemPrivateIfc* half = row.getPrivateImplemetation())
+            half->localeChanged(locale);
+    });
 }
 
 /// Rows mostly come and go at one of the ends.
@@ -232,6 +245,18 @@ void HeldRows::rowDies(const Row& row, ListItemPrivateIfc* half)
         takeOut(index, half);
 }
 
+bool HeldRows::giveToHalf(VantoListBoxMEG* list, ListItemPrivateIfc& half)
+{
+    assertGuiThread();
+    VantoListBoxItemMEG* row = half.getVantoListItem();
+    if (row && (!list || row->parentWidget() != list))
+        return false;
+    if (row)
+        list->removeItem(row);
+    half.gainOwnership();
+    return true;
+}
+
 // The end
 
 void HeldRows::loseToolkitRows()
@@ -271,6 +296,14 @@ void HeldRows::endSteps()
 {
     for (Step* step = std::exchange(mSteps, nullptr); step; step = step->mOuter)
         step->mRows = nullptr;
+}
+
+void HeldRows::refuseDeath(ListItem& row, ListItemPrivateIfc* half)
+{
+    row.leave();
+    ++refusedDeaths;
+    std::unique_ptr<ListItemPrivateIfc> kept(half);
+    Road::keepIfRefused(&row, kept);
 }
 
 bool HeldRows::forgetDead()

@@ -10,6 +10,8 @@
 #include <mutex>
 #include <vector>
 
+class VantoListBoxMEG;
+
 namespace DisplayAPI {
 
 /// The rows of a list in their order, each with what it takes to survive a notice.
@@ -80,6 +82,9 @@ public:
         }
     }
 
+    /// Lets all rows read their translations again.
+    void localeChanged(const std::string& locale);
+
     // Arrival
 
     /// Enters a row that is free or stands here in front of `index`, and holds it from now on.
@@ -138,6 +143,10 @@ public:
             finishLeaving(*row);
     }
 
+    /// Gives the row of a half, which a toolkit's list has, back to it. A row that stands elsewhere stays there, and
+    /// the answer is false.
+    static bool giveToHalf(VantoListBoxMEG* list, ListItemPrivateIfc& half);
+
     // The end
 
     /// The toolkit's list has deleted its rows, or they are no more to be touched.
@@ -152,8 +161,9 @@ public:
     /// Forgets the rows whose deletion was refused since the loop had ended. True if there were any.
     bool forgetDead();
 
-    /// Counts a row whose deletion was refused, once it has left the living. Threads: any.
-    static void noteRefusedDeath() { ++refusedDeaths; }
+    /// The end of a row whose deletion was refused, since the loop had ended: whoever has it finds out when it asks.
+    /// Its half stays until there is another loop. Threads: any.
+    static void refuseDeath(ListItem& row, ListItemPrivateIfc* half);
 
     // A row tells its holder
 

@@ -7,6 +7,7 @@
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
 #include "GuiThread.h"
+#include "HeldRows.h"
 #include "ScreenHolder.h"
 #include "Serialiser.h"
 #include "TranslationHolder.h"
@@ -166,7 +167,7 @@ void ListBoxPrivate::insertAt(ListItemPrivateIfc* row, int index)
 void ListBoxPrivate::removeAt(int, ListItemPrivateIfc* row)
 {
     if (row)
-        takeOut(row);
+        HeldRows::giveToHalf(list(), *row);
     generateDisplayChangedEvent();
 }
 
@@ -174,7 +175,7 @@ void ListBoxPrivate::remove(ListItemPrivateIfc* row)
 {
     if (!row)
         return;
-    if (takeOut(row) && list() && list()->count() == 0)
+    if (HeldRows::giveToHalf(list(), *row) && list() && list()->count() == 0)
         leaveScreen();
     generateDisplayChangedEvent();
 }
@@ -208,7 +209,7 @@ void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow
     if (!newRow || !list())
         return;
     if (oldRow)
-        takeOut(oldRow);
+        HeldRows::giveToHalf(list(), *oldRow);
     if (VantoListBoxItemMEG* widget = newRow->getVantoListItem()) {
         list()->removeItem(widget);
         list()->insertItem(widget, index);
@@ -216,19 +217,6 @@ void ListBoxPrivate::move(ListItemPrivateIfc* oldRow, ListItemPrivateIfc* newRow
     newRow->releaseOwnership();
     comeBack();
     generateDisplayChangedEvent();
-}
-
-/// Gives a row of this list back to its private; a row that stands elsewhere stays there, and the answer is false.
-bool ListBoxPrivate::takeOut(ListItemPrivateIfc* row)
-{
-    assertGuiThread();
-    VantoListBoxItemMEG* widget = row->getVantoListItem();
-    if (widget && (!list() || widget->parentWidget() != list()))
-        return false;
-    if (widget)
-        list()->removeItem(widget);
-    row->gainOwnership();
-    return true;
 }
 
 // Title

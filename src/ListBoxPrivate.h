@@ -99,7 +99,6 @@ protected:
 
 private:
     VantoListBoxMEG* list() const { return mWidget ? mWidget->list() : nullptr; }
-    bool takeOut(ListItemPrivateIfc* row);
     void leaveScreen();
     void comeBack();
     void listenTo(VantoListBoxItemMEG* row);

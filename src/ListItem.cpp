@@ -97,13 +97,8 @@ void ListItem::destroy()
         retireRow(mPrivate);
         delete mPrivate.exchange(nullptr);
     }
-    if (!exists(this))
-        return;
-    // Refused, since the loop has ended: a list that has the row finds out when it asks.
-    leave();
-    HeldRows::noteRefusedDeath();
-    std::unique_ptr<ListItemPrivateIfc> half(mPrivate.exchange(nullptr));
-    Road::keepIfRefused(this, half);
+    if (exists(this))
+        HeldRows::refuseDeath(*this, mPrivate.exchange(nullptr));
 }
 
 void ListItem::processGuiRequest(GuiRequestEvent& event)

@@ -37,10 +37,7 @@ void List::cleanup()
 
 void List::localeChanged(std::string locale)
 {
-    mItems->forEach([&locale](ListItem& row) {
-        if (ListItemPrivateIfc* half = row.getPrivateImplemetation())
-            half->localeChanged(locale);
-    });
+    mItems->localeChanged(locale);
 }
 
 void List::createAndAppendItem(ListItem* item)

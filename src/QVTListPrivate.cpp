@@ -150,12 +150,7 @@ void QVTListPrivate::remove(ListItemPrivateIfc* row)
 {
     if (!row || !list())
         return;
-    VantoListBoxItemMEG* widget = row->getVantoListItem();
-    const bool isElsewhere = widget && widget->parentWidget() != list();
-    if (!isElsewhere) {
-        list()->removeItem(widget);
-        row->gainOwnership();
-    }
+    HeldRows::giveToHalf(list(), *row);
     generateDisplayChangedEvent();
 }
 

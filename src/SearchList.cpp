@@ -7,7 +7,6 @@
 #include "Road.h"
 #include "SearchListBoxPrivate.h"
 
-#include <utility>
 #include <vector>
 
 namespace DisplayAPI {
@@ -307,10 +306,7 @@ void SearchList::setWaitAnimation(bool) { }
 
 void SearchList::localeChanged(std::string locale)
 {
-    mItems->forEach([&locale](ListItem& row) {
-        if (ListItemPrivateIfc* rowHalf = row.getPrivateImplemetation())
-            rowHalf->localeChanged(locale);
-    });
+    mItems->localeChanged(locale);
 }
 
 // Road across threads

@@ -6,6 +6,7 @@
 #include "CurrentApplication.h"
 #include "ExistingDisplayables.h"
 #include "GuiThread.h"
+#include "HeldRows.h"
 #include "ScreenTextWriter.h"
 #include "Serialiser.h"
 
@@ -62,7 +63,7 @@ void SearchListBoxPrivate::insertAt(ListItemPrivateIfc* row, int index)
 void SearchListBoxPrivate::removeAt(int, ListItemPrivateIfc* row)
 {
     if (row)
-        takeOut(row);
+        HeldRows::giveToHalf(list(), *row);
     generateDisplayChangedEvent();
 }
 
@@ -70,20 +71,8 @@ void SearchListBoxPrivate::remove(ListItemPrivateIfc* row)
 {
     if (!row)
         return;
-    takeOut(row);
+    HeldRows::giveToHalf(list(), *row);
     generateDisplayChangedEvent();
-}
-
-/// Gives a row of this list back to its half; a row that stands elsewhere stays there.
-void SearchListBoxPrivate::takeOut(ListItemPrivateIfc* row)
-{
-    assertGuiThread();
-    VantoListBoxItemMEG* widget = row->getVantoListItem();
-    if (widget && (!list() || widget->parentWidget() != list()))
-        return;
-    if (widget)
-        list()->removeItem(widget);
-    row->gainOwnership();
 }
 
 void SearchListBoxPrivate::clear()

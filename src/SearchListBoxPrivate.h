@@ -87,7 +87,6 @@ public:
 
 private:
     VantoListBoxMEG* list() const { return mWidget ? mWidget->list() : nullptr; }
-    void takeOut(ListItemPrivateIfc* row);
     void showTitle(const std::string& title, bool isInsideDetailsMenu);
     void showHint();
     void tellListeners(Command* command);
