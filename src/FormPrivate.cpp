@@ -10,6 +10,7 @@
 #include "GuiThread.h"
 #include "SelectionFieldPrivate.h"
 #include "SliderItemPrivate.h"
+#include "TellAndShow.h"
 
 #include <EventTypes.h>
 #include <HardwareVersion.h>
@@ -324,7 +325,7 @@ void FormPrivate::selectionFieldChanged()
 
 void FormPrivate::leftEvent()
 {
-    tellAndShow(Form::BACK_COMMAND());
+    tellAndShow(*this, Form::BACK_COMMAND(), mParent);
 }
 
 void FormPrivate::spellerOk()
@@ -338,10 +339,7 @@ void FormPrivate::clicked()
         return;
     const auto found = mCommandRows.find(mWidget->currentRow());
     Command* command = found == mCommandRows.end() ? Form::OK_COMMAND() : found->second.get();
-    if (command)
-        tellAndShow(command);
-    else
-        generateDisplayChangedEvent();
+    tellAndShow(*this, command, mParent);
 }
 
 void FormPrivate::formDisplayChanged()
@@ -356,7 +354,7 @@ void FormPrivate::listDisplayChanged()
 
 void FormPrivate::contextMenuChanged()
 {
-    tellAndShow(Form::SELECTION_DISPLAY_COMMAND());
+    tellAndShow(*this, Form::SELECTION_DISPLAY_COMMAND(), mParent);
 }
 
 void FormPrivate::clipboardChanged()
@@ -367,14 +365,6 @@ void FormPrivate::clipboardChanged()
 void FormPrivate::tell(Command* command)
 {
     postCommand(command, mParent);
-}
-
-void FormPrivate::tellAndShow(Command* command)
-{
-    LifeNode life(this);
-    tell(command);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
 }
 
 }

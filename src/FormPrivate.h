@@ -137,7 +137,6 @@ private:
     bool giveRow(ItemPrivateIfc* item);
     void showTranslatedTitle();
     void tell(Command* command);
-    void tellAndShow(Command* command);
     void writeRow(ScreenTextWriter& writer, int index) const;
     void writeValue(ScreenTextWriter& writer, const FormListBoxItemMEG& row, bool isCurrent) const;
     void writeChoice(ScreenTextWriter& writer) const;

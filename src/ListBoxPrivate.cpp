@@ -10,6 +10,7 @@
 #include "HeldRows.h"
 #include "ScreenHolder.h"
 #include "Serialiser.h"
+#include "TellAndShow.h"
 #include "TranslationHolder.h"
 
 #include <TreeItemMEG.h>
@@ -329,11 +330,7 @@ void ListBoxPrivate::rightEvent()
 
 void ListBoxPrivate::tellOwner(Command* command)
 {
-    LifeNode life(this);
-    if (displayableExists(mOwner))
-        postCommand(command, mOwner);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    tellAndShow(*this, displayableExists(mOwner) ? command : nullptr, mOwner);
 }
 
 }

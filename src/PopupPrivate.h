@@ -7,6 +7,7 @@
 #include "CurrentApplication.h"
 #include "GuiThread.h"
 #include "OwnershipDelegate.h"
+#include "TellAndShow.h"
 #include "TranslationHolder.h"
 
 #include <UAgent.h>
@@ -162,12 +163,7 @@ protected:
     /// Posts the command of a chosen row, unless it has died; null for a row without one.
     void tellChoice(const CommandRow* row, Displayable* screen)
     {
-        // A listener that overrides the posting may delete this object.
-        LifeNode life(this);
-        if (Command* command = row ? row->command().get() : nullptr)
-            this->postCommand(command, screen);
-        if (life.isAlive())
-            this->generateDisplayChangedEvent();
+        tellAndShow(*this, row ? row->command().get() : nullptr, screen);
     }
 
     std::vector<Living<Command>> mCommands; // in the order of adding

@@ -8,6 +8,7 @@
 #include "GuiThread.h"
 #include "HeldRows.h"
 #include "ListTrace.h"
+#include "TellAndShow.h"
 
 #include <UEvent.h>
 #include <VantoListBoxItemMEG.h>
@@ -252,11 +253,7 @@ void QVTListPrivate::localeChanged(std::string locale)
 
 void QVTListPrivate::tellParent(Command* command)
 {
-    const LifeNode life(this);
-    if (displayableExists(mParent))
-        postCommand(command, mParent);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    tellAndShow(*this, displayableExists(mParent) ? command : nullptr, mParent);
 }
 
 }

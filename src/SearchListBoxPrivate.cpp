@@ -9,6 +9,7 @@
 #include "HeldRows.h"
 #include "ScreenTextWriter.h"
 #include "Serialiser.h"
+#include "TellAndShow.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
@@ -243,10 +244,7 @@ void SearchListBoxPrivate::textEntered()
 
 void SearchListBoxPrivate::tellListeners(Command* command)
 {
-    LifeNode life(this);
-    postCommand(command, mParent);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    tellAndShow(*this, command, mParent);
 }
 
 // Screen text

@@ -5,6 +5,7 @@
 #include "CurrentApplication.h"
 #include "GuiThread.h"
 #include "ScreenTextWriter.h"
+#include "TellAndShow.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
@@ -122,12 +123,9 @@ void TabScreenPrivate::event(UEvent* event)
 
 void TabScreenPrivate::tabChosen()
 {
-    LifeNode life(this);
     if (const int index = list() ? list()->currentIndex() : -1; index >= 0)
         mSelected = static_cast<unsigned int>(index);
-    postCommand(TabScreen::OK(), mParent);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    tellAndShow(*this, TabScreen::OK(), mParent);
 }
 
 void TabScreenPrivate::backSelected()
@@ -135,9 +133,7 @@ void TabScreenPrivate::backSelected()
     LifeNode life(this);
     if (mWidget)
         mWidget->setVisible(false);
-    postCommand(TabScreen::BACK_COMMAND(), mParent);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    tellAndShow(*this, TabScreen::BACK_COMMAND(), mParent);
     if (auto* application = VantoUApplication::getCurrentApplication())
         application->releaseFullScreen();
     if (life.isAlive())

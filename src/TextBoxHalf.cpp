@@ -2,6 +2,7 @@
 
 #include "CurrentApplication.h"
 #include "GuiThread.h"
+#include "TellAndShow.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
@@ -81,11 +82,7 @@ void TextBoxHalf::event(UEvent* event)
 
 void TextBoxHalf::leftEvent()
 {
-    // A listener that overrides the posting may delete this object.
-    LifeNode life(this);
-    postCommand(TextBox::BACK_COMMAND(), mParent);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    tellAndShow(*this, TextBox::BACK_COMMAND(), mParent);
 }
 
 // Screen text
