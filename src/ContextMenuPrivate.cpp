@@ -7,6 +7,8 @@
 #include "ContextMenuText.h"
 #include "CurrentApplication.h"
 #include "GuiThread.h"
+#include "TellAndShow.h"
+#include "WidgetRects.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
@@ -335,13 +337,8 @@ void ContextMenuPrivate::rowChosen(const VantoListBoxItemMEG* row)
     resetAutoHideTimer();
     // Read before the agent hears of it, since it may take the row away.
     const Living<Command> command(commandOf(row));
-    LifeNode life(this);
-    if (!tellAgent(EventType::RowChosen))
-        return;
-    if (Command* living = command.get())
-        postCommand(living, mOwner);
-    if (life.isAlive())
-        generateDisplayChangedEvent();
+    if (tellAgent(EventType::RowChosen))
+        tellAndShow(*this, command.get(), mOwner);
 }
 
 void ContextMenuPrivate::arrowPressed(Command& command)
@@ -371,19 +368,12 @@ std::string ContextMenuPrivate::serialise(const ContextMenuMEG* menu) const
 
 std::string ContextMenuPrivate::serialise(const std::vector<Rect>& rects)
 {
-    std::vector<URect> corners;
-    for (const Rect& rect : rects)
-        corners.emplace_back(rect.left(), rect.top(), rect.right(), rect.bottom());
-    return serialise(corners);
+    return serialise(widgetRects(rects));
 }
 
 std::string ContextMenuPrivate::serialise(const std::vector<URect>& rects) const
 {
-    if (!mWidget)
-        return {};
-    const URect own = mWidget->getRect();
-    const bool isInside
-        = std::any_of(rects.begin(), rects.end(), [&own](const URect& rect) { return rect.contains(own); });
+    const bool isInside = mWidget && isWhollyIn(mWidget->getRect(), rects);
     return isInside ? contextMenuText(mWidget.get()) : std::string();
 }
 

@@ -2,6 +2,7 @@
 
 #include "CurrentApplication.h"
 #include "GuiThread.h"
+#include "WidgetRects.h"
 
 #include <EventTypes.h>
 #include <UEvent.h>
@@ -213,10 +214,7 @@ std::string DesktopPrivate::serialise()
 
 std::string DesktopPrivate::serialise(const std::vector<Rect>& rects)
 {
-    std::vector<URect> corners;
-    for (const Rect& rect : rects)
-        corners.emplace_back(rect.left(), rect.top(), rect.right(), rect.bottom());
-    return mWidget ? mWidget->serialise(corners).toUTF8() : std::string();
+    return mWidget ? mWidget->serialise(widgetRects(rects)).toUTF8() : std::string();
 }
 
 }

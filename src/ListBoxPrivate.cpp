@@ -12,6 +12,7 @@
 #include "Serialiser.h"
 #include "TellAndShow.h"
 #include "TranslationHolder.h"
+#include "WidgetRects.h"
 
 #include <TreeItemMEG.h>
 #include <UApplication.h>
@@ -78,12 +79,8 @@ std::string ListBoxPrivate::serialise()
 
 std::string ListBoxPrivate::serialise(const std::vector<Rect>& rects)
 {
-    std::vector<URect> widgetRects;
-    widgetRects.reserve(rects.size());
-    for (const Rect& rect : rects)
-        widgetRects.emplace_back(rect.left(), rect.top(), rect.right(), rect.bottom());
     Serialiser serialiser;
-    std::string text = serialiser.serialiseVantoListBox(std::move(widgetRects), mWidget);
+    std::string text = serialiser.serialiseVantoListBox(widgetRects(rects), mWidget);
     mHasCaption = serialiser.hasCaption();
     return text;
 }

@@ -9,6 +9,7 @@
 #include "OwnershipDelegate.h"
 #include "TellAndShow.h"
 #include "TranslationHolder.h"
+#include "WidgetRects.h"
 
 #include <UAgent.h>
 #include <UString.h>
@@ -112,9 +113,7 @@ protected:
     /// True if one of the rectangles holds the whole popup.
     bool isWhollyIn(const std::vector<URect>& rects) const
     {
-        return mWidget && std::any_of(rects.begin(), rects.end(), [own = mWidget->getRect()](const URect& rect) {
-            return rect.contains(own);
-        });
+        return mWidget && DisplayAPI::isWhollyIn(mWidget->getRect(), rects);
     }
 
     PopupWidget* mWidget;

@@ -1,6 +1,7 @@
 #include "Serialiser.h"
 
 #include "ScreenTextWriter.h"
+#include "WidgetRects.h"
 
 #include <CallRowsMEG.h>
 #include <TreeItemMEG.h>
@@ -8,7 +9,6 @@
 #include <VantoListBoxMEG.h>
 #include <VantoListBoxWithTitleMEG.h>
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -107,9 +107,7 @@ void writeLeaf(ScreenTextWriter& writer, const std::vector<URect>& rects, const 
     if (!child || child->elementKind() != TreeElement::LeafElement || !branch.childShown())
         return;
     const auto& leaf = static_cast<const Leaf&>(*child);
-    const URect place = leaf.getRect();
-    const bool isSeen = std::any_of(rects.begin(), rects.end(), [&](const URect& r) { return r.contains(place); });
-    if (!isSeen || leaf.text().isEmpty())
+    if (!isWhollyIn(leaf.getRect(), rects) || leaf.text().isEmpty())
         return;
     writer.subitem("Leaf");
     writer.field("string0", leaf.text().toUTF8());
