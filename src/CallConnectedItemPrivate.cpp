@@ -110,30 +110,10 @@ bool CallConnectedItemPrivate::getEnabled()
 
 // Texts
 
-void CallConnectedItemPrivate::setText(std::string text)
-{
-    showText(mTextInfo.show(text));
-}
-
-void CallConnectedItemPrivate::setText(TranslationInfo* text)
-{
-    showText(mTextInfo.show(text));
-}
-
 void CallConnectedItemPrivate::showText(const std::string& text)
 {
     if (mWidget)
         mWidget->setText(UString(text));
-}
-
-void CallConnectedItemPrivate::setSecondLineText(std::string text)
-{
-    showSecondLine(mSecondLineInfo.show(text));
-}
-
-void CallConnectedItemPrivate::setSecondLineText(TranslationInfo* text)
-{
-    showSecondLine(mSecondLineInfo.show(text));
 }
 
 void CallConnectedItemPrivate::showSecondLine(const std::string& text)
@@ -146,16 +126,6 @@ void CallConnectedItemPrivate::clearSecondLineText()
 {
     if (mWidget)
         mWidget->clearSecondLineText();
-}
-
-void CallConnectedItemPrivate::setBranchIdString(std::string id)
-{
-    showId(mBranchIdInfo.show(id));
-}
-
-void CallConnectedItemPrivate::setBranchIdString(TranslationInfo* id)
-{
-    showId(mBranchIdInfo.show(id));
 }
 
 void CallConnectedItemPrivate::showId(const std::string& id)

@@ -30,18 +30,18 @@ public:
     void event(UEvent* event) override;
     void setState(CallConnectedItem::CallStateIcon state) override;
     void setPictureClip(Image*) override { }
-    void setText(std::string text) override;
-    void setText(TranslationInfo* text) override;
-    void setSecondLineText(std::string text) override;
-    void setSecondLineText(TranslationInfo* text) override;
+    void setText(std::string text) override { showText(mTextInfo.show(text)); }
+    void setText(TranslationInfo* text) override { showText(mTextInfo.show(text)); }
+    void setSecondLineText(std::string text) override { showSecondLine(mSecondLineInfo.show(text)); }
+    void setSecondLineText(TranslationInfo* text) override { showSecondLine(mSecondLineInfo.show(text)); }
     void setThirdLineIconText(ForwardedCallType, std::string) override { }
     void setPartyDetailsReq(CallPartyIdentifier* party, CallPartyIdentifier* second, ForwardedCallType type,
         const std::string& prefixText, TranslationInfo* prefixInfo) override;
     void clearSecondLineText() override;
     void setSecurityState(CallConnectedItem::CallSecurityState state) override;
     void setRecordingState(bool recording) override;
-    void setBranchIdString(std::string id) override;
-    void setBranchIdString(TranslationInfo* id) override;
+    void setBranchIdString(std::string id) override { showId(mBranchIdInfo.show(id)); }
+    void setBranchIdString(TranslationInfo* id) override { showId(mBranchIdInfo.show(id)); }
     std::string getBranchIdString() override;
     ContextMenu* getContextMenu() override { return mContextMenu; }
     VantoListBoxItemMEG* getVantoListItem() override { return mWidget; }

@@ -95,16 +95,6 @@ void CallForwardItemPrivate::setCFIconVisible(bool visible)
 
 // Texts
 
-void CallForwardItemPrivate::setTextMain(const std::string& text)
-{
-    showMainText(mMainInfo.show(text));
-}
-
-void CallForwardItemPrivate::setTextMain(TranslationInfo* text)
-{
-    showMainText(mMainInfo.show(text));
-}
-
 // The prefix is read first: it may be the very translation that goes.
 
 void CallForwardItemPrivate::setTextBranch(

@@ -42,8 +42,8 @@ public:
     // Texts
 
     std::string getText() override { return mRow ? mRow->getText().toUTF8() : std::string(); }
-    void setTextMain(const std::string& text) override;
-    void setTextMain(TranslationInfo* text) override;
+    void setTextMain(const std::string& text) override { showMainText(mMainInfo.show(text)); }
+    void setTextMain(TranslationInfo* text) override { showMainText(mMainInfo.show(text)); }
     void setTextBranch(
         const std::string& text, TranslationInfo* prefix, CallForwardItem::eCallForwardBranchLine line) override;
     void setTextBranch(

@@ -53,26 +53,6 @@ void ListItemPrivate::localeChanged(std::string)
         showText(mTextInfo.completeString());
 }
 
-void ListItemPrivate::setText(std::string text)
-{
-    showText(mTextInfo.show(text));
-}
-
-void ListItemPrivate::setText(TranslationInfo* text)
-{
-    showText(mTextInfo.show(text));
-}
-
-void ListItemPrivate::setRightText(std::string text)
-{
-    showRightText(mRightTextInfo.show(text));
-}
-
-void ListItemPrivate::setRightText(TranslationInfo* text)
-{
-    showRightText(mRightTextInfo.show(text));
-}
-
 void ListItemPrivate::startInfiniteProgressBar()
 {
     if (mIsProgressRow && mWidget)

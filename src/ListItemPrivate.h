@@ -36,10 +36,10 @@ public:
 
     // Content. The forms with a translation take it over.
 
-    void setText(std::string text) override;
-    void setText(TranslationInfo* text) override;
-    void setRightText(std::string text) override;
-    void setRightText(TranslationInfo* text) override;
+    void setText(std::string text) override { showText(mTextInfo.show(text)); }
+    void setText(TranslationInfo* text) override { showText(mTextInfo.show(text)); }
+    void setRightText(std::string text) override { showRightText(mRightTextInfo.show(text)); }
+    void setRightText(TranslationInfo* text) override { showRightText(mRightTextInfo.show(text)); }
     VantoListBoxItemMEG* getVantoListItem() override { return mWidget; }
     void startInfiniteProgressBar() override;
     void setLeftIcon(Icons::IconType icon) override;

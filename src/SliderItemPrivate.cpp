@@ -84,16 +84,6 @@ void SliderItemPrivate::setRingerVolumeBarLimit(int limit)
 
 // Label
 
-void SliderItemPrivate::setLabel(const std::string& label)
-{
-    showLabel(mLabelInfo.show(label));
-}
-
-void SliderItemPrivate::setLabel(TranslationInfo* label)
-{
-    showLabel(mLabelInfo.show(label));
-}
-
 void SliderItemPrivate::showLabel(const std::string& label)
 {
     if (mRow)

@@ -32,8 +32,8 @@ public:
 
     // Label
 
-    void setLabel(const std::string& label) override;
-    void setLabel(TranslationInfo* label) override;
+    void setLabel(const std::string& label) override { showLabel(mLabelInfo.show(label)); }
+    void setLabel(TranslationInfo* label) override { showLabel(mLabelInfo.show(label)); }
     void localeChanged(std::string locale) override;
 
     // State
