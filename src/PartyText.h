@@ -7,6 +7,8 @@
 
 #include <string>
 
+class PopupNotificationMEG;
+
 namespace DisplayAPI {
 
 /// What a popup shows of a party, side by side.
@@ -16,26 +18,15 @@ struct NameAndNumber {
 };
 
 /// "unknown caller" in the user's language.
-inline std::string unknownParty()
-{
-    return TranslationInfo(CallPartyIdentifier::UnknownParty, DisplayablePrivate::commonTranslator).getString();
-}
+std::string unknownParty();
 
 /// Who calls or is called: what is not known is left out, and a party of whom nothing is known is called unknown.
-inline NameAndNumber firstParty(const CallPartyIdentifier& party)
-{
-    const std::string unknown = CallPartyIdentifier::UnknownParty;
-    if (party.name == unknown && party.number == unknown)
-        return {unknownParty(), {}};
-    return {party.name == unknown ? "" : party.name, party.number == unknown ? "" : party.number};
-}
+NameAndNumber firstParty(const CallPartyIdentifier& party);
 
-/// Whose call it was before it was forwarded: an unknown number is called unknown, an unknown name is left out.
-inline NameAndNumber secondParty(const CallPartyIdentifier& party)
-{
-    const std::string unknown = CallPartyIdentifier::UnknownParty;
-    return {party.name == unknown ? "" : party.name, party.number == unknown ? unknownParty() : party.number};
-}
+/// Shows the first party on the first line: name and number where both are known, else the one that is. On the second
+/// line stands whose call it was before it was forwarded, unless that is null: an unknown number is called unknown, an
+/// unknown name is left out.
+void showParties(PopupNotificationMEG& popup, const NameAndNumber& first, const CallPartyIdentifier* second);
 
 /// Calls `show` with the party's name, else its number, else with a translation of "unknown caller" for it to take
 /// over.

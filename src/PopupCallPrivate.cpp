@@ -79,11 +79,6 @@ const StateLook* lookOf(PopupCall::CallState state)
     return found == std::end(StateLooks) ? nullptr : found;
 }
 
-UString fromUTF8(const std::string& text)
-{
-    return UString::fromUTF8(text);
-}
-
 std::string withColon(const UString& prefix)
 {
     return prefix.isEmpty() ? std::string() : prefix.toUTF8() + ": ";
@@ -176,19 +171,11 @@ void PopupCallPrivate::showParties(const CallPartyIdentifier& party, const CallP
 {
     if (!mWidget)
         return;
-    const auto [name, number] = caller(party);
-    if (second) {
-        const auto [secondName, secondNumber] = secondParty(*second);
+    if (second)
         mWidget->setLine2Icon1(ForwardedIcon);
-        mWidget->setLine1TextNN(fromUTF8(name), fromUTF8(number));
-        mWidget->setLine2TextNN(fromUTF8(secondName), fromUTF8(secondNumber));
-        return;
-    }
-    mWidget->setLine2Text(UString());
-    if (!name.empty() && !number.empty())
-        mWidget->setLine1TextNN(fromUTF8(name), fromUTF8(number));
     else
-        mWidget->setLine1Text(fromUTF8(name.empty() ? number : name));
+        mWidget->setLine2Text(UString());
+    DisplayAPI::showParties(*mWidget, caller(party), second);
 }
 
 // Texts
@@ -237,7 +224,7 @@ void PopupCallPrivate::writeLine2(const std::string& text)
 {
     // An empty one would change nothing, but take from a party's number that it is never cut.
     if (mWidget && mState == PopupCall::INCOMING && !text.empty())
-        mWidget->setText(fromUTF8(text) + mWidget->getText());
+        mWidget->setText(UString::fromUTF8(text) + mWidget->getText());
     put(mLine2.field, text);
     generateDisplayChangedEvent();
 }
@@ -249,7 +236,7 @@ void PopupCallPrivate::localeChanged(std::string)
     for (int i = 0; list() && i < list()->numItems(); ++i) {
         if (auto* row = dynamic_cast<CommandRow*>(list()->item(i))) {
             if (const auto shown = readCommand(row->command()))
-                row->setText(fromUTF8(shown->text));
+                row->setText(UString::fromUTF8(shown->text));
         }
     }
 }
@@ -320,20 +307,8 @@ void PopupCallPrivate::addLine2Row()
 
 void PopupCallPrivate::setDefaultCommand(MenuCommand* command)
 {
-    const Living<Command> living(command);
-    if (!living || !list())
-        return;
-    auto found = std::find(mCommands.begin(), mCommands.end(), living);
-    mDefaultIndex = static_cast<int>(found - mCommands.begin());
-    if (found == mCommands.end()) {
-        // The notice of the new choice may delete this object.
-        LifeNode life(this);
-        addCommand(command);
-        if (!life.isAlive())
-            return;
-    }
-    if (list())
-        list()->setCurrentItem(mDefaultIndex);
+    if (list() && Command::exists(command))
+        makeDefault(command);
 }
 
 void PopupCallPrivate::clearCommands()
@@ -342,16 +317,6 @@ void PopupCallPrivate::clearCommands()
         list()->clear();
     mCommands.clear();
     generateDisplayChangedEvent();
-}
-
-int PopupCallPrivate::getSelectedIndex()
-{
-    return list() ? list()->currentIndex() : -1;
-}
-
-bool PopupCallPrivate::selectionHasChanged()
-{
-    return std::exchange(mSelectionChanged, false);
 }
 
 CommandListener* PopupCallPrivate::listenerAt(int index) const

@@ -7,6 +7,8 @@
 
 #include <PopupCallMEG.h>
 
+#include <utility>
+
 class UEvent;
 
 namespace DisplayAPI {
@@ -51,8 +53,8 @@ public:
     void addCommand(MenuCommand* command) override;
     void setDefaultCommand(MenuCommand* command) override;
     void clearCommands() override;
-    int getSelectedIndex() override;
-    bool selectionHasChanged() override;
+    int getSelectedIndex() override { return currentRow(); }
+    bool selectionHasChanged() override { return std::exchange(mSelectionChanged, false); }
     const std::vector<Living<Command>>& getCommands() const { return mCommands; }
 
     // Listeners

@@ -1,6 +1,5 @@
 #include "PopupConfirmPrivate.h"
 
-#include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/MenuCommand.h>
 
 #include "ScreenTextWriter.h"
@@ -13,6 +12,7 @@
 #include <VantoListBoxMEG.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace DisplayAPI {
 
@@ -138,16 +138,6 @@ void PopupConfirmPrivate::clearCommands()
         list()->clear();
     mCommands.clear();
     generateDisplayChangedEvent();
-}
-
-int PopupConfirmPrivate::getSelectedIndex()
-{
-    return list() ? list()->currentIndex() : -1;
-}
-
-bool PopupConfirmPrivate::selectionHasChanged()
-{
-    return std::exchange(mSelectionChanged, false);
 }
 
 // Life on the screen

@@ -7,6 +7,8 @@
 
 #include <PopupCallMEG.h>
 
+#include <utility>
+
 class UEvent;
 
 namespace DisplayAPI {
@@ -48,8 +50,8 @@ public:
     void setDefaultCommand(Command* command) override;
     void removeCommand(Command* command) override;
     void clearCommands() override;
-    int getSelectedIndex() override;
-    bool selectionHasChanged() override;
+    int getSelectedIndex() override { return currentRow(); }
+    bool selectionHasChanged() override { return std::exchange(mSelectionChanged, false); }
 
     // Listeners
 

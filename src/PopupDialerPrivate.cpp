@@ -140,11 +140,6 @@ void PopupDialerPrivate::clearCommands()
     generateDisplayChangedEvent();
 }
 
-int PopupDialerPrivate::getSelectedIndex()
-{
-    return list() ? list()->currentIndex() : -1;
-}
-
 bool PopupDialerPrivate::selectionHasChanged()
 {
     logAppUni(LogModule, LogFile, TraceLevel, __LINE__, "Has changed: %d ", mSelectionChanged);

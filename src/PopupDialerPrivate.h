@@ -48,7 +48,7 @@ public:
     void removeCommand(MenuCommand* command) override;
     void clearCommands() override;
     bool hasCommands() const { return !mCommands.empty(); }
-    int getSelectedIndex() override;
+    int getSelectedIndex() override { return currentRow(); }
     bool selectionHasChanged() override;
 
     // Listeners. One for commands stays until it dies

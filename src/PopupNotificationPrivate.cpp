@@ -51,11 +51,6 @@ const TypeIcon* iconOf(PopupNotification::InfoType type)
     return found == std::end(TypeIcons) ? nullptr : found;
 }
 
-UString fromUTF8(const std::string& text)
-{
-    return UString::fromUTF8(text);
-}
-
 }
 
 PopupNotificationPrivate::PopupNotificationPrivate(Displayable* owner)
@@ -70,7 +65,7 @@ void PopupNotificationPrivate::setText(TranslationInfo* text)
 {
     const std::string shown = mText.info.show(text);
     if (mWidget) {
-        mWidget->setText(fromUTF8(shown));
+        mWidget->setText(UString::fromUTF8(shown));
         mWidget->setVisible(false);
     }
     generateDisplayChangedEvent();
@@ -121,22 +116,8 @@ void PopupNotificationPrivate::setForwardNotification(
     if (!party)
         return;
     if (mWidget)
-        showParties(*party, second);
+        showParties(*mWidget, firstParty(*party), second);
     generateDisplayChangedEvent();
-}
-
-void PopupNotificationPrivate::showParties(const CallPartyIdentifier& party, const CallPartyIdentifier* second)
-{
-    const auto [name, number] = firstParty(party);
-    if (second) {
-        const auto [secondName, secondNumber] = secondParty(*second);
-        mWidget->setLine1TextNN(fromUTF8(name), fromUTF8(number));
-        mWidget->setLine2TextNN(fromUTF8(secondName), fromUTF8(secondNumber));
-    } else if (!name.empty() && !number.empty()) {
-        mWidget->setLine1TextNN(fromUTF8(name), fromUTF8(number));
-    } else {
-        mWidget->setLine1Text(fromUTF8(name.empty() ? number : name));
-    }
 }
 
 // Life on the screen

@@ -62,7 +62,6 @@ private:
         InRects,
     };
 
-    void showParties(const CallPartyIdentifier& party, const CallPartyIdentifier* second);
     void popupCameUp();
     void popupWentDown();
     void giveBackTheGlass();

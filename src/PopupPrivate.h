@@ -131,6 +131,9 @@ protected:
     /// Null without a widget.
     VantoListBoxMEG* list() const { return this->mWidget ? this->mWidget->listBox : nullptr; }
 
+    /// The index of the current row, -1 without one.
+    int currentRow() const { return list() ? list()->currentIndex() : -1; }
+
     /// A command that has died is still found by its address, unless another one lives there.
     std::vector<Living<Command>>::iterator find(Command* command)
     {
