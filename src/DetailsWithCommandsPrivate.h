@@ -6,7 +6,6 @@
 #include <UAgent.h>
 
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 

@@ -6,6 +6,7 @@
 #include <Threadable.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace DisplayAPI {
 

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
-#include <utility>
 
 namespace DisplayAPI {
 
