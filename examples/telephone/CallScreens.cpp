@@ -1,392 +1,340 @@
 #include "CallScreens.h"
 
-#include <DisplayAPI/CallPartyIdentifier.h>
-#include <DisplayAPI/Display.h>
-#include <DisplayAPI/ForwardedCallType.h>
+#include "PartyTexts.h"
 
 #include <utility>
 
 using namespace DisplayAPI;
+using Cause = CallService::Cause;
+using Purpose = NumberEntry::Purpose;
 using State = CallService::State;
 
-namespace {
-
-constexpr int MenuTime = 10;                 // seconds
-constexpr ForwardedCallType NotForwarded{5}; // none of the enumeration, so that no text says so
-
-CallPartyIdentifier partyOf(const CallService::Call& call)
-{
-    CallPartyIdentifier party(call.name.empty() ? CallPartyIdentifier::UnknownParty : call.name,
-        call.number.empty() ? CallPartyIdentifier::UnknownParty : call.number);
-    party.displayText = call.name.empty() ? call.number : call.name;
-    return party;
-}
-
-bool isTalking(State state)
-{
-    return state == State::Connected || state == State::HeldHere || state == State::HeldThere;
-}
-
-}
-
-CallScreens::CallScreens(Display& display, Languages& languages, CallService& service, IdleDisplay& idle)
-    : mDisplay(display)
+CallScreens::CallScreens(Screens& screens, Languages& languages, Notices& notices, CallService& service)
+    : mScreens(screens)
     , mLanguages(languages)
+    , mNotices(notices)
     , mService(service)
-    , mIdle(idle)
-    , mCall(languages.text("Call", "?"), 1)
-    , mAccept(languages.text("Accept", "?"), 2)
-    , mReject(languages.text("Reject", "?"), 3)
-    , mDisconnect(languages.text("Disconnect", "?"), 4)
-    , mHold(languages.text("Hold", "?"), 5)
-    , mResume(languages.text("Resume", "?"), 6)
-    , mJoin(languages.text("Conference", "?"), 7)
-    , mSplit(languages.text("End conference", "?"), 8)
+    , mPopups(screens, languages, *this)
+    , mConnected(screens, languages, *this)
+    , mMenu(screens, languages, *this)
+    , mEntry(screens, languages)
 {
-    mDialer.setLine1PrefixText(languages.text("Dial"));
-    mDialer.addCommand(&mCall);
-    mDialer.addCommandListener(this);
-    mDialer.addItemStateListener(this);
-    mIdle.addDialer(&mDialer);
-
-    mOutgoing.addCommand(&mDisconnect);
-    mOutgoing.addCommandListener(this);
-    mIncoming.addCommand(&mAccept);
-    mIncoming.addCommand(&mReject);
-    mIncoming.addCommandListener(this);
-    mConnected.addCommandListener(this);
-    mMenu.setAutoHideTimeout(MenuTime);
-    mMenu.addCommandListener(this);
+    mScreens.onShown = [this] { mPopups.raise(); };
+    mEntry.onNumber
+        = [this](Purpose purpose, int call, const std::string& number) { takeNumber(purpose, call, number); };
+    mEntry.onDigit = [this](int call, char digit) { mService.sendDigit(call, digit); };
     mService.setListener(this);
 }
 
 CallScreens::~CallScreens()
 {
     mService.setListener(nullptr);
-    // The list deletes its rows; those in the conference are left.
-    for (const auto& [id, entry] : mCalls) {
-        if (entry.isMember)
-            delete entry.row;
-    }
 }
 
 void CallScreens::dial(const std::string& number)
 {
-    mDialer.dismiss();
-    mDialer.setLineEditText("");
-    if (!number.empty())
-        mService.dial(number);
+    if (number.empty())
+        return;
+    holdAllBut(0);
+    mService.dial(number);
 }
 
-void CallScreens::showConnected()
+bool CallScreens::showCalls()
 {
-    if (mConnected.size() > 0)
-        mDisplay.setCurrent(&mConnected);
+    if (!mConnected.isEmpty())
+        mConnected.show();
+    mPopups.showAll();
+    return !mCalls.empty();
 }
 
-// The line
+// The exchange tells
 
 void CallScreens::callChanged(const CallService::Call& call)
 {
-    {
-        std::lock_guard lock(mMutex);
-        mNews.push_back(call);
-    }
-    postCommandAction(&mHearLine, nullptr);
+    post([this, call] { follow(call); });
 }
 
-void CallScreens::hearLine()
+void CallScreens::callForwarded(
+    const CallService::Party& caller, CallService::Diversion why, const CallService::Party& target)
 {
-    std::vector<CallService::Call> news;
+    post([this, caller, why, target] {
+        onForwarded(caller);
+        mNotices.showForwarded(caller, target, why);
+    });
+}
+
+void CallScreens::messageLeft(const CallService::Message& message)
+{
+    post([this, message] { onMessage(message); });
+}
+
+void CallScreens::post(News news)
+{
+    {
+        std::lock_guard lock(mMutex);
+        mNews.push_back(std::move(news));
+    }
+    postCommandAction(&mHear, nullptr);
+}
+
+void CallScreens::hear()
+{
+    std::deque<News> news;
     {
         std::lock_guard lock(mMutex);
         news.swap(mNews);
     }
-    for (const CallService::Call& call : news) {
-        Entry& entry = mCalls[call.id];
-        entry.call = call;
-        follow(entry);
-    }
+    for (const News& each : news)
+        each();
 }
 
-void CallScreens::follow(Entry& entry)
+void CallScreens::follow(const CallService::Call& call)
 {
-    switch (entry.call.state) {
-    case State::Connecting:
-    case State::Ringing:
-    case State::Busy:
-    case State::Unobtainable: showOutgoing(entry.call); break;
-    case State::Incoming: showIncoming(entry.call); break;
-    case State::Connected:
-        if (!entry.row)
-            connect(entry);
-        [[fallthrough]];
-    case State::HeldHere:
-    case State::HeldThere: showRowState(entry); break;
-    case State::Ended: end(entry); break;
-    }
-}
-
-void CallScreens::showOutgoing(const CallService::Call& call)
-{
-    CallPartyIdentifier party = partyOf(call);
-    mOutgoing.setPopupCallDetails(party, nullptr, NotForwarded, "", nullptr);
-    mOutgoing.setState(call.state == State::Ringing ? PopupCall::RINGING
-            : call.state == State::Busy             ? PopupCall::BUSY
-            : call.state == State::Unobtainable     ? PopupCall::UNOBTAINABLE
-                                                    : PopupCall::CONNECTING,
-        PopupCall::NORMAL);
-    if (call.state == State::Connecting || call.state == State::Unobtainable)
-        mDisplay.setCurrent(&mOutgoing);
-}
-
-void CallScreens::showIncoming(const CallService::Call& call)
-{
-    CallPartyIdentifier party = partyOf(call);
-    mIncoming.setPopupCallDetails(party, nullptr, NotForwarded, "", nullptr);
-    mIncoming.setState(PopupCall::INCOMING, PopupCall::NORMAL);
-    mIncoming.setDefaultCommand(&mAccept);
-    mDisplay.setCurrent(&mIncoming);
+    if (call.state == State::Ended)
+        return end(call);
+    const bool hadTalk = !talks().empty();
+    mCalls[call.id] = call;
+    mMenu.closeIfAbout(call.id);
+    if (!call.isTalk())
+        return mPopups.show(call, hadTalk);
+    if (!mConnected.has(call.id))
+        connect(call);
+    mConnected.update(call);
+    if (call.state == State::HeldTooLong)
+        mPopups.show(call, false);
+    else
+        mPopups.remove(call.id);
 }
 
 /// The call gets a row, and the voice.
-void CallScreens::connect(Entry& entry)
+void CallScreens::connect(const CallService::Call& call)
 {
-    entry.row = new Row(Row::CALL_ACTIVE, nullptr, false, nullptr, false, true, true, false, false);
-    const CallPartyIdentifier party = partyOf(entry.call);
-    entry.row->setPartyDetails(party, nullptr, NotForwarded, "", nullptr);
-    mConnected.append(entry.row);
-    holdAllBut(entry.call.id);
-    if (entry.call.isIncoming)
-        mIncoming.dismiss();
-    else
-        mOutgoing.dismiss();
-    mConnected.setSelected(entry.row);
-    mDisplay.setCurrent(&mConnected);
+    mPopups.remove(call.id);
+    mConnected.add(call);
+    holdAllBut(call.id);
+    mConnected.show();
 }
 
-void CallScreens::showRowState(Entry& entry)
+void CallScreens::end(const CallService::Call& call)
 {
-    if (entry.row)
-        entry.row->setState(entry.call.state == State::Connected ? Row::CALL_ACTIVE
-                : entry.call.state == State::HeldHere            ? Row::CALL_HELD_BY_THIS_END
-                                                                 : Row::CALL_HELD_BY_FAR_END);
+    const bool wasConnected = mConnected.has(call.id);
+    mCalls.erase(call.id);
+    mMenu.closeIfAbout(call.id);
+    mEntry.closeIfAbout(call.id);
+    mPopups.remove(call.id);
+    mConnected.remove(call.id);
+    if (mConnected.members().empty())
+        mMenu.closeIfAboutConference();
+    if (mConnected.isEmpty())
+        setMuted(false);
+    mConnected.leaveIfEmpty();
+    onEnded({call, wasConnected});
+    explain(call);
 }
 
-void CallScreens::end(const Entry& ended)
+/// Why a call has ended, where the user may wonder.
+void CallScreens::explain(const CallService::Call& call)
 {
-    const Entry entry = ended;
-    mCalls.erase(entry.call.id);
-    const Entry* ringing = withState(State::Incoming);
-    if (entry.row) {
-        dropRow(entry);
-    } else if (entry.call.isIncoming) {
-        mIncoming.dismiss();
-        if (ringing)
-            showIncoming(ringing->call);
-    } else {
-        mOutgoing.dismiss();
-    }
-    if (onEnded)
-        onEnded({entry.call, entry.row != nullptr});
-    if (entry.row && !ringing)
-        showWhatIsLeft();
+    const std::string who = shortNameOf(call.party, mLanguages);
+    if (call.cause == Cause::NoLine)
+        mNotices.show(PopupNotification::ERROR, "No free line", who);
+    if (call.cause == Cause::Transferred)
+        mNotices.show(PopupNotification::SUCCESS, "Transferred", who);
+    if (call.cause == Cause::Rejected && !call.isIncoming())
+        mNotices.show(PopupNotification::INFO, "Call rejected", who);
+    if (call.cause == Cause::NoAnswer && !call.isIncoming())
+        mNotices.show(PopupNotification::INFO, "No answer", who);
 }
 
-void CallScreens::dropRow(const Entry& entry)
-{
-    entry.row->setState(Row::CALL_CLEARING);
-    if (entry.isMember && mConference)
-        mConference->removeCall(entry.row);
-    else
-        mConnected.remove(entry.row);
-    delete entry.row;
-    int members = 0;
-    for (const auto& [id, each] : mCalls)
-        members += each.isMember ? 1 : 0;
-    if (mConference && members < 2)
-        dissolve();
-}
-
-// What the user does
-
-void CallScreens::itemStateChanged(Item*)
-{
-    // From now on the dialer's text is read, too.
-    if (mDisplay.getCurrent() == &mIdle)
-        mDisplay.setCurrent(&mDialer);
-}
+// The user chooses
 
 void CallScreens::commandAction(Command* command, Displayable* displayable)
 {
-    if (command == &mHearLine)
-        hearLine();
-    if (command == PopupDialer::BackCommand())
-        mDialer.dismiss();
-    if (command == &mCall)
-        dial(mDialer.getLineEditText());
-    if (displayable == &mOutgoing || displayable == &mIncoming || displayable == &mConnected)
-        chooseOnCalls(command);
+    if (command == &mHear)
+        return hear();
+    if (const int call = mPopups.callOf(displayable))
+        return chooseInPopup(command, call);
+    if (mConnected.isList(displayable))
+        return chooseInList(command);
     // A menu that went by itself tells of that only.
-    if (displayable == &mMenu && command->getType() != Command::Dismiss) {
-        mMenu.dismiss();
-        chooseInMenu(command);
-    }
+    if (!mMenu.isMenu(displayable) || command->getType() == Command::Dismiss)
+        return;
+    const ConnectedCalls::Selection target = mMenu.target();
+    mMenu.close();
+    if (target.isConference)
+        chooseForConference(command);
+    else if (const auto found = mCalls.find(target.call); found != mCalls.end())
+        chooseForCall(command, CallService::Call(found->second));
 }
 
-void CallScreens::chooseOnCalls(Command* command)
+void CallScreens::chooseInPopup(Command* command, int call)
 {
-    if (command == &mDisconnect) {
-        for (const State state : {State::Connecting, State::Ringing, State::Busy, State::Unobtainable}) {
-            if (const Entry* entry = withState(state))
-                return mService.hangUp(entry->call.id);
+    if (command->getType() == Command::Back)
+        return mPopups.putAside(call);
+    if (command == &mPopups.accept || command == &mPopups.pickUp || command == &mPopups.call)
+        mService.answer(call);
+    if (command == &mPopups.endAndAccept) {
+        for (const int talk : talks()) {
+            if (mCalls[talk].state == State::Connected)
+                mService.hangUp(talk);
         }
+        mService.answer(call);
     }
-    const Entry* ringing = withState(State::Incoming);
-    if (command == &mAccept && ringing)
-        mService.answer(ringing->call.id);
-    if (command == &mReject && ringing)
-        mService.hangUp(ringing->call.id);
+    if (command == &mPopups.reject || command == &mPopups.disconnect)
+        mService.hangUp(call);
+    if (command == &mPopups.deflect)
+        mEntry.open(Purpose::Deflect, call);
+    if (command == &mPopups.callBack)
+        mService.callBack(call);
+    if (command == &mPopups.resume)
+        resume(call);
+    if (command == &mPopups.ignore && mCalls[call].state == State::HeldTooLong)
+        mService.hold(call);
+    else if (command == &mPopups.ignore)
+        mPopups.putAside(call);
+}
+
+void CallScreens::chooseInList(Command* command)
+{
     if (command == List::BACK_COMMAND())
-        mDisplay.setCurrent(&mIdle);
-    if (command == List::SELECT_COMMAND())
+        mScreens.showIdle();
+    if (command == List::SELECT_COMMAND() || command == List::RIGHT_COMMAND())
         openMenu();
 }
 
-/// The menu offers what the state of the selected call allows.
 void CallScreens::openMenu()
 {
-    std::vector<MenuCommand*> commands;
-    if (isConferenceSelected()) {
-        commands = {&mSplit, &mDisconnect};
-    } else if (const Entry* entry = selected()) {
-        if (entry->call.state == State::Connected)
-            commands.push_back(&mHold);
-        if (entry->call.state == State::HeldHere)
-            commands.push_back(&mResume);
-        if (countConnected() > 1 && !entry->isMember)
-            commands.push_back(&mJoin);
-        commands.push_back(&mDisconnect);
-    }
-    mMenu.clearCommands();
-    for (MenuCommand* command : commands)
-        mMenu.addCommand(command, nullptr, false, false, "");
-    if (!commands.empty())
-        mDisplay.setCurrent(&mMenu);
+    const ConnectedCalls::Selection selected = mConnected.selected();
+    if (selected.isConference)
+        return mMenu.openForConference(mConnected.isConferenceHeld(), mIsMuted);
+    const auto found = mCalls.find(selected.call);
+    if (found != mCalls.end())
+        mMenu.openForCall(found->second, {mConnected.isMember(selected.call), talks().size() > 1, mIsMuted});
 }
 
-void CallScreens::chooseInMenu(Command* command)
+void CallScreens::chooseForCall(Command* command, const CallService::Call& call)
 {
-    if (isConferenceSelected()) {
-        if (command == &mSplit)
-            return dissolve();
-        if (command != &mDisconnect)
-            return;
-        for (const auto& [id, entry] : std::map(mCalls)) {
-            if (entry.isMember)
-                mService.hangUp(id);
-        }
+    if (command == &mMenu.hold)
+        mService.hold(call.id);
+    if (command == &mMenu.resume)
+        resume(call.id);
+    if (command == &mMenu.transfer)
+        mEntry.open(Purpose::Transfer, call.id);
+    if (command == &mMenu.connect)
+        mService.connect(call.id, partnerOf(call.id));
+    if (command == &mMenu.conference)
+        join(call.id);
+    if (command == &mMenu.takeOut)
+        takeOut(call.id);
+    if (command == &mMenu.digits)
+        mEntry.open(Purpose::Digits, call.id);
+    if (command == &mMenu.mute || command == &mMenu.unmute)
+        setMuted(command == &mMenu.mute);
+    if (command == &mMenu.newCall)
+        mEntry.open(Purpose::Call, 0);
+    if (command == &mMenu.disconnect)
+        mService.hangUp(call.id);
+}
+
+void CallScreens::chooseForConference(Command* command)
+{
+    if (command == &mMenu.split)
+        split();
+    if (command == &mMenu.hold)
+        holdAllBut(0);
+    if (command == &mMenu.resume && !mConnected.members().empty())
+        resume(mConnected.members().front());
+    if (command == &mMenu.mute || command == &mMenu.unmute)
+        setMuted(command == &mMenu.mute);
+    if (command == &mMenu.newCall)
+        mEntry.open(Purpose::Call, 0);
+    if (command != &mMenu.disconnect)
         return;
-    }
-    const Entry* entry = selected();
-    if (!entry)
-        return;
-    if (command == &mHold)
-        mService.hold(entry->call.id);
-    if (command == &mResume) {
-        holdAllBut(entry->call.id);
-        mService.resume(entry->call.id);
-    }
-    if (command == &mJoin)
-        join();
-    if (command == &mDisconnect)
-        mService.hangUp(entry->call.id);
+    for (const int member : mConnected.members())
+        mService.hangUp(member);
+}
+
+void CallScreens::takeNumber(Purpose purpose, int call, const std::string& number)
+{
+    if (purpose == Purpose::Call)
+        dial(number);
+    if (purpose == Purpose::Transfer)
+        mService.transfer(call, number);
+    if (purpose == Purpose::Deflect)
+        mService.deflect(call, number);
 }
 
 /// There is one voice at a time, but in a conference.
 void CallScreens::holdAllBut(int active)
 {
-    for (const auto& [id, entry] : std::map(mCalls)) {
-        if (id != active)
-            mService.hold(id);
+    const bool isConference = mConnected.isMember(active);
+    for (const int call : talks()) {
+        if (call != active && !(isConference && mConnected.isMember(call)))
+            mService.hold(call);
     }
 }
 
-/// All calls in one conference.
-void CallScreens::join()
+/// A conference comes back as a whole.
+void CallScreens::resume(int call)
 {
-    if (!mConference) {
-        mConference = new ConferenceCallItem(Row::CALL_ACTIVE, mLanguages.text("Conference"), false, false);
-        mConnected.append(mConference);
+    holdAllBut(call);
+    mService.resume(call);
+    if (mConnected.isMember(call))
+        mService.join(mConnected.members());
+}
+
+/// The call joins the conference, or begins one with its partner.
+void CallScreens::join(int call)
+{
+    std::vector<int> members = mConnected.members();
+    if (members.empty())
+        members.push_back(partnerOf(call));
+    members.push_back(call);
+    if (!mService.join(members))
+        return mNotices.show(PopupNotification::WARNING, "Conference full");
+    mConnected.join(members);
+    holdAllBut(call);
+}
+
+/// The other call that has the voice, else any other one; 0 without one.
+int CallScreens::partnerOf(int call) const
+{
+    int other = 0;
+    for (const int talk : talks()) {
+        if (talk != call && (other == 0 || mCalls.at(talk).state == State::Connected))
+            other = talk;
     }
-    for (auto& [id, entry] : mCalls) {
-        if (!entry.row || entry.isMember)
-            continue;
-        mService.resume(id);
-        mConference->appendCall(entry.row, false);
-        entry.isMember = true;
-    }
-    mConnected.setSelected(mConference);
+    return other;
+}
+
+void CallScreens::takeOut(int call)
+{
+    mConnected.takeOut(call);
+    resume(call);
 }
 
 /// The members become calls of their own again, all but the first held.
-void CallScreens::dissolve()
+void CallScreens::split()
 {
-    mConnected.remove(mConference);
-    int first = 0;
-    for (auto& [id, entry] : mCalls) {
-        if (!std::exchange(entry.isMember, false))
-            continue;
-        mConference->removeCall(entry.row);
-        mConnected.append(entry.row);
-        first = first == 0 ? id : first;
+    const std::vector<int> members = mConnected.members();
+    mConnected.dissolve();
+    if (!members.empty())
+        resume(members.front());
+}
+
+void CallScreens::setMuted(bool muted)
+{
+    mIsMuted = muted;
+    mConnected.setMuted(muted);
+}
+
+/// In the order of their numbers.
+std::vector<int> CallScreens::talks() const
+{
+    std::vector<int> all;
+    for (const auto& [id, call] : mCalls) {
+        if (call.isTalk())
+            all.push_back(id);
     }
-    delete std::exchange(mConference, nullptr);
-    holdAllBut(first);
-}
-
-void CallScreens::showWhatIsLeft()
-{
-    if (mConnected.size() > 0)
-        mDisplay.setCurrent(&mConnected);
-    else
-        mDisplay.setCurrent(&mIdle);
-}
-
-// Which calls there are
-
-CallScreens::Entry* CallScreens::selected()
-{
-    ListItem* item = mConnected.getSelected();
-    if (isConferenceSelected())
-        return nullptr;
-    if (mConference && item == mConference)
-        item = mConference->getSelectedMember();
-    for (auto& [id, entry] : mCalls) {
-        if (entry.row && entry.row == item)
-            return &entry;
-    }
-    return nullptr;
-}
-
-bool CallScreens::isConferenceSelected()
-{
-    return mConference && mConnected.getSelected() == mConference && mConference->getSelectedMember() == mConference;
-}
-
-CallScreens::Entry* CallScreens::withState(State state)
-{
-    for (auto& [id, entry] : mCalls) {
-        if (entry.call.state == state)
-            return &entry;
-    }
-    return nullptr;
-}
-
-int CallScreens::countConnected() const
-{
-    int count = 0;
-    for (const auto& [id, entry] : mCalls)
-        count += isTalking(entry.call.state) ? 1 : 0;
-    return count;
+    return all;
 }

@@ -1,36 +1,29 @@
 #pragma once
 
+#include "CallMenu.h"
+#include "CallPopups.h"
 #include "CallService.h"
+#include "ConnectedCalls.h"
 #include "Languages.h"
+#include "Notices.h"
+#include "NumberEntry.h"
+#include "Screens.h"
 
 #include <DisplayAPI/Command.h>
 #include <DisplayAPI/CommandListener.h>
-#include <DisplayAPI/ConferenceCallItem.h>
-#include <DisplayAPI/ContextMenu.h>
-#include <DisplayAPI/IdleDisplay.h>
-#include <DisplayAPI/ItemStateListener.h>
-#include <DisplayAPI/List.h>
-#include <DisplayAPI/MenuCommand.h>
-#include <DisplayAPI/PopupCall.h>
-#include <DisplayAPI/PopupDialer.h>
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <mutex>
 #include <string>
 #include <vector>
 
-namespace DisplayAPI {
-class Display;
-}
-
-/// The screens of calls: dialer, outgoing and incoming call, connected calls with their menu, conference.
+/// The calls and their screens: what the exchange tells is shown, and what the user chooses is asked of it.
 ///
 /// What the line tells comes to the worker thread, too, as a command to itself: so everything here runs on one thread
 /// and needs no lock, and no worker waits for the GUI thread with one in hand.
-class CallScreens final : public DisplayAPI::CommandListener,
-                          public DisplayAPI::ItemStateListener,
-                          public CallService::Listener {
+class CallScreens final : public DisplayAPI::CommandListener, public CallService::Listener {
 public:
     /// What is told of a call that has ended.
     struct EndedCall {
@@ -38,81 +31,71 @@ public:
         bool wasConnected = false;
     };
 
-    /// The idle screen is where everything comes back to.
-    CallScreens(
-        DisplayAPI::Display& display, Languages& languages, CallService& service, DisplayAPI::IdleDisplay& idle);
+    CallScreens(Screens& screens, Languages& languages, Notices& notices, CallService& service);
     ~CallScreens() override;
 
-    /// Told on the worker thread of each call that has ended.
+    // Told on the worker thread
+
     std::function<void(const EndedCall&)> onEnded;
+    std::function<void(const CallService::Party& caller)> onForwarded;
+    std::function<void(const CallService::Message&)> onMessage;
 
     /// Calls a number from any screen.
     void dial(const std::string& number);
 
-    /// Shows the connected calls, if there are any.
-    void showConnected();
+    /// Shows all calls that there are, those that were put aside too. False without any.
+    bool showCalls();
 
     void commandAction(DisplayAPI::Command* command, DisplayAPI::Displayable* displayable) override;
 
-    /// A character has been typed in the dialer.
-    void itemStateChanged(DisplayAPI::Item* item) override;
+    // Threads: any. What is told waits for the worker
 
-    /// Threads: any. The call waits for the worker.
     void callChanged(const CallService::Call& call) override;
+    void callForwarded(
+        const CallService::Party& caller, CallService::Diversion why, const CallService::Party& target) override;
+    void messageLeft(const CallService::Message& message) override;
 
 private:
-    using Row = DisplayAPI::CallConnectedItem;
+    using News = std::function<void()>;
 
-    struct Entry {
-        CallService::Call call;
-        Row* row = nullptr; // once it has been connected
-        bool isMember = false;
-    };
+    // The exchange tells
+    void post(News news);
+    void hear();
+    void follow(const CallService::Call& call);
+    void connect(const CallService::Call& call);
+    void end(const CallService::Call& call);
+    void explain(const CallService::Call& call);
 
-    void hearLine();
-    void follow(Entry& entry);
-    void showOutgoing(const CallService::Call& call);
-    void showIncoming(const CallService::Call& call);
-    void connect(Entry& entry);
-    void showRowState(Entry& entry);
-    void end(const Entry& entry);
-    void dropRow(const Entry& entry);
-
-    void chooseOnCalls(DisplayAPI::Command* command);
+    // The user chooses
+    void chooseInPopup(DisplayAPI::Command* command, int call);
+    void chooseInList(DisplayAPI::Command* command);
+    void chooseForCall(DisplayAPI::Command* command, const CallService::Call& call);
+    void chooseForConference(DisplayAPI::Command* command);
     void openMenu();
-    void chooseInMenu(DisplayAPI::Command* command);
+    void takeNumber(NumberEntry::Purpose purpose, int call, const std::string& number);
     void holdAllBut(int active);
-    void join();
-    void dissolve();
-    void showWhatIsLeft();
+    void resume(int call);
+    void join(int call);
+    void takeOut(int call);
+    void split();
+    void setMuted(bool muted);
 
-    Entry* selected();
-    Entry* withState(CallService::State state);
-    bool isConferenceSelected();
-    int countConnected() const;
+    std::vector<int> talks() const;
+    int partnerOf(int call) const;
 
-    DisplayAPI::Display& mDisplay;
+    Screens& mScreens;
     Languages& mLanguages;
+    Notices& mNotices;
     CallService& mService;
-    DisplayAPI::IdleDisplay& mIdle;
 
     std::mutex mMutex; // of the news alone
-    std::vector<CallService::Call> mNews;
-    DisplayAPI::Command mHearLine{"", DisplayAPI::Command::Select};
-    std::map<int, Entry> mCalls;
+    std::deque<News> mNews;
+    DisplayAPI::Command mHear{"", DisplayAPI::Command::Select};
 
-    DisplayAPI::PopupDialer mDialer{true, 3};
-    DisplayAPI::PopupCall mOutgoing;
-    DisplayAPI::PopupCall mIncoming;
-    DisplayAPI::List mConnected{0}; // owns its rows
-    DisplayAPI::ConferenceCallItem* mConference = nullptr;
-    DisplayAPI::ContextMenu mMenu{false};
-    DisplayAPI::MenuCommand mCall;
-    DisplayAPI::MenuCommand mAccept;
-    DisplayAPI::MenuCommand mReject;
-    DisplayAPI::MenuCommand mDisconnect;
-    DisplayAPI::MenuCommand mHold;
-    DisplayAPI::MenuCommand mResume;
-    DisplayAPI::MenuCommand mJoin;
-    DisplayAPI::MenuCommand mSplit;
+    std::map<int, CallService::Call> mCalls; // those that have not ended
+    CallPopups mPopups;
+    ConnectedCalls mConnected;
+    CallMenu mMenu;
+    NumberEntry mEntry;
+    bool mIsMuted = false;
 };

@@ -1,25 +1,32 @@
 #include "Directory.h"
 
-#include <DisplayAPI/Display.h>
-#include <DisplayAPI/ListItem.h>
+#include "Parties.h"
 
 #include <algorithm>
 #include <cctype>
+#include <tuple>
+#include <utility>
 
 using namespace DisplayAPI;
 
 namespace {
 
-std::vector<Directory::Contact> allContacts()
+bool isBefore(const CallService::Party& one, const CallService::Party& other)
 {
-    std::vector<Directory::Contact> contacts{{"Fatima Haddad", "4720"}, {"Georg Huber", "4721"}, {"Hana Sato", "4722"},
-        {"Ivan Petrov", "4723"}, {"Jana Kovač", "4724"}, {"Karl Lindqvist", "4725"}, {"Lucía Gómez", "4726"},
-        {"Maria Rossi", "4727"}, {"Nils Andersen", "4728"}, {"Olga Smirnova", "4729"}, {"Paul Dubois", "4730"},
-        {"Reception", "4731"}, {"Security desk", "4732"}, {"Workshop", "4733"}, {"Zoë Müller", "4734"}};
-    for (const Exchange::Party& party : Exchange::parties())
+    return std::tie(one.name, one.number) < std::tie(other.name, other.number);
+}
+
+bool isSame(const CallService::Party& one, const CallService::Party& other)
+{
+    return one.name == other.name && one.number == other.number;
+}
+
+std::vector<CallService::Party> allContacts()
+{
+    std::vector<CallService::Party> contacts;
+    for (const Parties::Entry& party : Parties::all())
         contacts.push_back({party.name, party.number});
-    std::sort(contacts.begin(), contacts.end(),
-        [](const Directory::Contact& one, const Directory::Contact& other) { return one.name < other.name; });
+    std::sort(contacts.begin(), contacts.end(), isBefore);
     return contacts;
 }
 
@@ -39,28 +46,30 @@ bool isFound(const std::string& name, const std::string& search)
 
 }
 
-Directory::Directory(
-    Display& display, Languages& languages, std::function<void(const std::string&)> dial, std::function<void()> leave)
-    : mDisplay(display)
+Directory::Directory(Screens& screens, Languages& languages, Details& details, Question& question, Notices& notices,
+    std::function<void(const std::string&)> dial)
+    : mScreens(screens)
+    , mLanguages(languages)
+    , mDetails(details)
+    , mQuestion(question)
+    , mNotices(notices)
     , mDial(std::move(dial))
-    , mLeave(std::move(leave))
     , mContacts(allContacts())
-    , mCall(languages.text("Call", "?"), 1)
-    , mBack(languages.text("Back", "?"), 2)
+    , mForm(screens, languages, notices)
 {
     mList.setTitle(languages.text("Directory"));
-    mList.setCountIndicator(static_cast<int>(mContacts.size()));
     mList.addCommandListener(this);
     mList.addItemStateListener(this);
-    mDetails.addCommandListener(this);
 }
+
+// The list
 
 void Directory::open()
 {
     mList.dismissSearchPopup();
     mList.setSearchText("");
     showMatches("");
-    mDisplay.setCurrent(&mList);
+    mScreens.show(mList);
 }
 
 void Directory::itemStateChanged(Item*)
@@ -78,6 +87,8 @@ void Directory::showMatches(const std::string& search)
         mMatches.push_back(contact);
         mList.append(contact.name);
     }
+    mList.append(mLanguages.text("New contact", "?"));
+    mList.setCountIndicator(static_cast<int>(mContacts.size()));
     mList.setSearchCountIndicator(static_cast<int>(mMatches.size()));
     mList.setSelectedIndex(0);
 }
@@ -85,22 +96,71 @@ void Directory::showMatches(const std::string& search)
 void Directory::commandAction(Command* command, Displayable*)
 {
     if (command == SearchList::BACK_COMMAND())
-        mLeave();
-    if (command == SearchList::SELECT_COMMAND() || command == SearchList::RIGHT_COMMAND())
-        showDetails();
-    if (command == &mCall)
-        mDial(mShown.number);
-    if (command == &mBack)
-        mDisplay.setCurrent(&mList);
+        return mScreens.showIdle();
+    const int row = mList.getSelectedIndex();
+    if (row < 0 || (command != SearchList::SELECT_COMMAND() && command != SearchList::RIGHT_COMMAND()))
+        return;
+    const auto index = static_cast<std::size_t>(row);
+    if (index < mMatches.size())
+        showDetails(mMatches[index]);
+    else
+        enter({}, [this] { open(); });
 }
 
-void Directory::showDetails()
+// A contact
+
+void Directory::showDetails(const Contact& contact)
 {
-    const int index = mList.getSelectedIndex();
-    if (index < 0 || index >= static_cast<int>(mMatches.size()))
-        return;
-    mShown = mMatches[static_cast<std::size_t>(index)];
-    mDetails.setSystemStatusText1(mShown.name + " " + mShown.number);
-    mDetails.setCommands({&mCall, &mBack});
-    mDisplay.setCurrent(&mDetails);
+    mDetails.show(contact.name + " " + contact.number, {},
+        {
+            {"Call", [this, number = contact.number] { mDial(number); }},
+            {"Edit", [this, contact] { edit(contact); }},
+            {"Delete", [this, contact] { remove(contact); }},
+        },
+        [this] { open(); });
+}
+
+void Directory::enter(const Contact& contact, std::function<void()> leave)
+{
+    mForm.open(
+        contact,
+        [this](const Contact& written) {
+            keep(written);
+            showDetails(written);
+            mNotices.show(PopupNotification::SUCCESS, "Saved", written.name);
+        },
+        std::move(leave));
+}
+
+void Directory::edit(const Contact& contact)
+{
+    mForm.open(
+        contact,
+        [this, contact](const Contact& written) {
+            forget(contact);
+            keep(written);
+            showDetails(written);
+            mNotices.show(PopupNotification::SUCCESS, "Saved", written.name);
+        },
+        [this, contact] { showDetails(contact); });
+}
+
+void Directory::remove(const Contact& contact)
+{
+    mQuestion.ask("Delete", contact.name, [this, contact] {
+        forget(contact);
+        open();
+        mNotices.show(PopupNotification::SUCCESS, "Deleted", contact.name);
+    });
+}
+
+void Directory::keep(const Contact& contact)
+{
+    forget(contact);
+    mContacts.insert(std::upper_bound(mContacts.begin(), mContacts.end(), contact, isBefore), contact);
+}
+
+void Directory::forget(const Contact& contact)
+{
+    std::erase_if(mContacts, [&contact](const Contact& each) { return isSame(each, contact); });
 }

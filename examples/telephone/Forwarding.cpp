@@ -1,49 +1,50 @@
 #include "Forwarding.h"
 
+#include "Parties.h"
+
 #include <DisplayAPI/Command.h>
-#include <DisplayAPI/Display.h>
 #include <DisplayAPI/PopupDialer.h>
 
-using namespace DisplayAPI;
+#include <utility>
 
-Forwarding::Forwarding(Display& display, Languages& languages, std::function<void(const std::string&)> changed,
-    std::function<void()> leave)
-    : mDisplay(display)
+using namespace DisplayAPI;
+using Diversion = CallService::Diversion;
+
+Forwarding::Forwarding(Screens& screens, Languages& languages, Answers answers)
+    : mScreens(screens)
     , mLanguages(languages)
-    , mChanged(std::move(changed))
-    , mLeave(std::move(leave))
+    , mAnswers(std::move(answers))
     , mNumber(languages.text("Forward to"), {}, nullptr, TextField::Number, false)
     , mEntry(&mNumber, false)
     , mForward(languages.text("Forward", "?"), 1)
+    , mToVoiceMail(languages.text("To voice mail", "?"), 2)
 {
     mList.setTitle(languages.text("Forwarding"));
-    for (const char* kind : {"All calls", "When busy", "No answer"}) {
-        auto* item = new CallForwardItem(CallLogMainItem::NoIcon, languages.text(kind), false, false);
-        mKinds.push_back({item, ""});
+    const std::pair<Diversion, const char*> kinds[]
+        = {{Diversion::Always, "All calls"}, {Diversion::Busy, "When busy"}, {Diversion::NoAnswer, "No answer"}};
+    for (const auto& [diversion, name] : kinds) {
+        auto* item = new CallForwardItem(CallLogMainItem::NoIcon, languages.text(name), false, false);
+        mKinds.push_back({diversion, item, ""});
         mList.append(item);
     }
     mList.addCommandListener(this);
     mEntry.setTextEditMode(PopupTextFieldPrivateIfc::NumericOnly);
     mEntry.addCommand(&mForward);
+    mEntry.addCommand(&mToVoiceMail);
     mEntry.addCommandListener(this);
 }
 
 void Forwarding::open()
 {
-    mDisplay.setCurrent(&mList);
+    mScreens.show(mList);
 }
 
 void Forwarding::commandAction(Command* command, Displayable* displayable)
 {
-    if (displayable == &mEntry) {
-        if (command == &mForward)
-            forwardTo(mEntry.getText());
-        if (command == &mForward || command == PopupDialer::BackCommand())
-            mEntry.dismiss();
-        return;
-    }
+    if (displayable == &mEntry)
+        return chooseTarget(command);
     if (command->getType() == Command::Back)
-        mLeave();
+        mAnswers.leave();
     if (command->getType() == Command::Select)
         choose();
 }
@@ -58,7 +59,19 @@ void Forwarding::choose()
     if (!mKinds[mChosen].number.empty())
         return forwardTo("");
     mEntry.clearText();
-    mDisplay.setCurrent(&mEntry);
+    mScreens.showOver(mEntry);
+}
+
+void Forwarding::chooseTarget(Command* command)
+{
+    const std::string number = mEntry.getText();
+    const bool isBack = command == PopupDialer::BackCommand();
+    // Nothing typed yet: the user may still do so.
+    if (!isBack && command != &mToVoiceMail && (command != &mForward || number.empty()))
+        return;
+    mEntry.dismiss();
+    if (!isBack)
+        forwardTo(command == &mToVoiceMail ? Parties::VoiceMail : number);
 }
 
 void Forwarding::forwardTo(const std::string& number)
@@ -70,6 +83,5 @@ void Forwarding::forwardTo(const std::string& number)
     else
         kind.item->check();
     kind.item->setTextBranch(number, nullptr, {});
-    if (mChosen == 0)
-        mChanged(number);
+    mAnswers.changed(kind.diversion, number);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "CallService.h"
 #include "Languages.h"
+#include "Screens.h"
 
 #include <DisplayAPI/CallForwardItem.h>
 #include <DisplayAPI/CommandListener.h>
@@ -13,16 +15,15 @@
 #include <string>
 #include <vector>
 
-namespace DisplayAPI {
-class Display;
-}
-
 /// Where calls go that the user doesn't take: always, when he talks, and when he doesn't answer.
 class Forwarding final : public DisplayAPI::CommandListener {
 public:
-    /// `changed` hears where all calls go, an empty text for nowhere; `leave` goes back.
-    Forwarding(DisplayAPI::Display& display, Languages& languages, std::function<void(const std::string&)> changed,
-        std::function<void()> leave);
+    struct Answers {
+        std::function<void(CallService::Diversion kind, const std::string& number)> changed;
+        std::function<void()> leave;
+    };
+
+    Forwarding(Screens& screens, Languages& languages, Answers answers);
 
     void open();
 
@@ -30,21 +31,23 @@ public:
 
 private:
     struct Kind {
+        CallService::Diversion diversion;
         DisplayAPI::CallForwardItem* item;
         std::string number;
     };
 
     void choose();
+    void chooseTarget(DisplayAPI::Command* command);
     void forwardTo(const std::string& number);
 
-    DisplayAPI::Display& mDisplay;
+    Screens& mScreens;
     Languages& mLanguages;
-    std::function<void(const std::string&)> mChanged;
-    std::function<void()> mLeave;
+    Answers mAnswers;
     DisplayAPI::ExpandingTreeList mList{false}; // owns its items
     std::vector<Kind> mKinds;                   // in the order of the rows
     std::size_t mChosen = 0;
     DisplayAPI::TextField mNumber;
     DisplayAPI::PopupTextField mEntry;
     DisplayAPI::MenuCommand mForward;
+    DisplayAPI::MenuCommand mToVoiceMail;
 };

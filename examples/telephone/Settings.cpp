@@ -1,8 +1,9 @@
 #include "Settings.h"
 
 #include <DisplayAPI/Command.h>
-#include <DisplayAPI/Display.h>
 #include <DisplayAPI/TreeNode.h>
+
+#include <utility>
 
 using namespace DisplayAPI;
 
@@ -11,92 +12,133 @@ namespace {
 enum Row : int {
     UserRow = 1,
     RingingRow,
+    DoNotDisturbRow,
     ForwardingRow,
     LanguageRow,
+    ClockRow,
+    TwentyFourHoursRow,
+    TwelveHoursRow,
+    SecurityRow,
+    LockRow,
+    ChangePinRow,
+    NoPinRow,
     HelpRow,
     FirstLanguageRow = 100,
 };
 
-constexpr int LongestPin = 8;
-
 }
 
-Settings::Settings(Display& display, Languages& languages, Answers answers)
-    : mDisplay(display)
+Settings::Settings(Screens& screens, Languages& languages, Notices& notices, PinGuard& pin, Answers answers)
+    : mScreens(screens)
     , mLanguages(languages)
+    , mNotices(notices)
+    , mPin(pin)
     , mAnswers(std::move(answers))
-    , mClassic(languages.text("Classic"), 1)
-    , mChime(languages.text("Chime"), 2)
-    , mBirds(languages.text("Birds"), 3)
-    , mName(new TextField(languages.text("Name"), {}, nullptr, TextField::AnyText, false))
-    , mPin(new TextField(languages.text("PIN"), {}, nullptr, TextField::Password, false))
-    , mVolume(new SliderItem(languages.text("Volume")))
-    , mTone(new SelectionField(languages.text("Tone"), &mClassic, &mRinging, false))
+    , mForms(screens, languages, notices, mAnswers.forms, [this] { open(); })
 {
     mTree.setTreeName(languages.text("Settings"));
-    mTree.addNode(languages.text("User"), UserRow);
-    mTree.addNode(languages.text("Ringing"), RingingRow);
-    mTree.addNode(languages.text("Forwarding"), ForwardingRow);
-    TreeNode* language = mTree.addNode(languages.text("Language"), LanguageRow);
+    addNodes();
+    mTree.addCommandListener(this);
+    mHelp.setTitle(languages.text("Help"));
+    mHelp.addCommandListener(this);
+}
+
+void Settings::addNodes()
+{
+    const auto text = [this](const char* key) { return mLanguages.text(key); };
+    mTree.addNode(text("User"), UserRow);
+    mTree.addNode(text("Ringing"), RingingRow);
+    mTree.addNode(text("Do not disturb"), DoNotDisturbRow);
+    mTree.addNode(text("Forwarding"), ForwardingRow);
+    TreeNode* language = mTree.addNode(text("Language"), LanguageRow);
     int row = FirstLanguageRow;
     for (const std::string& code : Languages::codes())
         language->addNode(Languages::nameOf(code), row++);
-    mTree.addNode(languages.text("Help"), HelpRow);
-
-    mUser.setTitle(languages.text("User"));
-    mPin->setMaxFieldLength(LongestPin);
-    mUser.append(mName);
-    mUser.append(mPin);
-    mRinging.setTitle(languages.text("Ringing"));
-    mVolume->setMaxValue("10");
-    mVolume->setValue("5");
-    for (MenuCommand* tone : {&mClassic, &mChime, &mBirds})
-        mTone->appendSelection(tone);
-    mRinging.append(mVolume);
-    mRinging.append(mTone);
-
-    mTree.addCommandListener(this);
-    mHelp.addCommandListener(this);
-    mUser.addCommandListener(this);
-    mRinging.addCommandListener(this);
+    TreeNode* clock = mTree.addNode(text("Clock"), ClockRow);
+    clock->addNode(text("24 hours"), TwentyFourHoursRow);
+    clock->addNode(text("12 hours"), TwelveHoursRow);
+    mSecurity = mTree.addNode(text("Security"), SecurityRow);
+    mSecurity->addNode(text("Lock"), LockRow);
+    mSecurity->addNode(text("Change PIN"), ChangePinRow);
+    mSecurity->addNode(text("No PIN"), NoPinRow);
+    mSecurity->setProtected(true);
+    mTree.addNode(text("Help"), HelpRow);
 }
 
+/// Whoever has left the settings from inside the protected branch is asked again.
 void Settings::open()
 {
-    mDisplay.setCurrent(&mTree);
+    mTree.collapseNode(mSecurity);
+    mScreens.show(mTree);
 }
 
 void Settings::commandAction(Command* command, Displayable* displayable)
 {
-    if (displayable == &mHelp || command == Form::BACK_COMMAND())
-        return mDisplay.setCurrent(&mTree);
-    if (command == Form::SAVE_COMMAND())
-        mAnswers.call(mName->getString());
-    if (displayable != &mTree)
-        return;
+    if (displayable == &mHelp)
+        return open();
     if (command->getType() == Command::Back)
-        return mAnswers.leave();
+        return mScreens.showIdle();
     if (const TreeNode* node = mTree.getSelected())
-        choose(node->getId());
+        choose(*node);
 }
 
-void Settings::choose(int row)
+void Settings::choose(const TreeNode& node)
 {
-    switch (row) {
-    case UserRow: return mDisplay.setCurrent(&mUser);
-    case RingingRow: return mDisplay.setCurrent(&mRinging);
+    switch (node.getId()) {
+    case UserRow: return mForms.openUser();
+    case RingingRow: return mForms.openRinging();
+    case DoNotDisturbRow: return switchDoNotDisturb();
     case ForwardingRow: return mAnswers.forward();
+    case TwentyFourHoursRow: return chooseClock(false);
+    case TwelveHoursRow: return chooseClock(true);
+    case SecurityRow: return mPin.ask([this] { mTree.expandNode(mSecurity, true); });
     case HelpRow: return openHelp();
     default: break;
     }
-    const auto language = static_cast<std::size_t>(row - FirstLanguageRow);
-    if (row >= FirstLanguageRow && language < Languages::codes().size())
+    if (node.getId() >= FirstLanguageRow)
+        chooseLanguage(node.getId() - FirstLanguageRow);
+    else
+        chooseInSecurity(node.getId());
+}
+
+void Settings::chooseLanguage(int row)
+{
+    const auto language = static_cast<std::size_t>(row);
+    if (language < Languages::codes().size())
         mAnswers.speak(Languages::codes()[language]);
+}
+
+void Settings::chooseClock(bool hasTwelveHours)
+{
+    mAnswers.setTwelveHours(hasTwelveHours);
+    mNotices.show(PopupNotification::SUCCESS, "Saved");
+}
+
+/// Only who has a PIN can unlock the telephone again, so one is asked for first.
+void Settings::chooseInSecurity(int row)
+{
+    const auto saved = [this] { mNotices.show(PopupNotification::SUCCESS, "Saved"); };
+    if (row == LockRow && mPin.hasPin())
+        mAnswers.lock();
+    else if (row == LockRow)
+        mPin.change(mAnswers.lock);
+    if (row == ChangePinRow)
+        mPin.change(saved);
+    if (row == NoPinRow) {
+        mPin.clear();
+        saved();
+    }
+}
+
+void Settings::switchDoNotDisturb()
+{
+    mIsDoNotDisturb = !mIsDoNotDisturb;
+    mAnswers.setDoNotDisturb(mIsDoNotDisturb);
+    mNotices.show(PopupNotification::INFO, "Do not disturb", mLanguages.translate(mIsDoNotDisturb ? "On" : "Off"));
 }
 
 void Settings::openHelp()
 {
-    mHelp.setTitle(mLanguages.text("Help"));
     mHelp.setText(mLanguages.translate("Digits dial. OK opens the menu. Left goes back."), false);
-    mDisplay.setCurrent(&mHelp);
+    mScreens.show(mHelp);
 }

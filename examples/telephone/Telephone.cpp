@@ -1,50 +1,46 @@
 #include "Telephone.h"
 
+#include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/Display.h>
 
 using namespace DisplayAPI;
 
-Telephone::Telephone(Display& display)
+SpokenLanguage::SpokenLanguage(Display& display, Languages& languages)
     : mDisplay(display)
-    , mCalls(display, mLanguages, mExchange, mIdle)
-    , mLog(
-          display, mLanguages, [this](const auto& number) { mCalls.dial(number); }, [this] { showIdle(); })
-    , mDirectory(
-          display, mLanguages, [this](const auto& number) { mCalls.dial(number); }, [this] { showIdle(); })
-    , mForwarding(
-          display, mLanguages, [this](const auto& number) { forward(number); }, [this] { mSettings.open(); })
-    , mSettings(display, mLanguages, answers())
-    , mToCalls(mLanguages.text("Calls", "?"), 1)
-    , mToLog(mLanguages.text("Call log", "?"), 2)
-    , mToDirectory(mLanguages.text("Directory", "?"), 3)
-    , mToSettings(mLanguages.text("Settings", "?"), 4)
 {
-    mDisplay.setTranslator(&mLanguages);
-    mIdle.setCurrentPhoneNumber("4711");
-    mIdle.setBrandingText("DisplayAPI");
-    for (Command* command : {&mToDirectory, &mToLog, &mToCalls, &mToSettings})
-        mIdle.addCommand(command);
-    mIdle.addCommandListener(this);
-    mCalls.onEnded = [this](const CallScreens::EndedCall& ended) { logCall(ended); };
-    greet();
+    mDisplay.setTranslator(&languages);
 }
 
-Telephone::~Telephone()
+SpokenLanguage::~SpokenLanguage()
 {
     mDisplay.setTranslator(nullptr);
 }
 
-void Telephone::run()
+Telephone::Telephone(Display& display)
+    : mDisplay(display)
+    , mSpokenLanguage(display, mLanguages)
+    , mScreens(display, mIdleDisplay)
+    , mNotices(mScreens, mLanguages)
+    , mQuestion(mScreens, mLanguages)
+    , mMenu(mScreens, mLanguages)
+    , mDetails(mScreens, mLanguages)
+    , mPin(mScreens, mLanguages, mNotices)
+    , mIdle(mIdleDisplay, mScreens, mLanguages)
+    , mCalls(mScreens, mLanguages, mNotices, mExchange)
+    , mLog(mScreens, mLanguages, mClock, mMenu, mDetails, mQuestion, logAnswers())
+    , mMail(mScreens, mLanguages, mClock, mMenu, mQuestion, mNotices, mailAnswers())
+    , mDirectory(mScreens, mLanguages, mDetails, mQuestion, mNotices, [this](const auto& number) { dial(number); })
+    , mForwarding(mScreens, mLanguages, forwardingAnswers())
+    , mSettings(mScreens, mLanguages, mNotices, mPin, settingsAnswers())
 {
-    mDisplay.setCurrent(&mIdle);
-    mDisplay.show();
-    mDisplay.exec();
+    connectParts();
 }
 
-void Telephone::greet()
+void Telephone::run()
 {
-    mIdle.clearSystemMessages();
-    mIdle.addSystemMessage(mLanguages.text("Press OK for the menu"));
+    mScreens.showIdle();
+    mDisplay.show();
+    mDisplay.exec();
 }
 
 void Telephone::speak(const std::string& code)
@@ -54,43 +50,114 @@ void Telephone::speak(const std::string& code)
         mDisplay.localeChanged(chosen);
 }
 
-Settings::Answers Telephone::answers()
+// What the parts want of each other
+
+void Telephone::connectParts()
+{
+    mIdle.onOpen = [this](IdleScreen::Place place) { open(place); };
+    mIdle.onDial = [this](const std::string& number) { dial(number); };
+    mCalls.onEnded = [this](const CallScreens::EndedCall& ended) { logCall(ended); };
+    mCalls.onForwarded = [this](const CallService::Party& caller) { log(caller, CallLog::Kind::Forwarded); };
+    mCalls.onMessage = [this](const CallService::Message& message) { mMail.add(message); };
+}
+
+CallLog::Answers Telephone::logAnswers()
 {
     return {
-        [this](const auto& code) { speak(code); },
-        [this](const auto& name) { mIdle.setBrandingText(name); },
-        [this] { mForwarding.open(); },
-        [this] { showIdle(); },
+        [this](const std::string& number) { dial(number); },
+        [this](const CallService::Party& party) { mDirectory.enter(party, [this] { mLog.open(); }); },
+        [this] { mIdle.setMissedCalls(0); },
     };
 }
 
-void Telephone::forward(const std::string& number)
+VoiceMail::Answers Telephone::mailAnswers()
 {
-    mIdle.setForwardingAddress(number);
-    mIdle.setForwardingIconVisible(!number.empty());
+    return {
+        [this](const std::string& number) { dial(number); },
+        [this](int count) { mIdle.setMessages(count); },
+    };
 }
 
-void Telephone::showIdle()
+Forwarding::Answers Telephone::forwardingAnswers()
 {
-    mDisplay.setCurrent(&mIdle);
+    return {
+        [this](CallService::Diversion kind, const std::string& number) {
+            mExchange.forward(kind, number);
+            if (kind == CallService::Diversion::Always)
+                mIdle.setForwarding(number);
+        },
+        [this] { mSettings.open(); },
+    };
+}
+
+Settings::Answers Telephone::settingsAnswers()
+{
+    return {
+        .speak = [this](const std::string& code) { speak(code); },
+        .setTwelveHours = [this](bool on) { mClock.setTwelveHours(on); },
+        .setDoNotDisturb =
+            [this](bool on) {
+                mExchange.setDoNotDisturb(on);
+                mIdle.setDoNotDisturb(on);
+            },
+        .forward = [this] { mForwarding.open(); },
+        .lock = [this] { setLocked(true); },
+        .forms = {
+            .call = [this](const std::string& name) { mIdle.setUser(name); },
+            .showName = [this](bool shown) { mIdle.showName(shown); },
+            .setVolume = [this](int volume) { mIdle.setRingerOff(volume == 0); },
+        },
+    };
+}
+
+void Telephone::open(IdleScreen::Place place)
+{
+    switch (place) {
+    case IdleScreen::Place::Directory: return mDirectory.open();
+    case IdleScreen::Place::CallLog: return mLog.open();
+    case IdleScreen::Place::Messages: return mMail.open();
+    case IdleScreen::Place::Calls:
+        if (!mCalls.showCalls())
+            mNotices.show(PopupNotification::INFO, "No calls");
+        return;
+    case IdleScreen::Place::Settings: return mSettings.open();
+    case IdleScreen::Place::Unlocking: return mPin.ask([this] { setLocked(false); });
+    }
+}
+
+/// Calls from any screen. Whoever has withheld his number can't be called.
+void Telephone::dial(const std::string& number)
+{
+    if (number.empty() || number == CallPartyIdentifier::WithheldNumber)
+        return mNotices.show(PopupNotification::WARNING, "No number");
+    mCalls.dial(number);
 }
 
 void Telephone::logCall(const CallScreens::EndedCall& ended)
 {
-    mLog.add(ended.call, ended.call.isIncoming && !ended.wasConnected);
+    using Kind = CallService::Kind;
+    const Kind kind = ended.call.kind;
+    // What rings elsewhere is nobody's missed call here.
+    if (!ended.wasConnected && (kind == Kind::LinePickUp || kind == Kind::GroupPickUp || kind == Kind::CallBack))
+        return;
+    // The other half of a forwarding tells of itself.
+    if (ended.call.cause == CallService::Cause::Diverted)
+        return;
+    log(ended.call.party,
+        !ended.call.isIncoming() ? CallLog::Kind::Dialled
+            : ended.wasConnected ? CallLog::Kind::Taken
+                                 : CallLog::Kind::Missed);
+}
+
+void Telephone::log(const CallService::Party& party, CallLog::Kind kind)
+{
+    mLog.add(party, kind);
     mIdle.setMissedCalls(mLog.missed());
 }
 
-void Telephone::commandAction(Command* command, Displayable*)
+void Telephone::setLocked(bool locked)
 {
-    if (command == &mToCalls)
-        mCalls.showConnected();
-    if (command == &mToDirectory)
-        mDirectory.open();
-    if (command == &mToSettings)
-        mSettings.open();
-    if (command == &mToLog) {
-        mLog.open();
-        mIdle.setMissedCalls(mLog.missed());
-    }
+    mIdle.setLocked(locked);
+    mScreens.showIdle();
+    mNotices.show(PopupNotification::SUCCESS, locked ? "Locked" : "Unlocked");
 }

@@ -1,28 +1,37 @@
-// The demonstration telephone. F1, or `incoming NAME NUMBER` in a script, lets somebody call; F2 speaks the next
-// language, and `language CODE` a certain one.
+// The demonstration telephone. What comes from outside is a function key, or a step of a script with an argument:
+//
+//     F1  incoming NAME NUMBER   somebody calls; a number that the exchange knows does it in its party's way
+//     F2  language CODE          the next language, or a certain one
+//     F3  message NAME NUMBER    somebody leaves a voice message
+//     F4  hang-up                the other end of the newest call hangs up
 
 #include "Telephone.h"
 #include "Tour.h"
 
 #include <PhoneSimulator/PhoneSimulator.h>
 
-#include <algorithm>
-#include <atomic>
+#include <functional>
+#include <mutex>
 
 namespace {
 
-std::atomic<Telephone*> shown = nullptr; // while the phonelet runs
+std::mutex mutex;
+Telephone* shown = nullptr; // while the phonelet runs
 
-void incoming(const std::string& caller)
+/// A step has the telephone as long as it takes.
+PhoneSimulator::StepFunction step(std::function<void(Telephone&, const std::string&)> act)
 {
-    if (Telephone* telephone = shown)
-        telephone->ring(caller);
+    return [act](const std::string& argument) {
+        std::lock_guard lock(mutex);
+        if (shown)
+            act(*shown, argument);
+    };
 }
 
-void language(const std::string& code)
+void show(Telephone* telephone)
 {
-    if (Telephone* telephone = shown)
-        telephone->speak(code);
+    std::lock_guard lock(mutex);
+    shown = telephone;
 }
 
 }
@@ -31,12 +40,14 @@ int main(int argc, char** argv)
 {
     return PhoneSimulator(argc, argv)
         .setTour(Tour)
-        .onStep("incoming", incoming, 1)
-        .onStep("language", language, 2)
+        .onStep("incoming", step(&Telephone::ring), 1)
+        .onStep("language", step(&Telephone::speak), 2)
+        .onStep("message", step(&Telephone::leaveMessage), 3)
+        .onStep("hang-up", step([](Telephone& telephone, const std::string&) { telephone.hangUpThere(); }), 4)
         .run([](DisplayAPI::Display& display) {
             Telephone telephone(display);
-            shown = &telephone;
+            show(&telephone);
             telephone.run();
-            shown = nullptr;
+            show(nullptr);
         });
 }
