@@ -63,7 +63,8 @@ class Run:
         if self.script:
             command += ["--script", self.script, *self.options.split()]
         with tempfile.TemporaryDirectory() as elsewhere:
-            subprocess.run(command, cwd=elsewhere, check=True, stdout=subprocess.DEVNULL)
+            if subprocess.run(command, cwd=elsewhere, stdout=subprocess.DEVNULL, check=False).returncode != 0:
+                sys.exit(f"{self.name}: the script fails, so the gallery is not up to date")
 
     def files(self):
         """What has to be in the folder."""
