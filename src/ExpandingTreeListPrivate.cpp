@@ -150,13 +150,6 @@ void ExpandingTreeListPrivate::tell(Command& command)
     postCommandTo(mListeners, &command, mParent);
 }
 
-std::vector<CommandListener*> ExpandingTreeListPrivate::getCommandListeners() const
-{
-    std::vector<CommandListener*> listeners;
-    mListeners.forEach([&listeners](CommandListener* listener) { listeners.push_back(listener); });
-    return listeners;
-}
-
 // Screen text: of the row that has the highlight, on itself or on one of its branches
 
 std::string ExpandingTreeListPrivate::serialise()

@@ -53,7 +53,7 @@ public:
     // What the user does, and those who hear of it: the base's operations take none of them out
 
     void addCommandListener(CommandListener* listener) override { mListeners.add(listener); }
-    std::vector<CommandListener*> getCommandListeners() const;
+    std::vector<CommandListener*> getCommandListeners() const { return mListeners.all(); }
     void event(UEvent* event) override;
     void selectedEvent() { tell(mOkCommand); }
     void leftEvent() { tell(mBackCommand); }

@@ -200,13 +200,6 @@ void FormPrivate::setSelected(Item* item)
 
 // Commands and listeners
 
-std::vector<CommandListener*> FormPrivate::getCommandListeners() const
-{
-    std::vector<CommandListener*> listeners;
-    mCommandListeners.forEach([&listeners](CommandListener* listener) { listeners.push_back(listener); });
-    return listeners;
-}
-
 void FormPrivate::addCommand(Command* command)
 {
     const std::optional<CommandText> shown = readCommand(command);

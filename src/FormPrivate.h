@@ -66,7 +66,7 @@ public:
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
     void removeCommandListener(CommandListener*) override { }
     void clearCommandListeners() override { }
-    std::vector<CommandListener*> getCommandListeners() const;
+    std::vector<CommandListener*> getCommandListeners() const { return mCommandListeners.all(); }
     void addCommand(Command* command) override;
     void clearCommands() override;
 

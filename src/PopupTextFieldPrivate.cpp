@@ -28,14 +28,6 @@ constexpr int RowWidth = 31;
 constexpr int ModeWidth = 5;
 constexpr int NarrowGlass = 7; // less on these telephones
 
-template <typename T>
-std::vector<T*> snapshotOf(const ListenerList<T>& listeners)
-{
-    std::vector<T*> all;
-    listeners.forEach([&all](T* listener) { all.push_back(listener); });
-    return all;
-}
-
 }
 
 PopupTextFieldPrivate::PopupTextFieldPrivate(Displayable* parent, TextField* edited)
@@ -190,11 +182,6 @@ UString PopupTextFieldPrivate::createStringForFirstCommandPlusInputMode()
 
 // Listeners
 
-std::vector<ItemStateListener*> PopupTextFieldPrivate::getItemStateListeners() const
-{
-    return snapshotOf(mItemStateListeners);
-}
-
 void PopupTextFieldPrivate::removeCommandListener(CommandListener* listener)
 {
     if (!listener)
@@ -202,11 +189,6 @@ void PopupTextFieldPrivate::removeCommandListener(CommandListener* listener)
     mCommandListeners.remove(listener);
     if (Widget::isGuiThread())
         generateDisplayChangedEvent();
-}
-
-std::vector<CommandListener*> PopupTextFieldPrivate::getCommandListeners() const
-{
-    return snapshotOf(mCommandListeners);
 }
 
 // Life on the screen

@@ -36,12 +36,12 @@ public:
     // Listeners
 
     void addItemStateListener(ItemStateListener* listener) override { mItemStateListeners.add(listener); }
-    std::vector<ItemStateListener*> getItemStateListeners() const override;
+    std::vector<ItemStateListener*> getItemStateListeners() const override { return mItemStateListeners.all(); }
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
 
     /// Threads: any; the display is told on the GUI thread alone.
     void removeCommandListener(CommandListener* listener) override;
-    std::vector<CommandListener*> getCommandListeners() const override;
+    std::vector<CommandListener*> getCommandListeners() const override { return mCommandListeners.all(); }
 
     // Life on the screen
 

@@ -178,13 +178,6 @@ void SearchListBoxPrivate::setSearchCountIndicator(int count)
     generateDisplayChangedEvent();
 }
 
-std::vector<ItemStateListener*> SearchListBoxPrivate::getItemStateListeners()
-{
-    std::vector<ItemStateListener*> listeners;
-    mItemStateListeners.forEach([&listeners](ItemStateListener* listener) { listeners.push_back(listener); });
-    return listeners;
-}
-
 // Life on the screen
 
 void SearchListBoxPrivate::show()

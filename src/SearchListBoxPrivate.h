@@ -58,7 +58,7 @@ public:
     // Listeners
 
     void addItemStateListener(ItemStateListener* listener) override { mItemStateListeners.add(listener); }
-    std::vector<ItemStateListener*> getItemStateListeners() override;
+    std::vector<ItemStateListener*> getItemStateListeners() override { return mItemStateListeners.all(); }
     void addCommandListener(CommandListener* listener) override { mCommandListeners.add(listener); }
     void removeCommandListener(CommandListener*) override { }
     void clearCommandListeners() override { }

@@ -67,6 +67,14 @@ public:
             mListeners.begin(), mListeners.end(), [](const Living<T>& entry) { return static_cast<bool>(entry); }));
     }
 
+    /// Those that live.
+    std::vector<T*> all() const
+    {
+        std::vector<T*> listeners;
+        forEach([&listeners](T* listener) { listeners.push_back(listener); });
+        return listeners;
+    }
+
     /// Calls `tell(listener)` for each that lives.
     template <typename Function>
     void forEach(Function tell) const
