@@ -364,8 +364,11 @@ PopupDialer* IdleDisplay::getDialer()
     void* dialer = nullptr;
     if (Road::wait(this, Request::GetDialer, result(dialer))) {
         if (!mDialer->get()) {
-            bindDialer(new PopupDialer(true, 3));
-            mDialerOwned = true;
+            auto* own = new PopupDialer(true, 3);
+            bindDialer(own);
+            mDialerOwned = mDialer->get() == own;
+            if (!mDialerOwned)
+                delete own;
         }
         dialer = mDialer->get();
     }
