@@ -21,13 +21,13 @@ CallConnectedItemPrivate::CallConnectedItemPrivate(CallConnectedItem::CallStateI
     assertGuiThread();
     joinApplication(this);
     if (remoteMaintenance)
-        setRemoteMaintenanceIcon(true);
+        CallConnectedItemPrivate::setRemoteMaintenanceIcon(true);
     if (phoneLocked)
-        setPhoneLockedIcon(true);
+        CallConnectedItemPrivate::setPhoneLockedIcon(true);
     if (speaker)
-        setSpeakerIcon(true);
+        CallConnectedItemPrivate::setSpeakerIcon(true);
     else
-        setHeadsetIcon(headset);
+        CallConnectedItemPrivate::setHeadsetIcon(headset);
 }
 
 CallConnectedItemPrivate::~CallConnectedItemPrivate()

@@ -306,7 +306,7 @@ void SlotItemObject::slotFunc(FormItemMEG* row)
     for (const FormPrivate::Pair& pair : mForm.mPairs) {
         Item* item = row && pair.row == row ? pair.item.get() : nullptr;
         Displayable* parent = item ? item->getParent() : nullptr;
-        if (displayableExists(parent))
+        if (parent && displayableExists(parent))
             parent->callListeners(item);
     }
 }

@@ -412,6 +412,7 @@ std::string IdleDisplayPrivate::serialise(const std::vector<Rect>& rects)
     if (!mWidget || mDialerCoversIdle)
         return {};
     std::vector<URect> parts;
+    parts.reserve(rects.size());
     for (const Rect& rect : rects)
         parts.emplace_back(
             rect.left(), rect.top(), behind(rect.left(), rect.width()), behind(rect.top(), rect.height()));

@@ -9,7 +9,7 @@ class TOOLKIT_EXPORT TimeOfDay {
 public:
     static constexpr std::uint64_t Second = 1000; // milliseconds
     static constexpr std::uint64_t Minute = 60 * Second;
-    static constexpr std::uint64_t Day = 24 * 60 * Minute;
+    static constexpr std::uint64_t Day = 24 * (60 * Minute);
 
     /// Sets the time of now. Returns false, and changes nothing, for a time that no day has.
     bool set(int hours, int minutes, int seconds);
