@@ -20,8 +20,6 @@ using Call = CallConnectedItem;
 
 class CallConnectedItemTest : public PhoneTest {
 protected:
-    ~CallConnectedItemTest() override { display->setCurrent(nullptr); }
-
     /// A row that has become the list's.
     Call& append(Call::CallStateIcon state, const char* text, bool headset = false, bool speaker = false)
     {

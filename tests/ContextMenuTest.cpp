@@ -26,8 +26,6 @@ protected:
         menu.addCommandListener(&listener);
         show(below);
     }
-    ~ContextMenuTest() override { display->setCurrent(nullptr); }
-
     ContextMenuPrivate& half() { return dynamic_cast<ContextMenuPrivate&>(*menu.getPrivateImpl()); }
     void add(MenuCommand& command) { menu.addCommand(&command, nullptr, false, false, ""); }
 

@@ -16,8 +16,6 @@ namespace {
 
 class DesktopTest : public PhoneTest {
 protected:
-    ~DesktopTest() override { display->setCurrent(nullptr); }
-
     /// The words of the icons that are on, as one text.
     std::string icons()
     {

@@ -23,8 +23,6 @@ namespace {
 class DetailsWithCommandsTest : public PhoneTest {
 protected:
     DetailsWithCommandsTest() { details.addCommandListener(&listener); }
-    ~DetailsWithCommandsTest() override { display->setCurrent(nullptr); }
-
     std::string text() { return details.getPrivateImpl()->serialise(); }
 
     RecordingListener listener;

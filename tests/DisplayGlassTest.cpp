@@ -37,8 +37,6 @@ protected:
         list.append("lower");
         show(list);
     }
-    ~StatusGlassTest() override { display->setCurrent(nullptr); }
-
     List list{0};
 };
 
@@ -71,7 +69,6 @@ TEST_F(SystemWindowGlassTest, ItsLinesStandOverTheScreensOfItsSoftwareTypeAlone)
     display->setSystemWindowSize(1);
     display->setSoftwareType("Zelmark SIP");
     EXPECT_EQ(glassLine(0).substr(0, 5), "upper");
-    display->setCurrent(nullptr);
 }
 
 TEST_F(SystemWindowGlassTest, TheClockGoesOnByItself)

@@ -60,8 +60,6 @@ void append(ExpandingTreeList& list, CallForwardItem* item)
 
 class ExpandingTreeListTest : public PhoneTest {
 protected:
-    ~ExpandingTreeListTest() override { display->setCurrent(nullptr); }
-
     TranslationInfo* text(const char* key) { return new TranslationInfo("<", key, ">", &translator); }
 
     CallForwardItem& add(int type, const char* name, const char* branch = "")

@@ -27,8 +27,6 @@ protected:
         idle.addCommandListener(&listener);
         show(idle);
     }
-    ~IdleDisplayTest() override { display->setCurrent(nullptr); }
-
     IdleDisplayPrivate& half() { return dynamic_cast<IdleDisplayPrivate&>(*idle.getPrivateImpl()); }
 
     RecordingListener listener;

@@ -17,12 +17,6 @@ namespace {
 
 class PopupCallTest : public PhoneTest {
 protected:
-    ~PopupCallTest() override
-    {
-        display->setCurrent(nullptr);
-        display->setTranslator(nullptr);
-    }
-
     /// The lines behind the name, joined by "|".
     std::string fields()
     {

@@ -10,7 +10,6 @@ namespace {
 
 class PopupProgressTest : public PhoneTest {
 protected:
-    ~PopupProgressTest() override { display->setCurrent(nullptr); }
 };
 
 }

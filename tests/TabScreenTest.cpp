@@ -72,8 +72,6 @@ std::string tell(TabScreen& tabs)
 
 class TabScreenTest : public PhoneTest {
 protected:
-    ~TabScreenTest() override { display->setCurrent(nullptr); }
-
     TestScreen* newScreen(const char* name) { return new TestScreen(name, log); }
 
     std::vector<std::string> log;

@@ -16,7 +16,6 @@ namespace {
 
 class TextBoxTest : public PhoneTest {
 protected:
-    ~TextBoxTest() override { display->setCurrent(nullptr); }
 };
 
 constexpr bool TwoLines = true;

@@ -24,8 +24,6 @@ protected:
         tree->addCommandListener(&listener);
         show(*tree);
     }
-    ~TreeTest() override { display->setCurrent(nullptr); }
-
     TreePrivate& half() { return dynamic_cast<TreePrivate&>(*tree->getPrivateImpl()); }
     TranslationInfo* text(const char* key) { return new TranslationInfo("<", key, ">", &translator); }
     void hold(int key)
@@ -247,7 +245,6 @@ TEST_F(TreeTest, ABranchEndsInABackRow)
         EXPECT_EQ(half().depth(), row.isRemoved ? 1 : 0) << "a row of the library leads back, whatever it reads now";
         delete node;
     }
-    display->setTranslator(nullptr);
 }
 
 TEST_F(TreeTest, ANodeThatReadsLikeABackRowLeadsBackAndIsNeverDeleted)

@@ -105,6 +105,12 @@ void PhoneTest::endLoop()
 
 void PhoneTest::TearDown()
 {
+    changes.onNotice = nullptr;
+    changes.onNextNotice = nullptr;
+    if (display) {
+        display->setCurrent(nullptr);
+        display->setTranslator(nullptr);
+    }
     CommandExecutor::closeDeliveries(std::chrono::seconds(20));
     CommandExecutor::openDeliveries();
 }

@@ -39,7 +39,7 @@ protected:
     explicit PhoneTest(const PhoneSetup& setup = {});
     ~PhoneTest() override;
 
-    /// Waits for the delivery in hand: the listeners of the fixture go next.
+    /// Takes screens and translator away and waits for the delivery in hand: the fixture's own go next.
     void TearDown() override;
 
     /// Runs what is queued, timers that are due, and the painting.
