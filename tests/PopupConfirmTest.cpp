@@ -26,12 +26,6 @@ namespace {
 
 class PopupConfirmTest : public PhoneTest {
 protected:
-    ~PopupConfirmTest() override
-    {
-        if (display)
-            display->setCurrent(nullptr);
-    }
-
     PopupConfirmPrivate& half(PopupConfirm& popup)
     {
         return dynamic_cast<PopupConfirmPrivate&>(*popup.getPrivateImpl());
@@ -80,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(PopupConfirm, EveryScreenTest,
         },
         tell));
 
-TEST_F(PopupConfirmTest, ThePopupIsWrittenWithIconQuestionAndCurrentChoice)
+TEST_F(PopupConfirmTest, IconQuestionAndCurrentChoiceAreWrittenAndPainted)
 {
     PopupConfirm popup(true);
     popup.setState(PopupConfirm::Question);
@@ -97,43 +91,38 @@ TEST_F(PopupConfirmTest, ThePopupIsWrittenWithIconQuestionAndCurrentChoice)
         lines({"object:", "name:PopupDialog", "icon:Question", "string0:Delete: entry of Anna? Number: ", "subitem:",
             "name:VantoListBoxItem", "string0:Yes?", "endsubitem:", "end:"}));
     EXPECT_EQ(half(popup).serialise(std::vector<URect>{URect(0, 0, 161, 14)}), "") << "the popup is not wholly inside";
-}
-
-TEST_F(PopupConfirmTest, TheQuestionAndTheCurrentChoiceArePainted)
-{
-    PopupConfirm popup(true);
-    popup.setState(PopupConfirm::Question);
-    popup.setText("Delete entry?");
-    popup.addCommand(&yes);
-    popup.addCommand(&no);
-    show(popup);
-    EXPECT_EQ(glassLine(0).substr(glassLine(0).find("Delete"), 13), "Delete entry?");
+    EXPECT_EQ(glassLine(0).substr(6, 21), "Delete: entry of Anna");
     EXPECT_EQ(glassLine(1), "Yes?                      v");
+    EXPECT_FALSE(popup.selectionHasChanged());
+    const int before = changes.count;
     press(UGlobal::KeyDown);
+    EXPECT_EQ(changes.count, before + 1);
     EXPECT_EQ(glassLine(1), "No?                       ^");
+    EXPECT_EQ(popup.getSelectedIndex(), 1);
+    EXPECT_TRUE(popup.selectionHasChanged());
+    EXPECT_FALSE(popup.selectionHasChanged()) << "told once";
 }
 
 TEST_F(PopupConfirmTest, EachStateHasItsIconWord)
 {
-    struct Case {
+    const struct {
         int state;
         const char* word;
         const char* wordWithRects;
         std::uint16_t icon;
-    };
-    const Case cases[] = {{0, "Info", "Info", 21}, {1, "Question", "Question", 19}, {5, "Recall", "Recall", 53},
+    } cases[] = {{0, "Info", "Info", 21}, {1, "Question", "Question", 19}, {5, "Recall", "Recall", 53},
         {6, "(no such field)", "(no such field)", 16}, {7, "Mobile User Changes", "(no such field)", 85},
         {99, "(no such field)", "(no such field)", 85}};
     PopupConfirm popup(true);
     popup.addCommand(&yes);
     show(popup);
     EXPECT_EQ(screenField("icon"), "Info") << "before a state is set";
-    for (const Case& row : cases) {
-        popup.setState(static_cast<PopupConfirm::PopupState>(row.state));
-        EXPECT_EQ(screenField("icon"), row.word) << "state " << row.state;
-        EXPECT_EQ(fieldOf(half(popup).serialise(std::vector<URect>{URect(0, 0, 161, 30)}), "icon"), row.wordWithRects)
-            << "state " << row.state;
-        EXPECT_TRUE(hasIcon(0, 0, row.icon)) << "state " << row.state;
+    for (const auto& [state, word, wordWithRects, icon] : cases) {
+        SCOPED_TRACE(state);
+        popup.setState(static_cast<PopupConfirm::PopupState>(state));
+        EXPECT_EQ(screenField("icon"), word);
+        EXPECT_EQ(fieldOf(half(popup).serialise(std::vector<URect>{URect(0, 0, 161, 30)}), "icon"), wordWithRects);
+        EXPECT_TRUE(hasIcon(0, 0, icon));
     }
 }
 
@@ -164,23 +153,19 @@ TEST_F(PopupConfirmTest, AChangeOfLocaleReadsTheTranslationsAndTheChoicesAgain)
 
 TEST_F(PopupConfirmTest, APartyIsShownByNameElseByNumberElseAsUnknown)
 {
-    struct Case {
-        const char* name;
-        const char* number;
-        const char* caption;
-    };
-    const Case cases[] = {{"Anna", "4711", "Anna "}, {"Caller.Unknown.XXX", "4711", "4711 "}, {"Anna", "", "Anna "},
+    const struct {
+        const char *name, *number, *caption;
+    } cases[] = {{"Anna", "4711", "Anna "}, {"Caller.Unknown.XXX", "4711", "4711 "}, {"Anna", "", "Anna "},
         {"Caller.Unknown.XXX", "Caller.Unknown.XXX", "Unknown caller "}, {"", "", "Unknown caller "}};
     TestTranslator dictionary;
     dictionary.words = {{"Caller.Unknown.XXX", "Unknown caller"}};
     display->setTranslator(&dictionary);
     PopupConfirm popup(true);
     show(popup);
-    for (const Case& row : cases) {
-        popup.setPartyDetails(CallPartyIdentifier(row.name, row.number), 0);
-        EXPECT_EQ(screenField("caption"), row.caption) << row.name << ", " << row.number;
+    for (const auto& [name, number, caption] : cases) {
+        popup.setPartyDetails(CallPartyIdentifier(name, number), 0);
+        EXPECT_EQ(screenField("caption"), caption) << name << ", " << number;
     }
-    display->setTranslator(nullptr);
 }
 
 TEST_F(PopupConfirmTest, OnlyLivingMenuCommandsGetARow)
@@ -204,21 +189,6 @@ TEST_F(PopupConfirmTest, OnlyLivingMenuCommandsGetARow)
     EXPECT_EQ(popup.getSelectedIndex(), 1);
     popup.clearCommands();
     EXPECT_EQ(screenField("string0"), "(no such field)");
-}
-
-TEST_F(PopupConfirmTest, MovingMarksTheSelectionAsChangedOnce)
-{
-    PopupConfirm popup(true);
-    popup.addCommand(&yes);
-    popup.addCommand(&no);
-    show(popup);
-    EXPECT_FALSE(popup.selectionHasChanged());
-    const int before = changes.count;
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(changes.count, before + 1);
-    EXPECT_EQ(popup.getSelectedIndex(), 1);
-    EXPECT_TRUE(popup.selectionHasChanged());
-    EXPECT_FALSE(popup.selectionHasChanged());
 }
 
 TEST_F(PopupConfirmTest, ChoiceBackAndRemovedRowsReachTheListenersInOrder)
@@ -345,7 +315,6 @@ TEST_F(PopupConfirmTest, GoingDownShowsTheScreenBelowAndThenTells)
     EXPECT_EQ(display->getCurrent(), &popup);
     advance(500);
     EXPECT_EQ(display->getCurrent(), &below);
-    changes.onNotice = nullptr;
 }
 
 TEST_F(PopupConfirmTest, ARequestPostedByHandMayHaveNoSlotForItsAnswer)
@@ -370,14 +339,13 @@ TEST_F(PopupConfirmTest, OddTextsAreTakenAsTheyAre)
 {
     PopupConfirm popup(true);
     show(popup);
-    const std::string long1 = std::string(1 << 20, 'x');
-    popup.setText(long1);
-    EXPECT_EQ(screenField("caption").size(), long1.size() + 1);
-    popup.setText("\xff\xfe"
-                  "A");
-    EXPECT_EQ(screenField("caption"),
-        "\xEF\xBF\xBD\xEF\xBF\xBD"
-        "A ");
-    popup.setText(std::string("a\0b", 3));
-    EXPECT_EQ(screenField("caption"), std::string("a\0b ", 4));
+    const std::pair<std::string, std::string> cases[] = {
+        {std::string(1 << 20, 'x'), std::string(1 << 20, 'x')},
+        {"\xff\xfe A", "\xEF\xBF\xBD\xEF\xBF\xBD A"},
+        {std::string("a\0b", 3), std::string("a\0b", 3)},
+    };
+    for (const auto& [text, written] : cases) {
+        popup.setText(text);
+        EXPECT_EQ(screenField("caption"), written + " ");
+    }
 }
