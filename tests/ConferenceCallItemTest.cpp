@@ -24,8 +24,6 @@ std::unique_ptr<Call> makeCall(TranslationInfo* text)
 
 class ConferenceCallItemTest : public PhoneTest {
 protected:
-    ~ConferenceCallItemTest() override { display->setCurrent(nullptr); }
-
     TranslationInfo* text(const char* key) { return new TranslationInfo("<", key, ">", &translator); }
     std::unique_ptr<Call> call(const char* name) { return makeCall(text(name)); }
     std::unique_ptr<Conference> newConference()
@@ -63,11 +61,7 @@ std::string tell(Conference& conference)
 
 INSTANTIATE_TEST_SUITE_P(ConferenceCallItem, EveryRowTest,
     rowFamily(
-        Holder<List, Conference>{
-            [] { return std::make_unique<List>(0); },
-            [](List& list, Conference& row) { list.append(&row); },
-            [](List& list, Conference& row) { list.remove(&row); },
-        },
+        inList<Conference>(),
         [](Stage& stage) {
             return std::make_unique<Conference>(Call::CALL_ACTIVE, stage.translation("Conference"), true, true);
         },
@@ -173,32 +167,32 @@ TEST_F(ConferenceCallItemTest, ACallComesFromWhoeverHoldsIt)
 
 TEST_F(ConferenceCallItemTest, TheSubscriberMayInterfereWhileACallLeavesItsList)
 {
-    enum { DeleteCall, DeleteConference, DeleteList, JoinAnother, TurnAround, Count };
-    for (int way = 0; way < Count; ++way) {
-        SCOPED_TRACE(way);
-        auto own = std::make_unique<List>(0);
-        auto conference = newConference();
-        auto other = newConference();
-        Conference* moving = newConference().release();
-        own->append(moving);
+    std::unique_ptr<List> own;
+    std::unique_ptr<Conference> conference;
+    std::unique_ptr<Conference> other;
+    Conference* moving = nullptr;
+    const struct {
+        const char* name;
+        std::function<void()> act;
+        const std::unique_ptr<Conference>* joined;
+    } cases[] = {
+        {"deletes the call", [&] { delete moving; }, nullptr},
+        {"deletes the conference", [&] { conference.reset(); }, nullptr},
+        {"deletes the list", [&] { own.reset(); }, nullptr},
+        {"lets it join another", [&] { other->appendCall(moving, false); }, &other},
+        {"turns it around", [&] { moving->appendCall(conference.get(), false); }, nullptr},
+    };
+    for (const auto& [name, act, joined] : cases) {
+        SCOPED_TRACE(name);
+        own = std::make_unique<List>(0);
+        conference = newConference();
+        other = newConference();
+        own->append(moving = newConference().release());
         show(*own);
-        changes.onNextNotice = [&] {
-            switch (way) {
-            case DeleteCall: delete moving; break;
-            case DeleteConference: conference.reset(); break;
-            case DeleteList: own.reset(); break;
-            case JoinAnother: other->appendCall(moving, false); break;
-            case TurnAround: moving->appendCall(conference.get(), false); break;
-            }
-        };
+        changes.onNextNotice = act;
         conference->appendCall(moving, false);
-        if (conference) {
-            const int joined = conference->getIndexedMember(1) == moving ? 1 : 0;
-            EXPECT_EQ(joined, way == DeleteList ? static_cast<int>(ListItem::exists(moving)) : 0);
-        }
-        if (way == JoinAnother) {
-            EXPECT_EQ(other->getIndexedMember(1), moving);
-        }
+        for (const auto* each : {&conference, &other})
+            EXPECT_EQ(*each && (*each)->getIndexedMember(1) == moving, each == joined);
         if (ListItem::exists(moving))
             delete moving;
         display->setCurrent(nullptr);
