@@ -4,7 +4,6 @@
 #include "TestTranslator.h"
 
 #include <DisplayAPI/ItemStateListener.h>
-#include <DisplayAPI/List.h>
 #include <DisplayAPI/MenuCommand.h>
 #include <DisplayAPI/PopupDialer.h>
 
@@ -23,8 +22,6 @@ namespace {
 
 class PopupDialerTest : public PhoneTest {
 protected:
-    ~PopupDialerTest() override { display->setCurrent(nullptr); }
-
     PopupDialerPrivate& half() { return dynamic_cast<PopupDialerPrivate&>(*dialer.getPrivateImpl()); }
 
     RecordingListener listener;
@@ -253,23 +250,4 @@ TEST_F(PopupDialerTest, TheSystemWindowsTextStandsInTheLines)
     screen.setSysWindowText("first", 0);
     pump();
     EXPECT_EQ(glassLine(0).substr(0, 4), "own ") << "the same text is not set twice";
-}
-
-TEST_F(PopupDialerTest, AListKeepsTheKeysOfItsDialer)
-{
-    auto held = std::make_unique<PopupDialer>(true, 3);
-    List list(0);
-    list.append("Anna");
-    list.append("Bob");
-    list.addDialer(held.get());
-    show(list);
-    EXPECT_EQ(list.getDialer(), held.get());
-    press('5');
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(list.getSelectedIndex(), 0);
-    EXPECT_EQ(held->getLineEditText(), "") << "a dialer without an idle screen has no use for them";
-    held.reset();
-    EXPECT_EQ(list.getDialer(), nullptr);
-    press(UGlobal::KeyDown);
-    EXPECT_EQ(list.getSelectedIndex(), 1);
 }
