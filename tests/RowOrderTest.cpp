@@ -4,6 +4,7 @@
 #include <DisplayAPI/ExclusiveList.h>
 #include <DisplayAPI/List.h>
 #include <DisplayAPI/QVTList.h>
+#include <DisplayAPI/SearchList.h>
 
 #include <utility>
 
@@ -13,13 +14,13 @@ namespace {
 
 class RowOrderTest : public PhoneTest {
 protected:
-    template <typename Kind, typename... Arguments>
-    void walk(const std::vector<RowStep<List>>& steps, Arguments... arguments)
+    template <typename Kind, typename Base, typename... Arguments>
+    void walk(const std::vector<RowStep<Base>>& steps, Arguments... arguments)
     {
         for (unsigned int seed = 1; seed <= 20; ++seed) {
             Kind list(arguments...);
             show(list);
-            changeRowsAtRandom<List>(list, steps, seed);
+            changeRowsAtRandom<Base>(list, steps, seed);
             display->setCurrent(nullptr);
         }
     }
@@ -64,4 +65,5 @@ TEST_F(RowOrderTest, HandlesAndGlassHaveTheRowsOfAPlainVector)
     steps.emplace_back(move);
     walk<List>(steps, 0);
     walk<ExclusiveList>(steps);
+    walk<SearchList>(commonRowSteps<SearchList>());
 }

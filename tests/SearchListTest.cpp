@@ -1,12 +1,9 @@
 #include "EveryScreen.h"
-#include "PhoneTest.h"
-#include "RandomRows.h"
+#include "ListFixture.h"
 #include "RecordingListener.h"
-#include "TestTranslator.h"
 
 #include <DisplayAPI/GuiRequestEvent.h>
 #include <DisplayAPI/Item.h>
-#include <DisplayAPI/ListItem.h>
 #include <DisplayAPI/ListItemPrivateIfc.h>
 #include <DisplayAPI/SearchList.h>
 
@@ -20,16 +17,6 @@
 using namespace DisplayAPI;
 
 namespace {
-
-/// The handles' texts in order, and the current one in brackets.
-std::string rows(SearchList& list)
-{
-    const ListItem* selected = list.getSelected();
-    std::string all;
-    for (ListItem* item : list.getItems())
-        all += item == selected ? "[" + item->getText() + "]" : item->getText();
-    return all;
-}
 
 /// A row by its index; null behind the end.
 ListItem* at(SearchList& list, int index)
@@ -67,12 +54,6 @@ protected:
         list.addCommandListener(&listener);
         list.addItemStateListener(&listener);
     }
-    ~SearchListTest() override
-    {
-        display->setTranslator(nullptr);
-        display->setCurrent(nullptr);
-    }
-
     void fill(const std::vector<std::string>& texts)
     {
         for (const std::string& text : texts)
@@ -216,15 +197,6 @@ TEST_F(SearchListTest, ARowStandsInOneListAndIndicesOutsideChangeNothing)
     EXPECT_EQ(rows(other), "[B]");
     list.setSelectedIndex(-1);
     EXPECT_EQ(list.getSelected(), nullptr);
-}
-
-TEST_F(SearchListTest, HandlesAndGlassHaveTheRowsOfAPlainVector)
-{
-    for (unsigned int seed = 1; seed <= 20; ++seed) {
-        SearchList changed;
-        show(changed);
-        changeRowsAtRandom(changed, commonRowSteps<SearchList>(), seed);
-    }
 }
 
 TEST_F(SearchListTest, OneThatListensTwiceIsToldTwiceAndStays)

@@ -38,7 +38,8 @@ inline VantoListBoxMEG& box(DisplayAPI::List& list)
 }
 
 /// The handles' texts in order, and the current one in brackets.
-inline std::string rows(DisplayAPI::List& list)
+template <typename AnyList>
+std::string rows(AnyList& list)
 {
     const DisplayAPI::ListItem* selected = list.getSelected();
     std::string all;
@@ -61,12 +62,7 @@ inline std::string toolkitRows(DisplayAPI::List& list)
 /// A telephone for lists, which watches that no row is lost.
 class ListFixture : public PhoneTest {
 protected:
-    ~ListFixture() override
-    {
-        if (display)
-            display->setCurrent(nullptr);
-        EXPECT_EQ(CountedItem::living, 0) << "rows were lost";
-    }
+    ~ListFixture() override { EXPECT_EQ(CountedItem::living, 0) << "rows were lost"; }
 
     /// A list of rows with one letter each.
     void fill(DisplayAPI::List& list, const std::string& letters)
