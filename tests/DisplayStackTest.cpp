@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <memory>
 #include <new>
+#include <sstream>
 
 using namespace DisplayAPI;
 
@@ -17,13 +18,16 @@ namespace {
 /// A visible display with an ordinary screen and two popups above it.
 class DisplayStackTest : public StackFixture {
 protected:
-    DisplayStackTest()
+    DisplayStackTest() { makeAll(); }
+
+    void makeAll(const std::string& softwareType = "Zelmark SIP")
     {
-        makeDisplay();
+        makeDisplay(softwareType);
         display->show();
         bottom = makeScreen("bottom");
         middle = makeScreen("middle", Kind::Popup);
         top = makeScreen("top", Kind::Popup);
+        next = makeScreen("next");
     }
 
     void fill()
@@ -38,7 +42,7 @@ protected:
     {
         std::string names;
         for (UWidget* child = content()->firstChild(); child; child = child->nextSibling()) {
-            for (const auto* screen : {&bottom, &middle, &top}) {
+            for (const auto* screen : {&bottom, &middle, &top, &next}) {
                 if (*screen && &(*screen)->widget() == child)
                     names += (names.empty() ? "" : " ") + (*screen)->widgetName();
             }
@@ -49,69 +53,66 @@ protected:
     std::unique_ptr<TestScreen> bottom;
     std::unique_ptr<TestScreen> middle;
     std::unique_ptr<TestScreen> top;
+    std::unique_ptr<TestScreen> next; // an ordinary one, which is not on the stack
 };
 
-TEST_F(DisplayStackTest, APopupMadeCurrentAgainStandsOnceAndOnTop)
+TEST_F(DisplayStackTest, EachStepLeavesItsScreensOnTheGlassAndTellsOnce)
 {
-    fill();
-    display->setCurrent(middle.get());
-    EXPECT_EQ(stackText(), "bottom top middle");
-    EXPECT_EQ(display->serialise(), bottom->screen().text + top->screen().text + middle->screen().text);
-    EXPECT_EQ(takeLog(), Lines{"show middle"});
-    EXPECT_EQ(subscriber.takeNotices(), 1);
-}
-
-TEST_F(DisplayStackTest, AnOrdinaryScreenTakesEverythingOffWithoutLostFocus)
-{
-    fill();
-    auto next = makeScreen("next");
-    display->setCurrent(next.get());
-    EXPECT_EQ(takeLog(), Lines{"show next"});
-    EXPECT_EQ(display->getCurrent(), next.get());
-    EXPECT_EQ(display->serialise(), next->screen().text);
-    for (TestScreen* screen : {bottom.get(), middle.get(), top.get()}) {
-        EXPECT_EQ(screen->widget().parentWidget(), nullptr) << screen->widgetName();
-        EXPECT_TRUE(screen->screen().isOwner) << screen->widgetName();
-        EXPECT_EQ(screen->screen().display(), nullptr) << screen->widgetName();
-        EXPECT_FALSE(screen->widget().isVisible()) << screen->widgetName();
+    const struct {
+        const char* name;
+        std::function<void()> step;
+        const char* stack;
+        const std::unique_ptr<TestScreen>* current;
+        Lines log;
+    } steps[] = {
+        {"a popup again", [&] { display->setCurrent(middle.get()); }, "bottom top middle", &middle, {"show middle"}},
+        {"an ordinary screen", [&] { display->setCurrent(next.get()); }, "next", &next, {"show next"}},
+        {"the ordinary one again", [&] { display->setCurrent(bottom.get()); }, "bottom", &bottom, {"show bottom"}},
+        {"the top popup goes", [&] { top->screen().dismiss(); }, "bottom middle", &middle, {"show middle"}},
+        {"one in the middle goes", [&] { middle->screen().dismiss(); }, "bottom top", &top, {}},
+        {"the lowest goes", [&] { bottom->screen().dismiss(); }, "middle top", &top, {}},
+        {"dark", [&] { display->setCurrent(nullptr); }, "", nullptr,
+            {"lostFocus bottom", "lostFocus middle", "lostFocus top"}},
+    };
+    for (const auto& [name, step, stack, current, told] : steps) {
+        SCOPED_TRACE(name);
+        makeAll();
+        fill();
+        step();
+        EXPECT_EQ(stackText(), stack);
+        EXPECT_EQ(display->getCurrent(), current ? current->get() : nullptr);
+        EXPECT_EQ(takeLog(), told);
+        EXPECT_EQ(subscriber.takeNotices(), 1);
+        std::string text;
+        std::istringstream names(stack);
+        for (std::string each; names >> each;)
+            text += "object:\nname:" + each + "\nend:\n";
+        EXPECT_EQ(display->serialise(), text);
+        for (TestScreen* screen : {bottom.get(), middle.get(), top.get(), next.get()}) {
+            SCOPED_TRACE(screen->widgetName());
+            EXPECT_EQ(screen->screen().isOwner, !isInContent(*screen));
+            if (isInContent(*screen)) {
+                EXPECT_TRUE(screen->widget().isVisible());
+                EXPECT_EQ(screen->screen().display(), display.get());
+            }
+        }
     }
 }
 
-TEST_F(DisplayStackTest, AnOrdinaryScreenMadeCurrentAgainIsShownAgain)
-{
-    fill();
-    display->setCurrent(bottom.get());
-    EXPECT_EQ(stackText(), "bottom");
-    EXPECT_TRUE(bottom->widget().isVisible());
-    EXPECT_FALSE(bottom->screen().isOwner);
-    EXPECT_EQ(bottom->screen().display(), display.get());
-}
-
-TEST_F(DisplayStackTest, WhenTheTopPopupGoesTheScreenBelowComesBack)
+TEST_F(DisplayStackTest, WhoLeavesForAnotherForgetsTheDisplayAndWhoIsDismissedKeepsIt)
 {
     fill();
     top->screen().dismiss();
-    EXPECT_EQ(display->getCurrent(), middle.get());
-    EXPECT_EQ(takeLog(), Lines{"show middle"});
+    EXPECT_EQ(top->screen().display(), display.get()) << "it gives its notice when the one below is back";
+    top->screen().dismiss(); // it stands on no stack now
     EXPECT_EQ(stackText(), "bottom middle");
-    EXPECT_TRUE(top->screen().isOwner);
-    EXPECT_FALSE(middle->screen().isOwner);
-    EXPECT_EQ(subscriber.takeNotices(), 1) << "the dismissing screen gives it, once the one below is back";
-    EXPECT_EQ(top->screen().display(), display.get()) << "so it keeps the display";
-}
-
-TEST_F(DisplayStackTest, APopupInTheMiddleLeavesWithoutFurtherEffect)
-{
-    fill();
-    middle->screen().dismiss();
-    EXPECT_EQ(display->getCurrent(), top.get());
-    EXPECT_EQ(takeLog(), Lines{});
-    EXPECT_EQ(stackText(), "bottom top");
-    EXPECT_TRUE(middle->screen().isOwner);
     EXPECT_EQ(subscriber.takeNotices(), 1);
-    middle->screen().dismiss(); // it stands on no stack now
-    EXPECT_EQ(stackText(), "bottom top");
-    EXPECT_EQ(subscriber.takeNotices(), 0);
+    display->setCurrent(next.get());
+    for (TestScreen* screen : {bottom.get(), middle.get()}) {
+        EXPECT_EQ(screen->screen().display(), nullptr);
+        EXPECT_FALSE(screen->widget().isVisible());
+    }
+    EXPECT_EQ(next->screen().display(), display.get());
 }
 
 TEST_F(DisplayStackTest, AScreenThatTellsOfItsReturnGivesTheOneNoticeOfADismissal)
@@ -124,6 +125,8 @@ TEST_F(DisplayStackTest, AScreenThatTellsOfItsReturnGivesTheOneNoticeOfADismissa
 
 TEST_F(DisplayStackTest, WhenTheLastScreenGoesTheGlassIsDark)
 {
+    display->setCurrent(nullptr);
+    EXPECT_EQ(subscriber.takeNotices(), 1) << "of show(): nothing was there";
     display->setCurrent(bottom.get());
     subscriber.takeNotices();
     bottom->screen().dismiss();
@@ -133,19 +136,6 @@ TEST_F(DisplayStackTest, WhenTheLastScreenGoesTheGlassIsDark)
     EXPECT_EQ(subscriber.takeNotices(), 1);
     display->setCurrent(middle.get());
     EXPECT_TRUE(content()->isVisible());
-}
-
-TEST_F(DisplayStackTest, NullDarkensTheGlassAndTellsEveryScreen)
-{
-    display->setCurrent(nullptr);
-    EXPECT_EQ(subscriber.takeNotices(), 1) << "only the one of show()";
-    fill();
-    display->setCurrent(nullptr);
-    EXPECT_EQ(takeLog(), (Lines{"lostFocus bottom", "lostFocus middle", "lostFocus top"}));
-    EXPECT_EQ(stackText(), "");
-    EXPECT_TRUE(bottom->screen().isOwner && middle->screen().isOwner && top->screen().isOwner);
-    EXPECT_EQ(display->serialise(), "");
-    EXPECT_EQ(subscriber.takeNotices(), 1);
 }
 
 TEST_F(DisplayStackTest, AHiddenDisplayOnlyBuildsTheStackAndShowsItsTopLater)
@@ -264,11 +254,7 @@ TEST_P(DeletedOnTheStack, IsDroppedByTheNextWalkIfItSaidNothing)
         [&] { display.reset(); },
     };
     for (const auto& walk : walks) {
-        makeDisplay();
-        display->show();
-        bottom = makeScreen("bottom");
-        middle = makeScreen("middle", Kind::Popup);
-        top = makeScreen("top", Kind::Popup);
+        makeAll();
         fill();
         (*all[GetParam().screen])->isRetiring = false;
         all[GetParam().screen]->reset();
@@ -409,7 +395,6 @@ TEST_F(DisplayStackTest, AScreenMayDeleteAnyAndComeBackWhenItLosesTheFocus)
 TEST_F(DisplayStackTest, TheSubscriberMayDoAnythingInsideEveryNotice)
 {
     using Step = std::pair<const char*, std::function<void()>>;
-    auto next = makeScreen("next");
     const std::vector<Step> operations{
         {"popup", [&] { display->setCurrent(middle.get()); }},
         {"ordinary", [&] { display->setCurrent(next.get()); }},
@@ -437,12 +422,7 @@ TEST_F(DisplayStackTest, TheSubscriberMayDoAnythingInsideEveryNotice)
     for (const auto& [operation, run] : operations) {
         for (const auto& [action, react] : actions) {
             SCOPED_TRACE(std::string(operation) + ", " + action);
-            makeDisplay("Zelmark QVT");
-            display->show();
-            bottom = makeScreen("bottom");
-            middle = makeScreen("middle", Kind::Popup);
-            top = makeScreen("top", Kind::Popup);
-            next = makeScreen("next");
+            makeAll("Zelmark QVT");
             fill();
             subscriber.onNextNotice = react;
             run();
