@@ -19,6 +19,17 @@ void ScreenWatch::publish(const UScreenWE1& screen, const std::string& text)
         mObserver();
 }
 
+void ScreenWatch::clear()
+{
+    {
+        const std::lock_guard lock(mMutex);
+        mSnapshot = Snapshot();
+    }
+    mHasChanged.notify_all();
+    if (mObserver)
+        mObserver();
+}
+
 void ScreenWatch::wake()
 {
     {

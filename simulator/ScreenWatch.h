@@ -23,8 +23,11 @@ class ScreenWatch {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Takes the screen over, if anything on it has changed. Threads: GUI thread.
+    /// Takes the screen over, if anything on it has changed. Threads: one, the GUI thread for the telephone.
     void publish(const UScreenWE1& screen, const std::string& text);
+
+    /// Shows nothing any more, as before the first screen. Threads: the one that publishes.
+    void clear();
 
     /// Lets everybody who waits look again.
     void wake();
@@ -42,7 +45,7 @@ public:
     /// Waits until something has been shown and nothing has changed for a while; at the limit it gives up.
     void waitUntilQuiet(std::chrono::milliseconds quiet, std::chrono::milliseconds limit) const;
 
-    /// Called after each change, and at the end, on the GUI thread. Set it before the telephone runs.
+    /// Called after each change, and at the end, on the thread that publishes. Set it before the telephone runs.
     void setObserver(std::function<void()> observer) { mObserver = std::move(observer); }
 
 private:
