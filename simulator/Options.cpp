@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sstream>
 
 namespace Simulator {
 
@@ -22,6 +23,8 @@ struct Wishes {
     bool hasControl = false;
     bool hasServe = false;
     double patienceInSeconds = 5;
+    std::string clock = "manual";
+    bool isWithoutDesktop = false;
     bool isDesktop = false;
 };
 
@@ -55,6 +58,12 @@ void addModes(CLI::App& app, Wishes& wishes)
     CLI::Option* serve = app.add_option("--serve", wishes.options.port,
         "Show the telephone as a page of a browser on this machine, at a port; 0 takes a free one");
     serve->type_name("[PORT]")->expected(0, 1)->default_str("8080")->check(CLI::Range(0, 65535));
+    app.add_option("--clock", wishes.clock, "Of the telephone with --control: manual, or real, which runs by itself")
+        ->check(CLI::IsMember({"manual", "real"}, CLI::ignore_case).description(""))
+        ->capture_default_str()
+        ->type_name("NAME")
+        ->needs(control)
+        ->excludes(record);
     script->excludes(tour)->excludes(text)->excludes(shot)->excludes(control)->excludes(serve);
     tour->excludes(text)->excludes(shot)->excludes(control)->excludes(serve);
     control->excludes(text)->excludes(shot)->excludes(serve);
@@ -82,6 +91,7 @@ void addSettings(CLI::App& app, Wishes& wishes)
                              ->type_name("N");
     app.add_flag("--desktop", wishes.isDesktop, "Run the phonelet as the desktop, on its glass of one line")
         ->excludes(lines);
+    app.add_flag("--no-desktop", wishes.isWithoutDesktop, "Leave out the strip above the glass and its process");
     app.add_option("--software", wishes.options.variant.software, "Of the telephone: sip, qvt or other")
         ->check(CLI::IsMember(VariantChoices::software(), CLI::ignore_case).description(""))
         ->capture_default_str()
@@ -89,6 +99,23 @@ void addSettings(CLI::App& app, Wishes& wishes)
     app.add_option("--model", wishes.options.variant.model, "Of the telephone: plain, rx40 or rx70")
         ->check(CLI::IsMember(VariantChoices::models(), CLI::ignore_case).description(""))
         ->type_name("NAME");
+}
+
+std::string numberOf(double value)
+{
+    std::ostringstream text;
+    text << value;
+    return text.str();
+}
+
+/// As its own command line has it.
+std::vector<std::string> desktopArguments(const Wishes& wishes)
+{
+    std::vector<std::string> arguments{"--software", wishes.options.variant.software, "--model",
+        wishes.options.variant.model, "--timeout", numberOf(wishes.patienceInSeconds)};
+    if (!wishes.options.font.empty())
+        arguments.insert(arguments.end(), {"--font", wishes.options.font});
+    return arguments;
 }
 
 Options::Mode modeOf(const Wishes& wishes)
@@ -104,6 +131,11 @@ Options::Mode modeOf(const Wishes& wishes)
     return wishes.options.text || !wishes.options.shot.empty() ? Options::Mode::Once : Options::Mode::Terminal;
 }
 
+}
+
+bool Options::wantsDesktop() const
+{
+    return hasDesktop && mode != Mode::Once && mode != Mode::Help;
 }
 
 std::string programName(int argc, const char* const* argv)
@@ -139,6 +171,9 @@ Options parseOptions(int argc, const char* const* argv, const std::string& versi
     options.patience = std::chrono::milliseconds(static_cast<long>(wishes.patienceInSeconds * 1000));
     options.softwareType = softwareType(options.variant.software);
     options.application = wishes.isDesktop ? "DesktopPhonelet" : "";
+    options.isClockReal = CLI::detail::to_lower(wishes.clock) == "real";
+    options.hasDesktop = !wishes.isWithoutDesktop && !wishes.isDesktop;
+    options.desktopArguments = desktopArguments(wishes);
     options.hardware.displayLines = options.variant.displayLines;
     options.hardware.isRX40 = options.variant.model == "rx40";
     options.hardware.isRX70 = options.variant.model == "rx70";

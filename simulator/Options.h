@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <string>
+#include <vector>
 
 namespace Simulator {
 
@@ -39,9 +40,15 @@ struct Options {
     std::string font; ///< Empty for the system's.
     std::chrono::milliseconds patience{5000};
     Variant variant;
-    HardwareVersion::Set hardware; ///< As the variant says.
-    std::string application;       ///< As which application the phonelet runs; empty for its own name.
-    std::string softwareType;      ///< The same, in the words of the display.
+    HardwareVersion::Set hardware;             ///< As the variant says.
+    std::string application;                   ///< As which application the phonelet runs; empty for its own name.
+    std::string softwareType;                  ///< The same, in the words of the display.
+    bool isClockReal = false;                  ///< Of the control channel: it runs by itself.
+    bool hasDesktop = true;                    ///< False where it is left out.
+    std::vector<std::string> desktopArguments; ///< What the desktop shares with the telephone.
+
+    /// True where the telephone is worked, and is no desktop itself.
+    bool wantsDesktop() const;
 };
 
 /// The name of the program, without its folder.

@@ -1,5 +1,6 @@
 #include "Phone.h"
 
+#include "DesktopProcess.h"
 #include "GuiCall.h"
 #include "Script.h"
 
@@ -59,6 +60,7 @@ void Phone::run(const Phonelet& phonelet, const Driver& driver)
     display.subscribe(this);
     DisplayAPI::DeliveryWatch::setObserver([this](const auto& delivery) { mDeliveries.add(delivery); });
     callOnGui([this] { mHasRun = true; });
+    startDesktop();
     std::thread driverThread([this, &driver] { runDriver(driver); });
 
     std::exception_ptr phoneletError;
@@ -71,6 +73,8 @@ void Phone::run(const Phonelet& phonelet, const Driver& driver)
     mWatch.end();
     ULoop::instance().close();
     mDeliveries.wake();
+    if (mSettings.desktop)
+        mSettings.desktop->end();
     driverThread.join();
     DisplayAPI::DeliveryWatch::setObserver({});
     display.unSubscribe();
@@ -80,6 +84,24 @@ void Phone::run(const Phonelet& phonelet, const Driver& driver)
         std::rethrow_exception(phoneletError);
     if (mDriverError)
         std::rethrow_exception(mDriverError);
+}
+
+void Phone::startDesktop()
+{
+    using Clock = DesktopProcess::Clock;
+    if (mSettings.desktop)
+        mSettings.desktop->start(
+            mSettings.clock == ClockKind::Manual ? Clock::Manual : Clock::Real, mSettings.patience);
+}
+
+ScreenWatch& Phone::desktop()
+{
+    return mSettings.desktop ? mSettings.desktop->watch() : mNoDesktop;
+}
+
+bool Phone::finishDesktop()
+{
+    return mSettings.desktop && mSettings.desktop->finish();
 }
 
 void Phone::runDriver(const Driver& driver)
@@ -178,7 +200,14 @@ bool Phone::advance(std::chrono::milliseconds time)
 {
     if (PhoneObserver* observer = mObserver)
         observer->timeMoves(time);
-    return onGui([time] { ULoop::instance().advance(static_cast<std::uint64_t>(time.count())); });
+    return onGui([this, time] { moveClock(time); });
+}
+
+void Phone::moveClock(std::chrono::milliseconds time)
+{
+    ULoop::instance().advance(static_cast<std::uint64_t>(time.count()));
+    if (mSettings.desktop)
+        mSettings.desktop->advance(time);
 }
 
 void Phone::quit()

@@ -16,11 +16,14 @@
 #include <chrono>
 #include <exception>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
 namespace Simulator {
+
+class DesktopProcess;
 
 /// The telephone without its operator: it runs a phonelet on the GUI thread, while a driver works the keys and
 /// looks at the screen from a thread of its own.
@@ -39,6 +42,7 @@ public:
         std::chrono::milliseconds patience{5000}; ///< How long the GUI thread may take to answer.
         std::string application = {};             ///< As which application the phonelet runs.
         std::string softwareType = {};
+        std::shared_ptr<DesktopProcess> desktop = {}; ///< Runs as long as the phonelet; null for none.
     };
 
     /// Works the telephone; the phonelet is told to end when it returns.
@@ -73,8 +77,12 @@ public:
     /// the telephone did not answer in time, has ended, or has no such step. What the step throws comes out.
     bool callStep(const std::string& name, const std::string& argument);
 
-    /// Moves a manual clock. False when the telephone did not answer in time, or has ended.
+    /// Moves a manual clock, and that of the desktop behind it. False when the telephone did not answer in time, or has
+    /// ended.
     bool advance(std::chrono::milliseconds time);
+
+    /// The same on the GUI thread.
+    void moveClock(std::chrono::milliseconds time);
 
     /// Asks the phonelet to end: its `display.exec()` returns.
     void quit();
@@ -109,9 +117,12 @@ public:
     ScreenWatch& watch() { return mWatch; }
     const ScreenWatch& watch() const { return mWatch; }
 
-    /// What the desktop shows, the strip above the glass; its number is 0 while there is none. Its observer is called on
-    /// a thread of the desktop's.
-    ScreenWatch& desktop() { return mNoDesktop; }
+    /// What the desktop shows, the strip above the glass; its number is 0 while there is none. Its observer is called
+    /// on a thread of the desktop's.
+    ScreenWatch& desktop();
+
+    /// Waits until what the desktop was told before is seen in desktop(). False when there is none that answers.
+    bool finishDesktop();
 
     DeliveryLog& deliveries() { return mDeliveries; }
     const std::vector<CustomStep>& steps() const { return mSettings.steps; }
@@ -120,6 +131,7 @@ public:
 private:
     void displayChanged(std::string unused) override;
     void publish();
+    void startDesktop();
     void runDriver(const Driver& driver);
 
     FixedFont mFont;

@@ -1,5 +1,6 @@
 #include <PhoneSimulator/PhoneSimulator.h>
 
+#include "DesktopProcess.h"
 #include "Options.h"
 #include "Printable.h"
 #include "Simulation.h"
@@ -47,8 +48,10 @@ PhoneSimulator& PhoneSimulator::setDesktop(std::string program)
     return *this;
 }
 
-void PhoneSimulator::tellDesktop(const std::string&, const std::string&)
+void PhoneSimulator::tellDesktop(const std::string& step, const std::string& argument)
 {
+    if (mDesktop)
+        mDesktop->tell(step, argument);
 }
 
 std::time_t PhoneSimulator::now()
@@ -70,7 +73,11 @@ int PhoneSimulator::run(const Phonelet& phonelet)
         Simulator::Options options = Simulator::parseOptions(mArgumentCount, mArguments, mVersion);
         if (options.application.empty())
             options.application = mApplicationName;
-        return Simulation(std::move(options), std::move(steps), mTour, phonelet).run();
+        mDesktop = nullptr;
+        if (!mDesktopProgram.empty() && options.wantsDesktop())
+            mDesktop = std::make_shared<Simulator::DesktopProcess>(
+                Simulator::DesktopProcess::Settings{options.program, mDesktopProgram, options.desktopArguments});
+        return Simulation(std::move(options), std::move(steps), mTour, phonelet, mDesktop).run();
     } catch (const Simulator::UsageError& error) {
         report(error);
         return Simulation::BadUsage;

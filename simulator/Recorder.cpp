@@ -99,10 +99,10 @@ bool Recorder::isQuiet()
 void Recorder::moveClock()
 {
     bool hasMoved = false;
-    mPhone.onGui([&hasMoved] {
+    mPhone.onGui([this, &hasMoved] {
         hasMoved = ULoop::instance().hasTimers();
         if (hasMoved)
-            ULoop::instance().advance(Tick.count());
+            mPhone.moveClock(Tick);
     });
     if (hasMoved)
         mTime += Tick;

@@ -86,6 +86,7 @@ const std::map<std::string, Word>& words()
         {"release", {Step::Kind::Release, true, parseSingleKey}},
         {"expect", {Step::Kind::Expect, true, takeText}},
         {"expect-not", {Step::Kind::ExpectNot, true, takeText}},
+        {"expect-desktop", {Step::Kind::ExpectDesktop, true, takeText}},
         {"expect-screen", {Step::Kind::ExpectScreen, true, takeText}},
         {"advance", {Step::Kind::Advance, true, takeTime}},
         {"shot", {Step::Kind::Shot, true, takeText}},

@@ -13,15 +13,16 @@ struct Step {
         Press, ///< Presses and releases `keys`, each `count` times.
         Hold,  ///< Presses the key and holds it down.
         Release,
-        Expect,       ///< Waits until `text` is on the screen.
-        ExpectNot,    ///< Waits until `text` is not on the screen.
-        ExpectScreen, ///< Waits until the whole screen text, in one line, is `text`.
-        Advance,      ///< Moves the clock by `time`.
-        Text,         ///< Prints the screen text.
-        Show,         ///< Prints the screen, drawn and as text.
-        Shot,         ///< Writes the screen to the file `text`.
-        Say,          ///< Prints `text`.
-        Custom,       ///< Calls the phonelet's own step `name` with `text`.
+        Expect,        ///< Waits until `text` is on the screen.
+        ExpectNot,     ///< Waits until `text` is not on the screen.
+        ExpectDesktop, ///< Waits until `text` is on the desktop.
+        ExpectScreen,  ///< Waits until the whole screen text, in one line, is `text`.
+        Advance,       ///< Moves the clock by `time`.
+        Text,          ///< Prints the screen text.
+        Show,          ///< Prints the desktop, if there is one, and the screen: drawn and as text.
+        Shot,          ///< Writes the screen to the file `text`.
+        Say,           ///< Prints `text`.
+        Custom,        ///< Calls the phonelet's own step `name` with `text`.
     };
 
     Kind kind = Kind::Press;

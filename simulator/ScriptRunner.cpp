@@ -81,10 +81,11 @@ std::string ScriptRunner::play(const Step& step)
     case Step::Kind::Release: mPhone.key(step.keys.front(), UGlobal::KeyReleased); return "";
     case Step::Kind::Expect:
     case Step::Kind::ExpectNot:
-    case Step::Kind::ExpectScreen: return expect(step);
+    case Step::Kind::ExpectScreen: return expect(step, mPhone.watch());
+    case Step::Kind::ExpectDesktop: return expectOnDesktop(step);
     case Step::Kind::Advance: return reasonUnless(mPhone.advance(step.time));
     case Step::Kind::Text: mOutput << settledScreen().text << std::flush; return "";
-    case Step::Kind::Show: Simulator::printScreen(settledScreen(), mOutput); return "";
+    case Step::Kind::Show: show(); return "";
     case Step::Kind::Shot: return shoot(step);
     case Step::Kind::Custom: return reasonUnless(mPhone.callStep(step.name, step.text));
     case Step::Kind::Say: mOutput << step.text << std::endl; return "";
@@ -100,7 +101,20 @@ std::string ScriptRunner::shoot(const Step& step)
     return mSettings.goldens ? mSettings.goldens->check(step.text, picture, shown.text) : "";
 }
 
-std::string ScriptRunner::expect(const Step& step)
+void ScriptRunner::show()
+{
+    const Snapshot screen = settledScreen();
+    if (mPhone.finishDesktop())
+        printScreen(mPhone.desktop().snapshot(), mOutput);
+    printScreen(screen, mOutput);
+}
+
+std::string ScriptRunner::expectOnDesktop(const Step& step)
+{
+    return mPhone.finishDesktop() ? expect(step, mPhone.desktop()) : "the telephone has no desktop, or it has gone";
+}
+
+std::string ScriptRunner::expect(const Step& step, const ScreenWatch& watch)
 {
     const bool isWanted = step.kind != Step::Kind::ExpectNot;
     const auto isAsWanted = [&](const Snapshot& snapshot) {
@@ -111,10 +125,11 @@ std::string ScriptRunner::expect(const Step& step)
     // What came before may still be on its way to the screen; look only at what follows from it.
     if (!mPhone.finishPosted() && !mPhone.watch().hasEnded())
         return reasonUnless(false);
-    if (mPhone.watch().waitFor(isAsWanted, mSettings.patience))
+    if (watch.waitFor(isAsWanted, mSettings.patience))
         return "";
-    const std::string text = mPhone.watch().snapshot().text;
-    const std::string closest = step.kind == Step::Kind::Expect ? closestField(text, step.text) : "";
+    const std::string text = watch.snapshot().text;
+    const bool isOneLine = step.kind == Step::Kind::Expect || step.kind == Step::Kind::ExpectDesktop;
+    const std::string closest = isOneLine ? closestField(text, step.text) : "";
     return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text + "\", "
         + (closest.empty() ? "" : "closest is \"" + closest + "\", ") + "the screen has: "
         + (text.empty() ? "no text; display.setCurrent() shows a screen, once display.show() has been called"

@@ -10,6 +10,7 @@ namespace Simulator {
 
 class GoldenFolder;
 class Phone;
+class ScreenWatch;
 struct Snapshot;
 
 /// Plays a script on a telephone.
@@ -32,7 +33,9 @@ private:
     /// Plays the step; a failure's reason, or nothing.
     std::string play(const Step& step);
     std::string playChecked(const Step& step);
-    std::string expect(const Step& step);
+    void show();
+    std::string expect(const Step& step, const ScreenWatch& watch);
+    std::string expectOnDesktop(const Step& step);
     std::string shoot(const Step& step);
     int reportUnusedGoldens(const Script& script);
     std::string reasonUnless(bool hasAnswered);

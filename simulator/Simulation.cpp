@@ -55,11 +55,13 @@ int codeOf(int signal)
 
 }
 
-Simulation::Simulation(Options options, std::vector<CustomStep> steps, std::string tour, Phonelet phonelet)
+Simulation::Simulation(Options options, std::vector<CustomStep> steps, std::string tour, Phonelet phonelet,
+    std::shared_ptr<DesktopProcess> desktop)
     : mOptions(std::move(options))
     , mSteps(std::move(steps))
     , mTour(std::move(tour))
     , mPhonelet(std::move(phonelet))
+    , mDesktop(std::move(desktop))
 {
     check(mSteps);
 }
@@ -103,6 +105,7 @@ Phone::Settings Simulation::settings(Phone::ClockKind clock) const
     settings.hardware = mOptions.hardware;
     settings.application = mOptions.application;
     settings.softwareType = mOptions.softwareType;
+    settings.desktop = mDesktop;
     settings.clock = clock;
     settings.patience = std::max(mOptions.patience, leastPatience);
     return settings;
@@ -228,7 +231,7 @@ int Simulation::runOnce()
 int Simulation::runControl()
 {
     SignalWatch signals(SignalWatch::Of::Program);
-    Phone phone(settings(Phone::ClockKind::Manual));
+    Phone phone(settings(mOptions.isClockReal ? Phone::ClockKind::Real : Phone::ClockKind::Manual));
     const std::unique_ptr<RecordFile> record = recordFile();
     ControlServer server(phone, signals, mOptions.control,
         {mOptions.patience, mOptions.scale, mOptions.programAndVersion, mOptions.variant});

@@ -24,7 +24,8 @@ public:
     static constexpr int BadUsage = 2;
 
     /// Throws UsageError for steps of the phonelet that can't be.
-    Simulation(Options options, std::vector<CustomStep> steps, std::string tour, Phonelet phonelet);
+    Simulation(Options options, std::vector<CustomStep> steps, std::string tour, Phonelet phonelet,
+        std::shared_ptr<DesktopProcess> desktop);
 
     int run();
 
@@ -50,6 +51,7 @@ private:
     std::vector<CustomStep> mSteps;
     std::string mTour;
     Phonelet mPhonelet;
+    std::shared_ptr<DesktopProcess> mDesktop; // may be null
 };
 
 }

@@ -2,11 +2,15 @@
 
 #include <ctime>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace DisplayAPI {
 class Display;
+}
+namespace Simulator {
+class DesktopProcess;
 }
 
 /// An application of the telephone: it builds its screens on the display, runs `display.exec()`, and lets its
@@ -51,8 +55,8 @@ public:
     /// The function is called off the GUI thread, one call at a time, between the first turn of the phonelet's loop
     /// and the end of run(); it should return soon. What it throws fails the script's step; in the terminal it ends
     /// the telephone. So what it uses is made before run() and may find the phonelet's screens gone.
-    /// Errors: an empty function, a name that has blanks or that a step of every script has, a key outside 0 to 8
-    /// and one key for two steps end run() with 2.
+    /// Errors: an empty function, a name that has blanks or that a step of every script or a command of the control
+    /// channel has, a key outside 0 to 8 and one key for two steps end run() with 2.
     PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
 
     /// Gives the telephone a desktop: another program with a PhoneSimulator in it, which stands beside this one. It runs
@@ -82,6 +86,7 @@ private:
     std::string mTour;
     std::string mApplicationName;
     std::string mDesktopProgram;
+    std::shared_ptr<Simulator::DesktopProcess> mDesktop;
     struct OwnStep {
         std::string name;
         StepFunction function;
