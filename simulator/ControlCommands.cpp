@@ -10,7 +10,7 @@
 #include "WidgetTree.h"
 
 #include <algorithm>
-#include <map>
+#include <limits>
 #include <utility>
 
 namespace Simulator {
@@ -126,7 +126,7 @@ std::string ControlCommands::answer(const std::string& line)
     return written(answer);
 }
 
-Json ControlCommands::carryOut(const ControlRequest& request)
+const std::map<std::string, ControlCommands::Handler>& ControlCommands::handlers()
 {
     static const std::map<std::string, Handler> handlers = {
         {"hello", &ControlCommands::hello},
@@ -138,12 +138,24 @@ Json ControlCommands::carryOut(const ControlRequest& request)
         {"advance", &ControlCommands::advance},
         {"tree", &ControlCommands::tree},
         {"commands", &ControlCommands::commands},
+        {"desktop", &ControlCommands::desktop},
+        {"watch", &ControlCommands::watch},
         {"quit", &ControlCommands::quit},
         {"variant", &ControlCommands::variant},
     };
+    return handlers;
+}
+
+bool ControlCommands::isCommand(const std::string& name)
+{
+    return handlers().contains(name);
+}
+
+Json ControlCommands::carryOut(const ControlRequest& request)
+{
     const std::string name = request.command();
     Json answer{{"ok", true}};
-    if (const auto found = handlers.find(name); found != handlers.end())
+    if (const auto found = handlers().find(name); found != handlers().end())
         answer.update((this->*found->second)(request));
     else if (std::ranges::find(mPhone.steps(), name, &CustomStep::name) != mPhone.steps().end())
         answer.update(step(name, request));
@@ -156,7 +168,7 @@ Json ControlCommands::carryOut(const ControlRequest& request)
 
 std::string ControlCommands::names() const
 {
-    std::string names = "hello, key, type, text, expect, pixels, advance, tree, commands, quit";
+    std::string names = "hello, key, type, text, expect, pixels, advance, tree, commands, desktop, watch, quit";
     if (mSettings.onVariant)
         names += ", variant";
     for (const CustomStep& step : mPhone.steps())
@@ -168,6 +180,12 @@ void ControlCommands::require(bool hasAnswered)
 {
     if (!hasAnswered)
         throw ControlError(mPhone.watch().hasEnded() ? "ended" : "no-answer", mPhone.trouble());
+}
+
+void ControlCommands::requireDesktop()
+{
+    if (!mPhone.finishDesktop())
+        throw ControlError("no-desktop", "the telephone has no desktop, or it has gone");
 }
 
 void ControlCommands::finish()
@@ -244,7 +262,7 @@ Json ControlCommands::text(const ControlRequest& request)
 
 Json ControlCommands::expect(const ControlRequest& request)
 {
-    request.allow({"text", "not", "screen", "timeout"});
+    request.allow({"text", "not", "screen", "timeout", "desktop"});
     const auto limit = request.secondsOr("timeout", mSettings.patience);
     const bool isNegative = request.has("not");
     const bool isWhole = request.has("screen");
@@ -258,10 +276,14 @@ Json ControlCommands::expect(const ControlRequest& request)
     };
     // What came before may still be on its way to the screen; look only at what follows from it.
     finish();
-    mPhone.watch().waitFor([&](const Snapshot& shown) { return mIsCancelled || isAsWanted(shown); }, limit);
-    const Snapshot shown = mPhone.watch().snapshot();
+    const bool isOfDesktop = request.flagOr("desktop", false);
+    if (isOfDesktop)
+        requireDesktop();
+    const ScreenWatch& watch = isOfDesktop ? mPhone.desktop() : mPhone.watch();
+    watch.waitFor([&](const Snapshot& shown) { return mIsCancelled || isAsWanted(shown); }, limit);
+    const Snapshot shown = watch.snapshot();
     if (isAsWanted(shown)) {
-        if (!isWhole)
+        if (!isWhole && !isOfDesktop)
             mPhone.noteText(wanted, !isNegative);
         return Json::object();
     }
@@ -274,15 +296,43 @@ Json ControlCommands::expect(const ControlRequest& request)
         {{"closest", closest}, {"text", shown.text}});
 }
 
-Json ControlCommands::pixels(const ControlRequest& request)
+/// The picture of a screen, also as a file where the command wants it.
+Json ControlCommands::picture(const ControlRequest& request, const UScreenWE1& screen) const
 {
-    request.allow({"settled", "file", "scale"});
     const std::string file = request.textOr("file", "");
     const int scale = request.numberOr("scale", mSettings.scale, 1, 32);
-    const Snapshot shown = snapshot(request);
     if (!file.empty())
-        writePicture(drawPicture(shown.screen, scale), file);
-    return {{"width", UScreenWE1::Width}, {"height", shown.screen.height()}, {"rows", rowsOf(shown.screen)}};
+        writePicture(drawPicture(screen, scale), file);
+    return {{"width", UScreenWE1::Width}, {"height", screen.height()}, {"rows", rowsOf(screen)}};
+}
+
+Json ControlCommands::pixels(const ControlRequest& request)
+{
+    request.allow({"settled", "text", "file", "scale"});
+    const bool isTextWanted = request.flagOr("text", false);
+    const Snapshot shown = snapshot(request);
+    Json answer = picture(request, shown.screen);
+    if (isTextWanted)
+        answer["text"] = shown.text;
+    return answer;
+}
+
+Json ControlCommands::desktop(const ControlRequest& request)
+{
+    request.allow({"file", "scale"});
+    finish();
+    requireDesktop();
+    const Snapshot shown = mPhone.desktop().snapshot();
+    Json answer{{"text", shown.text}};
+    answer.update(picture(request, shown.screen));
+    return answer;
+}
+
+Json ControlCommands::watch(const ControlRequest& request)
+{
+    request.allow({});
+    mIsWatched = true;
+    return Json::object();
 }
 
 Json ControlCommands::advance(const ControlRequest& request)
@@ -362,6 +412,7 @@ void ControlCommands::cancel()
 {
     mIsCancelled = true;
     mPhone.watch().wake();
+    mPhone.desktop().wake();
     mPhone.deliveries().wake();
 }
 

@@ -51,15 +51,20 @@ ControlServer::ControlServer(
     } else {
         mClient = standardClient();
     }
-    mPhone.watch().setObserver([this] {
-        if (mPhone.watch().hasEnded())
-            mPhoneEnded.set();
-    });
+    const auto observer = [this] {
+        if (mCommands.isWatched() || mPhone.watch().hasEnded())
+            mPhoneChanged.set();
+    };
+    mPhone.watch().setObserver(observer);
+    mPhone.desktop().setObserver(observer);
+    mPhone.deliveries().setObserver(observer);
 }
 
 ControlServer::~ControlServer()
 {
     mPhone.watch().setObserver({});
+    mPhone.desktop().setObserver({});
+    mPhone.deliveries().setObserver({});
 }
 
 int ControlServer::run()
@@ -86,7 +91,7 @@ void ControlServer::waitForSomething()
     const bool isSending = mClient && mClient->isSending();
     std::array<pollfd, 7> sources{{
         {mSignals.descriptor(), POLLIN, 0},
-        {mPhoneEnded.descriptor(), POLLIN, 0},
+        {mPhoneChanged.descriptor(), POLLIN, 0},
         {mWorker->descriptor(), POLLIN, 0},
         {mSocket ? mSocket->descriptor() : -1, POLLIN, 0},
         {mStarter, POLLIN, 0},
@@ -94,6 +99,7 @@ void ControlServer::waitForSomething()
         {mClient && !mClient->isGone() ? mClient->output() : -1, static_cast<short>(isSending ? POLLOUT : 0), 0},
     }};
     poll(sources.data(), sources.size(), isSending ? 100 : -1);
+    mPhoneChanged.clear();
     const auto has = [&sources](std::size_t source) { return sources[source].revents != 0; };
     if (has(4))
         watchStarter();
@@ -110,6 +116,7 @@ void ControlServer::waitForSomething()
 void ControlServer::serve()
 {
     handleAnswer();
+    tellChanges();
     if (mClient)
         handleClient();
     const bool isDone = !mWorker->isBusy() && !(mClient && mClient->isSending());
@@ -124,7 +131,21 @@ void ControlServer::handleAnswer()
         return;
     if (mClient && !mIsAnswerUnwanted)
         mClient->send(*answer);
+    if (mIsAnswerUnwanted)
+        mCommands.endWatch(); // it may have been the one who asked to watch
+    mIsWatched = mCommands.isWatched();
     mIsAnswerUnwanted = false;
+}
+
+/// One event for all that has changed meanwhile, once the client has read what it was sent before.
+void ControlServer::tellChanges()
+{
+    if (!mIsWatched || !mClient || mClient->isSending())
+        return;
+    const std::array now{
+        mPhone.watch().snapshot().number, mPhone.desktop().snapshot().number, mPhone.deliveries().count()};
+    if (std::exchange(mTold, now) != now)
+        mClient->send(ControlCommands::changedEvent());
 }
 
 void ControlServer::handleClient()
@@ -157,6 +178,9 @@ void ControlServer::dropClient()
 {
     mClient.reset();
     mIsAnswerUnwanted = mWorker->isBusy();
+    mIsWatched = false;
+    mTold = {};
+    mCommands.endWatch();
     if (!mSocket)
         mMustEnd = true;
 }

@@ -6,7 +6,9 @@
 #include "ControlWorker.h"
 #include "WakeSignal.h"
 
+#include <array>
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -42,6 +44,7 @@ private:
     void serve();
     void waitForSomething();
     void handleAnswer();
+    void tellChanges();
     void handleClient();
     void begin(std::string line);
     void acceptClient();
@@ -52,7 +55,9 @@ private:
     SignalWatch& mSignals;
     std::chrono::milliseconds mPatience;
     ControlCommands mCommands;
-    WakeSignal mPhoneEnded;
+    WakeSignal mPhoneChanged;             // something of it that somebody here wants to know
+    bool mIsWatched = false;              // the client is told of changes
+    std::array<std::uint64_t, 3> mTold{}; // what it knows of: the numbers of screen, desktop and deliveries
     std::optional<ControlSocket> mSocket;
     std::unique_ptr<ControlClient> mClient; // the one that is served
     std::unique_ptr<ControlWorker> mWorker; // while run() lasts

@@ -43,6 +43,8 @@ void DeliveryLog::add(const DisplayAPI::DeliveryWatch::Delivery& delivery)
             mEntries.pop_front();
     }
     mHasGrown.notify_all();
+    if (mObserver)
+        mObserver();
 }
 
 std::vector<DeliveryLog::Entry> DeliveryLog::since(std::uint64_t number) const

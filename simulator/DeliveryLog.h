@@ -8,6 +8,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace Simulator {
@@ -33,11 +34,15 @@ public:
         const std::function<bool()>& mayStop, std::chrono::milliseconds limit) const;
     void wake();
 
+    /// Called after each delivery, on the thread that has it. Set it before the telephone runs.
+    void setObserver(std::function<void()> observer) { mObserver = std::move(observer); }
+
 private:
     mutable std::mutex mMutex;
     mutable std::condition_variable mHasGrown;
     std::deque<Entry> mEntries;
     std::uint64_t mCount = 0;
+    std::function<void()> mObserver;
 };
 
 /// The name of a Command::Type, such as "Select"; its number in digits if it has none.

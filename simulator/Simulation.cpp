@@ -36,7 +36,8 @@ void check(const std::vector<CustomStep>& steps)
 {
     constexpr int functionKeys = 8;
     for (const CustomStep& step : steps) {
-        if (!step.function || !canNameStep(step.name) || step.functionKey < 0 || step.functionKey > functionKeys)
+        if (!step.function || !canNameStep(step.name) || ControlCommands::isCommand(step.name) || step.functionKey < 0
+            || step.functionKey > functionKeys)
             throw UsageError("\"" + step.name + "\" can't be a step of the phonelet's own");
         if (step.functionKey > 0 && std::ranges::count(steps, step.functionKey, &CustomStep::functionKey) > 1)
             throw UsageError("two steps want the function key F" + std::to_string(step.functionKey));
