@@ -20,7 +20,7 @@ class RecordFile;
 /// works it, the recorder moves that clock; it holds it while the phonelet answers a command, since the clock does not
 /// move on meanwhile in a replay either.
 /// Threads: one of its own.
-class Recorder : private PhoneObserver {
+class Recorder final : private PhoneObserver {
 public:
     enum class ClockMover { Recorder, Driver };
 

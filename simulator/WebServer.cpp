@@ -12,7 +12,6 @@
 #include <array>
 #include <cstring>
 #include <fcntl.h>
-#include <ranges>
 
 namespace Simulator {
 
@@ -201,7 +200,8 @@ int WebServer::run()
 bool WebServer::mustEnd() const
 {
     const auto hasQuit = [](const auto& client) { return client->hasQuit(); };
-    return mPhone.watch().hasEnded() || wantedVariant() || std::ranges::any_of(mClients | std::views::values, hasQuit)
+    return mPhone.watch().hasEnded() || wantedVariant()
+        || std::ranges::any_of(mClients, hasQuit, &Clients::value_type::second)
         || std::ranges::any_of(mLeaving, hasQuit);
 }
 
@@ -230,8 +230,8 @@ void WebServer::turn()
 void WebServer::sayGoodbye()
 {
     mSaysGoodbye = true;
-    for (const auto& client : mClients | std::views::values)
-        client->leave();
+    for (const auto& entry : mClients)
+        entry.second->leave();
     const auto deadline = Clock::now() + GoodbyeLimit;
     lws_sorted_usec_list_t timer{};
     const auto tick = [](lws_sorted_usec_list_t*) {};
@@ -243,8 +243,8 @@ void WebServer::sayGoodbye()
     }
     lws_sul_cancel(&timer);
     const auto hasEnded = [this](const auto& client) { return client->waitUntilDone(mPhone.patience()); };
-    mIsStuck
-        = !std::ranges::all_of(mClients | std::views::values, hasEnded) || !std::ranges::all_of(mLeaving, hasEnded);
+    mIsStuck = !std::ranges::all_of(mClients, hasEnded, &Clients::value_type::second)
+        || !std::ranges::all_of(mLeaving, hasEnded);
 }
 
 // Who may come
@@ -332,7 +332,7 @@ void WebServer::close(lws* connection)
     client->leave();
     for (const int key : client->heldKeys()) {
         const auto holdsToo = [key](const auto& other) { return other->heldKeys().contains(key); };
-        if (std::ranges::none_of(mClients | std::views::values, holdsToo))
+        if (std::ranges::none_of(mClients, holdsToo, &Clients::value_type::second))
             client->release(key);
     }
     mLeaving.push_back(std::move(client));

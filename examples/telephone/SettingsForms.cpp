@@ -14,7 +14,6 @@ constexpr int LongestName = 16;
 SettingsForms::SettingsForms(
     Screens& screens, Languages& languages, Notices& notices, Answers answers, std::function<void()> leave)
     : mScreens(screens)
-    , mLanguages(languages)
     , mNotices(notices)
     , mAnswers(std::move(answers))
     , mLeave(std::move(leave))

@@ -39,7 +39,6 @@ public:
 
 private:
     Screens& mScreens;
-    Languages& mLanguages;
     Notices& mNotices;
     Answers mAnswers;
     std::function<void()> mLeave;

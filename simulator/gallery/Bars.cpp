@@ -16,7 +16,7 @@ const Exhibit statusMessage("status-message", R"(
     [](Stage& stage) {
         auto* list = stage.add<VantoListBoxWithTitleMEG>();
         addRows(*list->list(), {"Bob", "Carol"});
-        stage.add<StatusMessageMEG>("Maintenance tonight", 0, 0);
+        stage.add<StatusMessageMEG>("Maintenance tonight", 0U, 0U);
     });
 
 const Exhibit volume("volume", R"(
@@ -26,7 +26,7 @@ const Exhibit volume("volume", R"(
 )",
     [](Stage& stage) {
         stage.addScreen("4711           Example Ltd.", "3 missed calls");
-        stage.add<VolumeIndicatorMEG>(VolumeIndicatorMEG::Speaker, 4, 0, 10);
+        stage.add<VolumeIndicatorMEG>(VolumeIndicatorMEG::Speaker, 4U, 0U, 10U);
     });
 
 const Exhibit systemWindow("system-window", R"(

@@ -85,6 +85,7 @@ void changeRowsAtRandom(Screen& list, const std::vector<RowStep<Screen>>& steps,
         EXPECT_EQ(ExpectedRows(items.begin(), items.end()), rows);
         ASSERT_EQ(widget.list()->count(), std::ssize(rows));
         for (int i = 0; i < std::ssize(rows); ++i)
-            EXPECT_EQ(widget.list()->item(i), rows[i]->getPrivateImplemetation()->getVantoListItem());
+            EXPECT_EQ(widget.list()->item(i),
+                rows[static_cast<std::size_t>(i)]->getPrivateImplemetation()->getVantoListItem());
     }
 }
