@@ -91,6 +91,7 @@ std::vector<std::string> paintedText(UWidget& widget)
     UPainter painter(screen, &font);
     widget.paint(painter);
     std::vector<std::string> lines;
+    lines.reserve(LineCount);
     for (int line = 0; line < LineCount; ++line)
         lines.push_back(lineOf(screen, line));
     while (!lines.empty() && lines.back().empty())

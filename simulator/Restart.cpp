@@ -67,6 +67,7 @@ void Restart::now(const std::vector<std::string>& arguments)
     std::fflush(nullptr);
     keepStandardDescriptorsOnly();
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments)
         pointers.push_back(const_cast<char*>(argument.c_str()));
     pointers.push_back(nullptr);

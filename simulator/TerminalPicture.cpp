@@ -25,7 +25,7 @@ std::string fitted(const std::string& text, int columns)
 /// The fields of a screen text, one in a line, or several of an object if there is no room for that.
 std::vector<std::string> fittingLines(const std::string& screenText, const Area& area)
 {
-    const std::vector<std::string> fields = fieldLines(screenText);
+    std::vector<std::string> fields = fieldLines(screenText);
     if (fields.size() <= static_cast<std::size_t>(area.lines))
         return fields;
     std::vector<std::string> lines;

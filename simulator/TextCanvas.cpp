@@ -11,6 +11,12 @@ namespace Simulator {
 
 namespace {
 
+/// Where a canvas of so many columns keeps a cell.
+std::size_t placeOf(int line, int columns, int column)
+{
+    return static_cast<std::size_t>(line) * static_cast<std::size_t>(columns) + static_cast<std::size_t>(column);
+}
+
 /// The bytes of the first character of a text that is printable.
 std::string_view firstCharacter(std::string_view text)
 {
@@ -84,12 +90,12 @@ TextCanvas::TextCanvas(int columns, int lines)
 
 const TextCanvas::Cell& TextCanvas::at(int line, int column) const
 {
-    return mCells[static_cast<std::size_t>(line * mColumns + column)];
+    return mCells[placeOf(line, mColumns, column)];
 }
 
 TextCanvas::Cell& TextCanvas::cell(int line, int column)
 {
-    return mCells[static_cast<std::size_t>(line * mColumns + column)];
+    return mCells[placeOf(line, mColumns, column)];
 }
 
 int TextCanvas::put(int line, int column, std::string_view text, Style style, int columns)
