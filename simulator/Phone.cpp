@@ -263,10 +263,25 @@ std::string Phone::trouble() const
                    : "the telephone has not started for " + wait + ": " + missingScreen();
 }
 
+bool Phone::finishAnswers(std::chrono::milliseconds limit)
+{
+    const auto deadline = ScreenWatch::Clock::now() + limit;
+    while (finishPosted()) {
+        const auto told = DisplayAPI::DeliveryWatch::countAtRest();
+        // What the listeners have posted may lead to more that they are told.
+        if (told && finishPosted() && told == DisplayAPI::DeliveryWatch::countAtRest())
+            return true;
+        if (ScreenWatch::Clock::now() > deadline)
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return false;
+}
+
 void Phone::settle()
 {
     const auto deadline = ScreenWatch::Clock::now() + SettleLimit;
-    while (finishPosted() && ScreenWatch::Clock::now() < deadline) {
+    while (finishAnswers(SettleLimit) && ScreenWatch::Clock::now() < deadline) {
         const auto told = DisplayAPI::DeliveryWatch::countAtRest();
         mWatch.waitUntilQuiet(Quiet, SettleLimit);
         const std::uint64_t shown = mWatch.snapshot().number;

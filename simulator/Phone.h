@@ -98,6 +98,10 @@ public:
     /// time, or has ended.
     bool finishPosted();
 
+    /// The same, and waits until the phonelet has answered every command that it was given, and what follows from that
+    /// is painted; at the limit it gives up. False when the telephone did not answer in time, or has ended.
+    bool finishAnswers(std::chrono::milliseconds limit = std::chrono::seconds(1));
+
     /// Waits until the phonelet runs its loop and shows something. Answers why it does not, or nothing.
     std::string waitForScreen();
 
@@ -110,8 +114,8 @@ public:
     /// True once the phonelet's loop has turned.
     bool hasRun() const { return mHasRun; }
 
-    /// The same, and waits until the phonelet has answered every command that it was given, and what follows from that
-    /// is painted. Then the screen has to keep still for a moment, since threads of the phonelet's own may be at work.
+    /// Does as finishAnswers(), and then waits for the screen to keep still for a moment, since threads of the
+    /// phonelet's own may be at work.
     void settle();
 
     ScreenWatch& watch() { return mWatch; }

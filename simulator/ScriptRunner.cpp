@@ -13,6 +13,23 @@
 
 namespace Simulator {
 
+namespace {
+
+/// True for a step that does something to the telephone.
+bool acts(const Step& step)
+{
+    switch (step.kind) {
+    case Step::Kind::Press:
+    case Step::Kind::Hold:
+    case Step::Kind::Release:
+    case Step::Kind::Advance:
+    case Step::Kind::Custom: return true;
+    default: return false;
+    }
+}
+
+}
+
 void printScreen(const Snapshot& snapshot, std::ostream& output)
 {
     for (const std::string& line : drawFramedBlocks(snapshot.screen))
@@ -67,6 +84,9 @@ std::string ScriptRunner::playChecked(const Step& step)
 
 std::string ScriptRunner::play(const Step& step)
 {
+    // What is done to the telephone meets the screen that the step before has led to.
+    if (acts(step) && !mPhone.finishAnswers())
+        return reasonUnless(false);
     switch (step.kind) {
     case Step::Kind::Press:
         for (int key : step.keys) {

@@ -2,11 +2,13 @@
 #include "Phone.h"
 #include "Script.h"
 
+#include <DisplayAPI/CommandListener.h>
 #include <DisplayAPI/Display.h>
 #include <DisplayAPI/List.h>
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <filesystem>
 #include <sstream>
 #include <stdexcept>
@@ -94,6 +96,37 @@ TEST_F(ScriptRunnerTest, EachFailedStepGivesALineAndTheOthersArePlayed)
     std::getline(errors, line);
     EXPECT_EQ(line.find("test:6: shot /nonexistent/idle.png: cannot write"), 0U) << line;
     EXPECT_FALSE(std::getline(errors, line)) << line;
+}
+
+TEST_F(ScriptRunnerTest, TheNextKeyWaitsUntilThePhoneletHasAnswered)
+{
+    struct Answer : DisplayAPI::CommandListener {
+        void commandAction(DisplayAPI::Command*, DisplayAPI::Displayable*) override
+        {
+            const int row = list->getSelectedIndex();
+            for (int i = 0; i < 100; ++i)
+                hasMoved = hasMoved || list->getSelectedIndex() != row;
+            ++count;
+        }
+        DisplayAPI::List* list = nullptr;
+        std::atomic<bool> hasMoved = false;
+        std::atomic<int> count = 0;
+    } answer;
+    EXPECT_EQ(play("press OK\npress DOWN\npress OK\npress DOWN\npress OK\npress UP\nexpect HeadSet\n",
+                  [&answer](DisplayAPI::Display& display) {
+                      DisplayAPI::List list(0);
+                      answer.list = &list;
+                      list.addCommandListener(&answer);
+                      for (const char* row : {"Speaker", "HeadSet", "Handset"})
+                          list.append(row);
+                      display.setCurrent(&list);
+                      display.show();
+                      display.exec();
+                  }),
+        0)
+        << mErrors.str();
+    EXPECT_EQ(answer.count, 3);
+    EXPECT_FALSE(answer.hasMoved);
 }
 
 TEST_F(ScriptRunnerTest, TheClockMovesOnlyWithTheScript)
