@@ -28,6 +28,9 @@ public:
     Descriptor takeInput() { return std::move(mInput); }
     Descriptor takeOutput() { return std::move(mOutput); }
 
+    /// Of the system, as long as it runs.
+    pid_t number() const { return mProcess; }
+
     /// Readable when it has ended.
     int descriptor() const { return mEnd.number(); }
 

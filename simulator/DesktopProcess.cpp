@@ -60,7 +60,8 @@ std::string DesktopProcess::path() const
 std::vector<std::string> DesktopProcess::arguments(Clock clock) const
 {
     std::vector<std::string> words = mSettings.arguments;
-    words.insert(words.end(), {"--desktop", "--control", "--clock", clock == Clock::Real ? "real" : "manual"});
+    words.insert(words.end(),
+        {"--desktop", "--end-with-starter", "--control", "--clock", clock == Clock::Real ? "real" : "manual"});
     return words;
 }
 

@@ -64,6 +64,7 @@ void addModes(CLI::App& app, Wishes& wishes)
         ->type_name("NAME")
         ->needs(control)
         ->excludes(record);
+    app.add_flag("--end-with-starter", wishes.options.endsWithStarter, "Of a desktop: leave nothing behind")->group("");
     script->excludes(tour)->excludes(text)->excludes(shot)->excludes(control)->excludes(serve);
     tour->excludes(text)->excludes(shot)->excludes(control)->excludes(serve);
     control->excludes(text)->excludes(shot)->excludes(serve);

@@ -44,6 +44,7 @@ struct Options {
     std::string application;                   ///< As which application the phonelet runs; empty for its own name.
     std::string softwareType;                  ///< The same, in the words of the display.
     bool isClockReal = false;                  ///< Of the control channel: it runs by itself.
+    bool endsWithStarter = false;              ///< The process is killed when the thread that has started it ends.
     bool hasDesktop = true;                    ///< False where it is left out.
     std::vector<std::string> desktopArguments; ///< What the desktop shares with the telephone.
 

@@ -151,7 +151,8 @@ std::string ScriptRunner::expect(const Step& step, const ScreenWatch& watch)
     const bool isOneLine = step.kind == Step::Kind::Expect || step.kind == Step::Kind::ExpectDesktop;
     const std::string closest = isOneLine ? closestField(text, step.text) : "";
     return std::string(isWanted ? "expected" : "did not expect") + " \"" + step.text + "\", "
-        + (closest.empty() ? "" : "closest is \"" + closest + "\", ") + "the screen has: "
+        + (closest.empty() ? "" : "closest is \"" + closest + "\", ")
+        + (step.kind == Step::Kind::ExpectDesktop ? "the desktop has: " : "the screen has: ")
         + (text.empty() ? "no text; display.setCurrent() shows a screen, once display.show() has been called"
                         : inOneLine(text));
 }

@@ -18,11 +18,13 @@
 #include "WebServer.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <optional>
 #include <sstream>
+#include <sys/prctl.h>
 #include <unistd.h>
 #include <utility>
 
@@ -69,6 +71,9 @@ Simulation::Simulation(Options options, std::vector<CustomStep> steps, std::stri
 
 int Simulation::run()
 {
+    // The end of its input tells a desktop that its telephone has gone, but not one that is stopped or hangs.
+    if (mOptions.endsWithStarter)
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (!mOptions.reportsCuts)
         return runMode();
     const CutReport cuts;
