@@ -1,5 +1,7 @@
 #include "IdleScreen.h"
 
+#include <utility>
+
 using namespace DisplayAPI;
 
 namespace {
@@ -7,12 +9,18 @@ namespace {
 constexpr const char* OwnNumber = "4711";
 constexpr const char* Brand = "DisplayAPI";
 
+const char* onOrOff(bool isOn)
+{
+    return isOn ? "on" : "off";
 }
 
-IdleScreen::IdleScreen(IdleDisplay& idle, Screens& screens, Languages& languages)
+}
+
+IdleScreen::IdleScreen(IdleDisplay& idle, Screens& screens, Languages& languages, TellDesktop tellDesktop)
     : mIdle(idle)
     , mScreens(screens)
     , mLanguages(languages)
+    , mTellDesktop(std::move(tellDesktop))
     , mToDirectory(languages.text("Directory", "?"), 1)
     , mToLog(languages.text("Call log", "?"), 2)
     , mToMessages(languages.text("Messages", "?"), 3)
@@ -24,6 +32,8 @@ IdleScreen::IdleScreen(IdleDisplay& idle, Screens& screens, Languages& languages
 {
     mIdle.setCurrentPhoneNumber(OwnNumber);
     mIdle.setBrandingText(Brand);
+    mTellDesktop("number", OwnNumber);
+    mTellDesktop("name", Brand);
     mIdle.addCommandListener(this);
     mDialer.setLine1PrefixText(languages.text("Dial"));
     mDialer.addCommand(&mCall);
@@ -39,34 +49,40 @@ IdleScreen::IdleScreen(IdleDisplay& idle, Screens& screens, Languages& languages
 void IdleScreen::setMissedCalls(int count)
 {
     mIdle.setMissedCalls(count);
+    mTellDesktop("missed", std::to_string(count));
 }
 
 void IdleScreen::setMessages(int count)
 {
     mIdle.setMessages(count);
+    mTellDesktop("messages", std::to_string(count));
 }
 
 void IdleScreen::setForwarding(const std::string& number)
 {
     mIdle.setForwardingAddress(number);
     mIdle.setForwardingIconVisible(!number.empty());
+    mTellDesktop("forwarding", number);
 }
 
 void IdleScreen::setDoNotDisturb(bool on)
 {
     mIsDoNotDisturb = on;
+    mTellDesktop("dnd", onOrOff(on));
     writeNotes();
 }
 
 void IdleScreen::setRingerOff(bool off)
 {
     mIsRingerOff = off;
+    mTellDesktop("ringer", onOrOff(!off));
     writeNotes();
 }
 
 void IdleScreen::setUser(const std::string& name)
 {
     mIdle.setBrandingText(name.empty() ? Brand : name);
+    mTellDesktop("name", name.empty() ? Brand : name);
     mIdle.setDisplayIdUnicode(name.empty() ? OwnNumber : name);
 }
 
@@ -78,6 +94,7 @@ void IdleScreen::showName(bool shown)
 void IdleScreen::setLocked(bool locked)
 {
     mIsLocked = locked;
+    mTellDesktop("lock", onOrOff(locked));
     mIdle.showDiallerOnInitialKeyEvent(!locked);
     fillMenu();
     writeNotes();

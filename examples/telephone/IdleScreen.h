@@ -25,7 +25,10 @@ public:
         Unlocking,
     };
 
-    IdleScreen(DisplayAPI::IdleDisplay& idle, Screens& screens, Languages& languages);
+    /// Calls a step of the desktop, which tells the same in the strip above the glass.
+    using TellDesktop = std::function<void(const std::string& step, const std::string& argument)>;
+
+    IdleScreen(DisplayAPI::IdleDisplay& idle, Screens& screens, Languages& languages, TellDesktop tellDesktop);
 
     std::function<void(Place)> onOpen;
     std::function<void(const std::string& number)> onDial;
@@ -64,6 +67,7 @@ private:
     DisplayAPI::IdleDisplay& mIdle;
     Screens& mScreens;
     Languages& mLanguages;
+    TellDesktop mTellDesktop;
     DisplayAPI::MenuCommand mToDirectory;
     DisplayAPI::MenuCommand mToLog;
     DisplayAPI::MenuCommand mToMessages;

@@ -16,8 +16,9 @@ SpokenLanguage::~SpokenLanguage()
     mDisplay.setTranslator(nullptr);
 }
 
-Telephone::Telephone(Display& display)
+Telephone::Telephone(Display& display, IdleScreen::TellDesktop tellDesktop)
     : mDisplay(display)
+    , mTellDesktop(std::move(tellDesktop))
     , mSpokenLanguage(display, mLanguages)
     , mScreens(display, mIdleDisplay)
     , mNotices(mScreens, mLanguages)
@@ -25,7 +26,7 @@ Telephone::Telephone(Display& display)
     , mMenu(mScreens, mLanguages)
     , mDetails(mScreens, mLanguages)
     , mPin(mScreens, mLanguages, mNotices)
-    , mIdle(mIdleDisplay, mScreens, mLanguages)
+    , mIdle(mIdleDisplay, mScreens, mLanguages, mTellDesktop)
     , mCalls(mScreens, mLanguages, mNotices, mExchange)
     , mLog(mScreens, mLanguages, mClock, mMenu, mDetails, mQuestion, logAnswers())
     , mMail(mScreens, mLanguages, mClock, mMenu, mQuestion, mNotices, mailAnswers())
@@ -46,8 +47,10 @@ void Telephone::run()
 void Telephone::speak(const std::string& code)
 {
     const std::string chosen = code.empty() ? mLanguages.next() : code;
-    if (mLanguages.speak(chosen))
-        mDisplay.localeChanged(chosen);
+    if (!mLanguages.speak(chosen))
+        return;
+    mDisplay.localeChanged(chosen);
+    mTellDesktop("language", chosen);
 }
 
 // What the parts want of each other
@@ -94,7 +97,11 @@ Settings::Answers Telephone::settingsAnswers()
 {
     return {
         .speak = [this](const std::string& code) { speak(code); },
-        .setTwelveHours = [this](bool on) { mClock.setTwelveHours(on); },
+        .setTwelveHours = 
+            [this](bool on) {
+                mClock.setTwelveHours(on);
+                mTellDesktop("clock", on ? "12" : "24");
+            },
         .setDoNotDisturb =
             [this](bool on) {
                 mExchange.setDoNotDisturb(on);

@@ -38,7 +38,7 @@ private:
 /// A whole telephone: the idle screen, and the ways from there to calls, call log, directory and settings.
 class Telephone final {
 public:
-    explicit Telephone(DisplayAPI::Display& display);
+    Telephone(DisplayAPI::Display& display, IdleScreen::TellDesktop tellDesktop);
 
     /// Shows the idle screen until the display is shut down. Threads: GUI thread.
     void run();
@@ -70,6 +70,7 @@ private:
     void setLocked(bool locked);
 
     DisplayAPI::Display& mDisplay;
+    IdleScreen::TellDesktop mTellDesktop;
     Languages mLanguages;
     SpokenLanguage mSpokenLanguage;
     Clock mClock;

@@ -38,14 +38,16 @@ void show(Telephone* telephone)
 
 int main(int argc, char** argv)
 {
-    return PhoneSimulator(argc, argv)
-        .setTour(Tour)
+    PhoneSimulator phone(argc, argv);
+    return phone.setTour(Tour)
+        .setDesktop("phone-desktop")
         .onStep("incoming", step(&Telephone::ring), 1)
         .onStep("language", step(&Telephone::speak), 2)
         .onStep("message", step(&Telephone::leaveMessage), 3)
         .onStep("hang-up", step([](Telephone& telephone, const std::string&) { telephone.hangUpThere(); }), 4)
-        .run([](DisplayAPI::Display& display) {
-            Telephone telephone(display);
+        .run([&phone](DisplayAPI::Display& display) {
+            Telephone telephone(
+                display, [&phone](const auto& step, const auto& argument) { phone.tellDesktop(step, argument); });
             show(&telephone);
             telephone.run();
             show(nullptr);
