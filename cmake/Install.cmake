@@ -40,8 +40,8 @@ if(DISPLAYAPI_SIMULATOR)
     install_pkgconfig(simulator PhoneSimulator)
 
     file(RELATIVE_PATH FROM_BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
-    set_target_properties(phone PROPERTIES INSTALL_RPATH "$ORIGIN/${FROM_BIN_TO_LIB}")
-    install(TARGETS phone DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
+    set_target_properties(phone phone-desktop PROPERTIES INSTALL_RPATH "$ORIGIN/${FROM_BIN_TO_LIB}")
+    install(TARGETS phone phone-desktop DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
 
     # The kit in Python, where Debian's Python looks, with what pytest finds its plugin by.
     set(PYTHON_FOLDER lib/python3/dist-packages)

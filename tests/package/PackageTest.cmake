@@ -68,6 +68,8 @@ if(SIMULATOR)
     if(NOT text MATCHES "name:IdleDisplay\n")
         message(FATAL_ERROR "the installed telephone: ${text}")
     endif()
+    file(WRITE ${WORK}/desktop.script "expect-desktop string2:4711\n")
+    run(nothing ${WORK}/prefix/bin/phone --script ${WORK}/desktop.script)
 endif()
 
 if(PKG_CONFIG)
