@@ -164,20 +164,6 @@ TEST_F(ListTest, RowsThatAreGivenBackStayWhole)
     EXPECT_EQ(CountedItem::living, 0);
 }
 
-TEST_F(ListTest, ClearAndDeletingTheListDeleteTheRows)
-{
-    auto list = std::make_unique<List>(0);
-    fill(*list, "ABC");
-    list->clear();
-    EXPECT_EQ(CountedItem::living, 0);
-    fill(*list, "ABC");
-    show(*list);
-    list.reset();
-    EXPECT_EQ(CountedItem::living, 0);
-    EXPECT_EQ(display->getCurrent(), nullptr);
-    EXPECT_EQ(screenText(), "");
-}
-
 TEST_F(ListTest, ARowThatStandsSomewhereIsRefused)
 {
     List list(0);

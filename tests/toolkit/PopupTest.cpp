@@ -300,8 +300,6 @@ TEST_F(PopupTest, AnAnimationRunsWhileThePopupIsUp)
     EXPECT_EQ(line(1), whole("Connecting"));
 }
 
-// Dialog
-
 // Call popup
 
 TEST_F(PopupTest, TheFirstMoveGivesTheSecondLineToTheRows)
