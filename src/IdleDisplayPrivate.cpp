@@ -259,6 +259,9 @@ void IdleDisplayPrivate::gainOwnership()
 
 void IdleDisplayPrivate::show()
 {
+    // A dialer that another screen has replaced went without a word.
+    if (const PopupDialerPrivate* half = mDialerCoversIdle ? dialer() : nullptr; half && !half->dialerWidget()->isUp())
+        uncover();
     if (mWidget)
         mWidget->show();
 }
@@ -384,10 +387,15 @@ bool IdleDisplayPrivate::keyEvent(UKeyEvent* key)
     return true;
 }
 
+PopupDialerPrivate* IdleDisplayPrivate::dialer()
+{
+    PopupDialer* handle = displayableExists(mOwner) ? mOwner->getDialer() : nullptr;
+    return dynamic_cast<PopupDialerPrivate*>(handle ? handle->getPrivateImpl() : nullptr);
+}
+
 void IdleDisplayPrivate::handOn(UKeyEvent& key)
 {
-    PopupDialer* dialer = displayableExists(mOwner) ? mOwner->getDialer() : nullptr;
-    auto* half = dynamic_cast<PopupDialerPrivate*>(dialer ? dialer->getPrivateImpl() : nullptr);
+    PopupDialerPrivate* half = dialer();
     if (!half)
         return;
     UKeyEvent forDialer(key.key(), key.state());

@@ -17,6 +17,8 @@ class VantoListBoxMEG;
 
 namespace DisplayAPI {
 
+class PopupDialerPrivate;
+
 /// The idle screen on the GUI thread: an IdleDisplayMEG with its texts, and the road of the keys to the dialer.
 ///
 /// The dialer tells by events when it takes the glass and when it gives it back.
@@ -126,6 +128,7 @@ private:
     void rowChosen(UEvent& event);
     void contentChanged();
     void readForwardingAgain();
+    PopupDialerPrivate* dialer();
     void handOn(UKeyEvent& key);
 
     IdleDisplay* mOwner;

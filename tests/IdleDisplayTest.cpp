@@ -5,6 +5,7 @@
 
 #include <DisplayAPI/CallPartyIdentifier.h>
 #include <DisplayAPI/IdleDisplay.h>
+#include <DisplayAPI/List.h>
 #include <DisplayAPI/MenuCommand.h>
 #include <DisplayAPI/PopupDialer.h>
 
@@ -304,4 +305,18 @@ TEST_F(IdleDisplayTest, ADialerMayDieOrBeReplacedWhileItIsUp)
     press(UGlobal::KeyUp);
     show(idle);
     EXPECT_EQ(screenField("string0"), "4711");
+}
+
+TEST_F(IdleDisplayTest, ADialerThatAnotherScreenReplacesLeavesTheGlass)
+{
+    idle.setCurrentPhoneNumber("4711");
+    type("1");
+    display->setCurrent(idle.getDialer());
+    List list(0);
+    list.append("Speaker");
+    show(list);
+    show(idle);
+    EXPECT_EQ(screenField("string0"), "4711");
+    type("2");
+    EXPECT_EQ(idle.getDialer()->getLineEditText(), "12") << "the idle screen has the keys again";
 }
