@@ -58,7 +58,7 @@ int Exchange::dial(const std::string& number)
     return start(call, {});
 }
 
-int Exchange::start(Call call, Plan plan)
+int Exchange::start(Call call, Plan plan, const std::string& forwardedTo)
 {
     const auto ended = takeEnded(); // their timers go with no lock held
     {
@@ -69,7 +69,7 @@ int Exchange::start(Call call, Plan plan)
     const auto remind = [this, id] { change(id, {State::HeldHere}, State::HeldTooLong); };
     const bool isKnown = call.kind == Kind::Outgoing || call.state != State::Connecting;
     const std::shared_ptr<Line> line(
-        new Line{call, std::move(plan), isKnown, OneShot([this, id] { act(id); }), OneShot(remind)});
+        new Line{call, std::move(plan), isKnown, forwardedTo, OneShot([this, id] { act(id); }), OneShot(remind)});
     {
         std::lock_guard lock(mMutex);
         mLines[id] = line;
@@ -216,7 +216,7 @@ void Exchange::act(int call)
         line->plan.pop_front();
         follow(*line, next);
         told = line->call;
-        target = mForwarding[Diversion::NoAnswer];
+        target = line->forwardedTo;
         mNews.push_back([told](Listener& listener) { listener.callChanged(told); });
     }
     startClocks(*line, false);

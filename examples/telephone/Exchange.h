@@ -65,7 +65,7 @@ private:
     Diversion diversionOf(std::string& target) const;
     void receive(Call call);
     void comeBack(const Party& party, Kind kind, int after);
-    int start(Call call, Parties::Plan plan);
+    int start(Call call, Parties::Plan plan, const std::string& forwardedTo = "");
     void end(int call, Cause cause);
     void change(int call, std::initializer_list<State> from, State to, const Parties::Plan* plan = nullptr);
     void act(int call);

@@ -89,7 +89,7 @@ void Exchange::receive(Call call)
         call.cause = Cause::Rejected;
         start(call, {});
     } else if (diversion == Diversion::None || diversion == Diversion::NoAnswer) {
-        start(call, Parties::planOfCaller(diversion == Diversion::NoAnswer));
+        start(call, Parties::planOfCaller(diversion == Diversion::NoAnswer), target);
     } else {
         tellForwarded(call.party, diversion, target);
     }

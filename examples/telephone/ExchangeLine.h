@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <string>
 #include <utility>
 
 /// A clock that calls a function once, on the GUI thread.
@@ -36,7 +37,8 @@ private:
 struct ExchangeLine {
     CallService::Call call;
     Parties::Plan plan;
-    bool isKnown = true; // to the listener; a call that comes later is not
+    bool isKnown = true;     // to the listener; a call that comes later is not
+    std::string forwardedTo; // if nobody answers
     OneShot next;
     OneShot reminder; // of a call that is held
 };
