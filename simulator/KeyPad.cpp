@@ -6,6 +6,7 @@
 #include <Types.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace Simulator::KeyPad {
 
@@ -55,20 +56,28 @@ std::string repeated(const char* character, int count)
     return text;
 }
 
-/// A key of which the label has so many columns, in one line or, with a box around it, in three.
-void drawKey(TextCanvas& canvas, int line, int column, const std::string& label, int width, bool isBox, bool isLit)
+struct KeyShape {
+    int line;
+    int column;
+    int width;   // of the label
+    int padding; // at both sides of it
+    bool isBox;  // of three lines
+};
+
+void drawKey(TextCanvas& canvas, const KeyShape& shape, const std::string& label, bool isLit)
 {
-    const std::string inside
-        = label + std::string(static_cast<std::size_t>(std::max(width - columnsOf(label), 0)), ' ');
-    if (!isBox) {
+    const auto blanks = [](int count) { return std::string(static_cast<std::size_t>(std::max(count, 0)), ' '); };
+    const std::string inside = blanks(shape.padding) + label + blanks(shape.width - columnsOf(label) + shape.padding);
+    const auto [line, column] = std::pair(shape.line, shape.column);
+    if (!shape.isBox) {
         canvas.put(line, column, "[" + inside + "]", isLit ? Style::LitKey : Style::Key);
         return;
     }
     const Style edgeStyle = isLit ? Style::LitKey : Style::Frame;
-    const std::string edge = repeated("─", width + 2);
+    const std::string edge = repeated("─", columnsOf(inside));
     canvas.put(line, column, "┌" + edge + "┐", edgeStyle);
-    canvas.put(line + 1, column, "│ " + inside + " │", edgeStyle);
-    canvas.put(line + 1, column + 2, inside, isLit ? Style::LitKey : Style::Plain);
+    const int behind = canvas.put(line + 1, column, "│", edgeStyle);
+    canvas.put(line + 1, canvas.put(line + 1, behind, inside, isLit ? Style::LitKey : Style::Plain), "│", edgeStyle);
     canvas.put(line + 2, column, "└" + edge + "┘", edgeStyle);
 }
 
@@ -84,14 +93,15 @@ void draw(TextCanvas& canvas, const Area& area, std::optional<int> pressedKey)
 {
     const bool isBox = isLarge(area, Lines);
     const int heightOfKey = isBox ? 3 : 1;
-    const int frame = isBox ? 4 : 2;
+    const int padding = isBox ? 1 : 0;
+    const int frame = 2 * padding + 2;
     const int gap = isBox ? 0 : 1;
     const int arrows = area.columns - 3 * (ArrowKeyWidth + frame) - 2 * gap;
     for (const KeyPlace& key : keys) {
         const bool isArrow = key.column >= 3;
         const int width = isArrow ? ArrowKeyWidth : DialKeyWidth;
         const int column = (isArrow ? arrows : 0) + (isArrow ? key.column - 3 : key.column) * (width + frame + gap);
-        drawKey(canvas, area.line + key.line * heightOfKey, area.column + column, key.label, width, isBox,
+        drawKey(canvas, {area.line + key.line * heightOfKey, area.column + column, width, padding, isBox}, key.label,
             pressedKey == key.code);
     }
 }
@@ -100,23 +110,26 @@ void drawFunctionKeys(
     TextCanvas& canvas, const Area& area, const std::vector<std::string>& labels, std::optional<int> pressedKey)
 {
     const bool isBox = isLarge(area, FunctionLines);
-    const int frame = isBox ? 4 : 3; // with the gap
-    int most = area.columns;
-    const auto columnsWith = [&labels, frame](int longest) {
+    const auto columnsWith = [&labels](int longest, int frame) {
         int columns = 0;
         for (const std::string& label : labels)
             columns += std::min(columnsOf(label), longest) + frame;
         return columns;
     };
-    while (most > 1 && columnsWith(most) > area.columns + (isBox ? 0 : 1))
-        --most;
+    int padding = isBox ? 1 : 0;
+    if (columnsWith(area.columns, 2 * padding + 2) > area.columns)
+        padding = 0;
+    const int frame = 2 * padding + 2;
+    const int gap = isBox || columnsWith(area.columns, frame + 1) > area.columns + 1 ? 0 : 1;
+    int longest = area.columns;
+    while (longest > 1 && columnsWith(longest, frame + gap) > area.columns + gap)
+        --longest;
     int column = area.column;
     for (std::size_t index = 0; index < labels.size(); ++index) {
-        const std::string label = cut(labels[index], most);
-        const int width = columnsOf(label);
-        drawKey(canvas, area.line, column, label, width, isBox,
-            pressedKey == UGlobal::KeyFunction1 + static_cast<int>(index));
-        column += width + frame;
+        const std::string label = cut(labels[index], longest);
+        const bool isLit = pressedKey == UGlobal::KeyFunction1 + static_cast<int>(index);
+        drawKey(canvas, {area.line, column, columnsOf(label), isBox ? padding : 0, isBox}, label, isLit);
+        column += columnsOf(label) + frame + gap;
     }
 }
 

@@ -97,7 +97,7 @@ Area besideKeys(const TerminalLayout& layout, int right, int bottom)
 TerminalLayout telephone(const TerminalNeeds& needs)
 {
     const int frameColumns = needs.glassColumns + 2;
-    const bool isTextBeside = needs.columns >= frameColumns + GapBesideText + NarrowestText;
+    const bool isTextBeside = needs.columns >= columnsForTextBeside(needs.glassColumns);
     const Heights heights(needs, needs.columns >= frameColumns, isTextBeside);
     const bool hasFrame = heights.edges > 0;
     const int left = hasFrame ? 1 : 0;
@@ -135,6 +135,11 @@ TerminalLayout telephone(const TerminalNeeds& needs)
     return layout;
 }
 
+}
+
+int columnsForTextBeside(int glassColumns)
+{
+    return glassColumns + 2 + GapBesideText + NarrowestText;
 }
 
 TerminalLayout layOut(const TerminalNeeds& needs)

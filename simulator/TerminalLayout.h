@@ -44,6 +44,9 @@ struct TerminalLayout {
     int statusLine = 0;
 };
 
+/// From so many columns on there is room for a text beside a telephone with a glass of so many.
+int columnsForTextBeside(int glassColumns);
+
 /// Places the parts.
 TerminalLayout layOut(const TerminalNeeds& needs);
 

@@ -14,6 +14,13 @@ namespace {
 
 constexpr const char* MoreMark = " … t: all ";
 
+/// A wide terminal has room for half blocks, which are square and so show the glass in its true proportions.
+GlassCharacters charactersFor(int columns, GlassCharacters characters)
+{
+    const bool isWide = columns >= columnsForTextBeside(UScreenWE1::Width);
+    return characters == GlassCharacters::Quarters && isWide ? GlassCharacters::Halves : characters;
+}
+
 /// The text in no more columns than there are, with a mark if some of it is missing.
 std::string fitted(const std::string& text, int columns)
 {
@@ -45,7 +52,7 @@ class Painter {
 public:
     Painter(const TerminalState& state, int columns, int lines, GlassCharacters characters)
         : mState(state)
-        , mCharacters(characters)
+        , mCharacters(charactersFor(columns, characters))
         , mLayout(layOut(state, columns, lines, characters))
         , mCanvas(columns, lines)
     {
@@ -197,7 +204,7 @@ TerminalLayout layOut(const TerminalState& state, int columns, int lines, GlassC
     needs.lines = lines;
     needs.glassLines = glass.lines;
     needs.stripLines = state.desktop.number != 0 ? blockSize(state.desktop.screen).lines : 0;
-    switch (characters) {
+    switch (charactersFor(columns, characters)) {
     case GlassCharacters::Quarters:
         needs.glassColumns = glass.columns;
         needs.leastGlassColumns = glass.columns - 1;
