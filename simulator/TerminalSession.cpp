@@ -21,6 +21,9 @@
 #include <unistd.h>
 #include <utility>
 
+// Of the sanitizers, in a program that is built with one.
+extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
+
 namespace Simulator {
 
 namespace {
@@ -126,6 +129,8 @@ TerminalSession::TerminalSession(std::function<void()> outputObserver)
     gIsActive = true;
     static const int registered = std::atexit(restoreAtExit) + std::at_quick_exit(restore);
     static_cast<void>(registered);
+    if (__sanitizer_set_death_callback)
+        __sanitizer_set_death_callback(restore); // it ends the process without any of these, behind its report
     catchCrashes();
     raw();
     noecho();

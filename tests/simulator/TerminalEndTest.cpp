@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <future>
 #include <iostream>
+#include <memory>
 #include <stdexcept>
 #include <thread>
 
@@ -128,6 +129,15 @@ TEST_F(TerminalEndTest, EveryEndLeavesTheTerminalAsItWasAndPrintsWhatWasWritten)
              overflow(first);
          }),
             ""},
+#ifdef __SANITIZE_ADDRESS__
+        {"report of the sanitizer",
+            [] {
+                const std::unique_ptr<char[]> bytes(new char[8]);
+                const volatile std::size_t behind = 8;
+                bytes[behind] = 1;
+            },
+            "heap-buffer-overflow"},
+#endif
         {"exit", [] { std::exit(3); }, "", 3},
         {"exit of the GUI thread", onGui([] { std::exit(3); }), "", 3},
         {"quick exit", [] { std::quick_exit(4); }, "", 4},
