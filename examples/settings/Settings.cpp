@@ -137,6 +137,9 @@ void Settings::save()
     const bool isGerman = mLanguage.getSelectionCommand() == &mGerman;
     mWords.speakGerman(isGerman);
     mDisplay.localeChanged(isGerman ? "de_DE" : "en_US");
+    // A form does not read the texts of its commands again.
+    mForm.clearCommands();
+    mForm.addCommand(&mSave);
     mDisplay.setCurrent(&mList);
     mNotice.setText(mWords.text("Settings saved"));
     mDisplay.setCurrent(&mNotice);

@@ -23,7 +23,6 @@ ContactForm::ContactForm(Screens& screens, Languages& languages, Notices& notice
     mNumber->setMaxFieldLength(LongestNumber);
     mForm.append(mName);
     mForm.append(mNumber);
-    mForm.addCommand(&mSave);
     mForm.addCommandListener(this);
 }
 
@@ -34,6 +33,9 @@ void ContactForm::open(
     mLeave = std::move(leave);
     mName->setString(contact.name);
     mNumber->setString(contact.number);
+    // In the language of now: a form does not read the texts of its commands again.
+    mForm.clearCommands();
+    mForm.addCommand(&mSave);
     mForm.setSelected(mName);
     mScreens.show(mForm);
 }
