@@ -268,12 +268,14 @@ void FormPrivate::setClipboard(std::string text)
 
 void FormPrivate::localeChanged(std::string locale)
 {
-    for (std::size_t i = 0; i < mPairs.size(); ++i) {
+    // A half may be the application's own, and take items out or the form with it.
+    LifeNode life(this);
+    for (std::size_t i = 0; life.isAlive() && i < mPairs.size(); ++i) {
         Item* item = mPairs[i].item.get();
         if (ItemPrivateIfc* half = item ? item->getPrivateImpl() : nullptr)
             half->localeChanged(locale);
     }
-    if (!mTitleInfo)
+    if (!life.isAlive() || !mTitleInfo)
         return;
     showTranslatedTitle();
     updateFormSpellerLang();

@@ -31,6 +31,24 @@ TextField* newField(const std::string& label, const std::string& value, int type
     return field;
 }
 
+/// An item of the application's own, which takes its form with it at a change of locale.
+class FatalItem : public Item, public ItemPrivateIfc {
+public:
+    explicit FatalItem(std::unique_ptr<Form>& form)
+        : mForm(form)
+    {
+    }
+
+    void processGuiRequest(GuiRequestEvent&) override { }
+    ItemPrivateIfc* getPrivateImpl() override { return this; }
+    FormItemIfc* getWidget() override { return nullptr; }
+    void releaseOwnership() override { }
+    void localeChanged(std::string) override { mForm.reset(); }
+
+private:
+    std::unique_ptr<Form>& mForm;
+};
+
 class FormTest : public PhoneTest {
 protected:
     FormTest()
@@ -274,6 +292,16 @@ TEST_F(FormTest, RowsItemsAndPairsHaveEachTheirOwnOrder)
     delete form.getItems()[0];
     form.clearCommands();
     EXPECT_EQ(rows() + items(), "d d ");
+}
+
+TEST_F(FormTest, AnItemMayTakeItsFormWithItAtAChangeOfLocale)
+{
+    auto mortal = std::make_unique<Form>(Form::Proportion0);
+    mortal->setTitle(new TranslationInfo("Settings", &translator));
+    mortal->append(new FatalItem(mortal));
+    mortal->append(newField("Name:", ""));
+    display->localeChanged("de");
+    EXPECT_FALSE(mortal);
 }
 
 TEST_F(FormTest, OnlyATranslatedTitleComesBackWithTheTextsOfTheInput)
