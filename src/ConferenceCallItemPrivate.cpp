@@ -47,8 +47,10 @@ CallConnectedItem* ConferenceCallItemPrivate::getTitleCall()
 void ConferenceCallItemPrivate::localeChanged(std::string locale)
 {
     CallConnectedItemPrivate::localeChanged(locale);
+    // The half of a member may be the application's own, and take the conference with it.
+    LifeNode life(this);
     mMembers.localeChanged(locale);
-    if (mTitleSuffixInfo && widget())
+    if (life.isAlive() && mTitleSuffixInfo && widget())
         widget()->setPrePrefixText(UString(mTitleSuffixInfo.string()));
 }
 

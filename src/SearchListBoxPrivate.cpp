@@ -122,9 +122,12 @@ void SearchListBoxPrivate::localeChanged(std::string locale)
 {
     if (mTitleInfo)
         showTitle(mTitleInfo.string(), false);
+    // The half of a row may be the application's own, and take the list with it.
+    LifeNode life(this);
     if (displayableExists(mParent))
         mParent->localeChanged(std::move(locale));
-    showHint();
+    if (life.isAlive())
+        showHint();
 }
 
 void SearchListBoxPrivate::showHint()

@@ -7,6 +7,7 @@
 #include <DisplayAPI/ListItemPrivateIfc.h>
 #include <DisplayAPI/SearchList.h>
 
+#include "ListItemPrivate.h"
 #include "SearchListBoxPrivate.h"
 
 #include <UApplication.h>
@@ -197,6 +198,31 @@ TEST_F(SearchListTest, ARowStandsInOneListAndIndicesOutsideChangeNothing)
     EXPECT_EQ(rows(other), "[B]");
     list.setSelectedIndex(-1);
     EXPECT_EQ(list.getSelected(), nullptr);
+}
+
+TEST_F(SearchListTest, ARowMayTakeItsListWithItAtAChangeOfLocale)
+{
+    struct FatalHalf : ListItemPrivate {
+        explicit FatalHalf(std::unique_ptr<SearchList>& list)
+            : ListItemPrivate(std::string(), false)
+            , mine(list)
+        {
+        }
+        void localeChanged(std::string) override { mine.reset(); }
+
+        std::unique_ptr<SearchList>& mine;
+    };
+    struct OwnRow : ListItem {
+        explicit OwnRow(ListItemPrivateIfc* half)
+            : ListItem(half)
+        {
+        }
+    };
+    auto mortal = std::make_unique<SearchList>();
+    mortal->append(new OwnRow(new FatalHalf(mortal)));
+    mortal->append("Anna");
+    display->localeChanged("de");
+    EXPECT_FALSE(mortal);
 }
 
 TEST_F(SearchListTest, OneThatListensTwiceIsToldTwiceAndStays)
