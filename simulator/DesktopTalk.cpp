@@ -18,6 +18,7 @@ using Command = DesktopQueue::Command;
 
 constexpr std::chrono::milliseconds Turn{100};
 constexpr std::chrono::milliseconds StartLimit{20'000}; // fifty telephones that start at once are slow
+constexpr std::chrono::milliseconds ShortestEnd{1000};  // of a program that has closed its pipes, as its end does
 constexpr std::size_t LongestQuote = 40;
 
 std::string lineOf(const Command& command)
@@ -115,6 +116,8 @@ void DesktopTalk::waitForSomething()
     if (sources[2].revents != 0)
         mClient.read();
     mClient.write();
+    if ((sources[3].revents & POLLERR) != 0)
+        mClient.hangUp(); // nobody will read what was written
 }
 
 void DesktopTalk::takeLine(const LineBuffer::Line& line)
@@ -160,7 +163,7 @@ void DesktopTalk::noteRefusal(const Command& command, const Json& answer)
 /// The program has closed its pipes, which is its end or should be.
 std::string DesktopTalk::howItWent()
 {
-    if (mChild.waitForEnd(mSettings.patience))
+    if (mChild.waitForEnd(std::max(mSettings.patience, ShortestEnd)))
         return mChild.howItEnded();
     mChild.kill();
     return "has closed its pipes; it was killed";
