@@ -81,14 +81,23 @@ void IdleScreen::setRingerOff(bool off)
 
 void IdleScreen::setUser(const std::string& name)
 {
-    mIdle.setBrandingText(name.empty() ? Brand : name);
+    mUser = name;
     mTellDesktop("name", name.empty() ? Brand : name);
     mIdle.setDisplayIdUnicode(name.empty() ? OwnNumber : name);
+    writeBrand();
 }
 
 void IdleScreen::showName(bool shown)
 {
+    mIsNameShown = shown;
     mIdle.setUseDisplayId(shown);
+    writeBrand();
+}
+
+/// The name stands on one side alone.
+void IdleScreen::writeBrand()
+{
+    mIdle.setBrandingText(mUser.empty() || mIsNameShown ? Brand : mUser);
 }
 
 void IdleScreen::setLocked(bool locked)

@@ -59,6 +59,7 @@ public:
 private:
     void fillMenu();
     void writeNotes();
+    void writeBrand();
     void choose(DisplayAPI::Command* command);
     void call();
     void redial();
@@ -78,7 +79,9 @@ private:
     DisplayAPI::MenuCommand mCall;
     DisplayAPI::PopupDialer mDialer{true, 3};
     std::string mLastNumber;
+    std::string mUser;
     bool mIsDoNotDisturb = false;
     bool mIsRingerOff = false;
+    bool mIsNameShown = false;
     bool mIsLocked = false;
 };
