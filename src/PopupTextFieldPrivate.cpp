@@ -130,10 +130,13 @@ void PopupTextFieldPrivate::localeChanged(std::string locale)
         }
         row->setText(text);
     }
-    if (field()) {
-        field()->localeChanged(locale);
+    if (!field())
+        return;
+    // The field may be of the application's own class, and take the popup with it.
+    LifeNode life(this);
+    field()->localeChanged(locale);
+    if (life.isAlive())
         showLabel();
-    }
 }
 
 // Choices

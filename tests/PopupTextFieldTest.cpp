@@ -182,6 +182,25 @@ TEST_F(PopupTextFieldTest, ADeadCommandGetsNoRowAndPostsNothing)
     std::destroy_at(other);
 }
 
+TEST_F(PopupTextFieldTest, AFieldMayTakeItsPopupWithItAtAChangeOfLocale)
+{
+    struct FatalField : TextField {
+        explicit FatalField(std::unique_ptr<PopupTextField>& popup)
+            : TextField(nullptr, IconImage(), nullptr, AnyText, true)
+            , mine(popup)
+        {
+        }
+        void localeChanged(std::string) override { mine.reset(); }
+
+        std::unique_ptr<PopupTextField>& mine;
+    };
+    std::unique_ptr<PopupTextField> popup;
+    FatalField fatal(popup);
+    popup = std::make_unique<PopupTextField>(&fatal, true);
+    display->localeChanged("de");
+    EXPECT_FALSE(popup);
+}
+
 TEST_F(PopupTextFieldTest, AChangeOfLocaleReadsLabelAndChoicesAgain)
 {
     MenuCommand translated(text("Done"), 3);
