@@ -94,11 +94,13 @@ void Form::add(Item* item, int index, Show show)
     if (!mItems->expect(item))
         return;
     const Living<Item> added(item);
-    item->setParent(this);
-    ItemPrivateIfc* itemHalf = item->getPrivateImpl();
-    mPrivate->saveItemRef(item, itemHalf->getWidget(), index);
-    // The notice may delete item and form.
+    // The item, which may be of the application's own class, and the notice may delete item and form.
     LifeNode life(mPrivate.get());
+    item->setParent(this);
+    ItemPrivateIfc* itemHalf = life.isAlive() && added ? item->getPrivateImpl() : nullptr;
+    if (!itemHalf)
+        return;
+    mPrivate->saveItemRef(item, itemHalf->getWidget(), index);
     show(itemHalf);
     if (life.isAlive())
         mItems->settle(added, index);
@@ -118,9 +120,11 @@ Item* Form::takeOut(unsigned int index)
     if (index >= items.size())
         return nullptr;
     const Living<Item> taken(items[index]);
-    items[index]->setParent(nullptr);
-    mItems->startLeaving(taken);
     LifeNode life(mPrivate.get());
+    items[index]->setParent(nullptr);
+    if (!life.isAlive())
+        return nullptr;
+    mItems->startLeaving(taken);
     mPrivate->removeItemRef(index);
     mPrivate->removeItem(index);
     return life.isAlive() && mItems->finishLeaving(taken) ? taken.get() : nullptr;

@@ -304,6 +304,37 @@ TEST_F(FormTest, AnItemMayTakeItsFormWithItAtAChangeOfLocale)
     EXPECT_FALSE(mortal);
 }
 
+TEST_F(FormTest, AnItemMayTakeItsFormWithItOnItsWayInAndOut)
+{
+    struct Leaver : TextField {
+        explicit Leaver(std::unique_ptr<Form>& form)
+            : TextField(nullptr, IconImage(), nullptr, AnyText, false)
+            , mine(form)
+        {
+        }
+        void setParent(Displayable* parent) override
+        {
+            TextField::setParent(parent);
+            if (isFatal)
+                mine.reset();
+        }
+
+        std::unique_ptr<Form>& mine;
+        bool isFatal = true;
+    };
+    auto mortal = std::make_unique<Form>(Form::Proportion0);
+    mortal->append(new Leaver(mortal));
+    EXPECT_FALSE(mortal);
+
+    mortal = std::make_unique<Form>(Form::Proportion0);
+    auto* leaver = new Leaver(mortal);
+    leaver->isFatal = false;
+    mortal->append(leaver);
+    leaver->isFatal = true;
+    EXPECT_EQ(mortal->removeItem(0), nullptr);
+    EXPECT_FALSE(mortal);
+}
+
 TEST_F(FormTest, OnlyATranslatedTitleComesBackWithTheTextsOfTheInput)
 {
     form.setSpellerLanguage(&translator);
