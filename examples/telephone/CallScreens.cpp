@@ -256,6 +256,8 @@ void CallScreens::chooseForConference(Command* command)
 
 void CallScreens::takeNumber(Purpose purpose, int call, const std::string& number)
 {
+    if (!mayDial())
+        return mNotices.show(PopupNotification::WARNING, "Locked");
     if (purpose == Purpose::Call)
         dial(number);
     if (purpose == Purpose::Transfer)

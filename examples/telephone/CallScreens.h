@@ -40,6 +40,9 @@ public:
     std::function<void(const CallService::Party& caller)> onForwarded;
     std::function<void(const CallService::Message&)> onMessage;
 
+    /// Whether the user may send calls to numbers now.
+    std::function<bool()> mayDial;
+
     /// Calls a number from any screen.
     void dial(const std::string& number);
 

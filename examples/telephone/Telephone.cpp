@@ -61,6 +61,7 @@ void Telephone::connectParts()
     mIdle.onDial = [this](const std::string& number) { dial(number); };
     mCalls.onEnded = [this](const CallScreens::EndedCall& ended) { logCall(ended); };
     mCalls.onForwarded = [this](const CallService::Party& caller) { log(caller, CallLog::Kind::Forwarded); };
+    mCalls.mayDial = [this] { return !mIdle.isLocked(); };
     mCalls.onMessage = [this](const CallService::Message& message) { mMail.add(message); };
 }
 
