@@ -48,9 +48,10 @@ class Page:
 
     @property
     def links(self):
-        pattern = re.compile(r"(!?)\[([^\]]*)\]\(([^)\s]+)\)")
-        return [Link(line, text, target, mark == "!")
-                for line, prose in self._prose for mark, text, target in pattern.findall(re.sub("`[^`]*`", "", prose))]
+        """Those of Markdown, and those in HTML, of which a picture counts as a link like others."""
+        pattern = re.compile(r"""(!?)\[([^\]]*)\]\(([^)\s]+)\)|(?:href|src)="([^"]+)\"""")
+        return [Link(line, text, target or html, mark == "!") for line, prose in self._prose
+                for mark, text, target, html in pattern.findall(re.sub("`[^`]*`", "", prose))]
 
     @property
     def code_spans(self):

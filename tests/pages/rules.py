@@ -33,6 +33,7 @@ RULES = [
     Rule(r"^cmake --preset (\w+)$", "the build that is tested was made by it",
          instead=r"""cmake --list-presets | grep '"\1"'"""),
     Rule(r"^cmake --build --preset dev -- -j2$", "the same, and it may be a part of it", instead=r"\g<0> -n"),
+    Rule(r"--target docs-gallery$", "writes into the project, and other tests compare it", instead=r"\g<0> -- -n"),
     Rule(r"^ctest --preset \w+", "runs this test", instead=r"\g<0> -N"),
     Rule(r"^build/release/bin/display-bench$", "takes minutes", instead=r"\g<0> --benchmark_list_tests"),
     Rule(r"\bsrc/\*\.cpp", "all of them take a minute", instead="src/PopupConfirm*.cpp"),
@@ -41,11 +42,15 @@ RULES = [
          instead=r"build/dev/bin/library-tests\1='PopupConfirm/*DiesInEveryOrder*:PopupConfirm/*OnBothRoads*'"),
 
     # Programs that a person leaves.
-    Rule(r"^\./phone( --record [\w.]+)?$", "is left by a key", dialogue=[("Press OK", "4712\r"), ("Anna", "q")]),
+    Rule(r"^\./phone( --record [\w.]+)?$", "is left by a key", dialogue=[("SystemMessage", "4712\r"), ("Anna", "q")]),
     Rule(r"^build/release/bin/example-list$", "is left by a key", dialogue=[("Speaker", "\033OB"), ("HeadSet", "q")]),
     Rule(r"^\./reader$", "is left by Enter", dialogue=[("Speaker", "\n")]),
     Rule(r"^\./phone --serve\b", "is left by Ctrl-C", dialogue=[("http://", "\003")], exit_code=130),
 ]
+
+
+# Pictures that other tests compare with what the scripts make.
+GALLERY = "docs/gallery"
 
 
 def rules_for(command):

@@ -8,7 +8,7 @@ import zlib
 import blocks
 import shell
 from markdown import PageError
-from rules import rules_for
+from rules import GALLERY, rules_for
 from sandbox import CommandError, Sandbox
 
 COMMAND_IN_TEXT = re.compile(r"(\./phone|build/\w+/bin/[\w-]+) .+")
@@ -30,10 +30,19 @@ def prepared(command):
 
 
 def presets_of(page):
-    """The builds whose programs a page runs."""
+    """The builds in which a page has something to run."""
     commands = [command for block in page.blocks if blocks.kind_of(block) == "commands"
                 for command in shell.commands_of(block)]
-    return {_preset(prepared(command)[0]) for command in commands + commands_in_text(page)} | {"release"}
+    return {_preset(prepared(command)[0]) for command in commands + commands_in_text(page)} | {
+        "release" for _ in pictures_of(page)}
+
+
+def pictures_of(page):
+    """The pictures that a page shows, from the root of the project on."""
+    root = page.root.resolve()
+    files = [(root / page.path.parent / link.target).resolve().relative_to(root)
+             for link in page.links if link.is_picture]
+    return [file for file in files if not file.is_relative_to(GALLERY)]
 
 
 def _preset(text):
@@ -52,7 +61,7 @@ class PageRun:
     def run(self):
         with Sandbox(*self._arguments) as sandbox:
             present = sandbox.files()
-            pictures = self._pictures()
+            pictures = pictures_of(self._page)
             for picture in pictures:
                 (sandbox.folder / picture).unlink(missing_ok=True)
             for block in self._page.blocks:
@@ -112,12 +121,6 @@ class PageRun:
         for path in sorted(made):
             if not any(fnmatch.fnmatch(part, pattern) for part in path.parts for pattern in patterns):
                 raise PageError(f"{self._page.path}: git does not ignore what the page makes: {path}")
-
-    def _pictures(self):
-        """The pictures that a page shows, from the root of the project on."""
-        folder = (self._page.root / self._page.path).parent
-        return [(folder / link.target).resolve().relative_to(self._page.root.resolve())
-                for link in self._page.links if link.is_picture]
 
     def _compare_picture(self, sandbox, picture):
         if not (sandbox.folder / picture).exists():

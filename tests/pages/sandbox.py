@@ -14,8 +14,8 @@ import fcntl
 import termios
 import time
 
-PATIENCE = 60.0  # seconds until a command counts as hanging
-ROWS, COLUMNS = 40, 100
+PATIENCE = 120.0  # seconds until a command counts as hanging
+ROWS, COLUMNS = 24, 80  # as people have it who never chose another size
 
 # Two builds in one folder would write over each other's logs, and a page must not install anything.
 TOOLS = {
