@@ -4,6 +4,8 @@
 #include "Phone.h"
 #include "RecordFile.h"
 
+#include <DisplayAPI/DeliveryWatch.h>
+
 #include <ULoop.h>
 
 #include <utility>
@@ -88,7 +90,8 @@ bool Recorder::isQuiet()
     }
     if (!mIsAnswering)
         return true;
-    if (hasChanged)
+    // The worker may be slow between two steps of its answer, so a screen that keeps still is not enough.
+    if (hasChanged || !DisplayAPI::DeliveryWatch::countAtRest())
         return false;
     mIsAnswering = false;
     writeScreen();
