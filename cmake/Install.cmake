@@ -32,6 +32,10 @@ install_exported(DisplayAPITargets development DisplayAPI displaytoolkit)
 install_headers(development include/DisplayAPI DisplayAPI)
 install_headers(development toolkit/core displaytoolkit)
 install_headers(development toolkit/meg displaytoolkit)
+# The sources name the toolkit's headers barely, so that another toolkit can take its place. Where they are installed they
+# carry their folder, which no include path names: there a program may have a Types.h or Log.h of its own.
+install(CODE "set(INCLUDE_FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_INCLUDEDIR}\")
+    include(\"${PROJECT_SOURCE_DIR}/cmake/NameToolkitHeaders.cmake\")" COMPONENT development)
 install_pkgconfig(development DisplayAPI)
 
 if(DISPLAYAPI_SIMULATOR)

@@ -34,15 +34,27 @@ function(build_with_pkg_config package source program)
         ${flags} -Wl,-rpath,${library_folder})
 endfunction()
 
-# Every header that was installed is found by the others, under the name that they use.
+# Every header that was installed is found by the others, also by a program that has headers of its own with the names
+# of the toolkit's; and that finds its own.
 function(compile_all_headers)
     file(GLOB headers RELATIVE ${WORK}/prefix/include ${WORK}/prefix/include/DisplayAPI/*.h
         ${WORK}/prefix/include/displaytoolkit/*.h)
-    list(TRANSFORM headers PREPEND "#include <")
-    list(TRANSFORM headers APPEND ">\n")
-    file(WRITE ${WORK}/headers.cpp ${headers})
-    run(nothing ${COMPILER} -std=c++20 -fsyntax-only -I${WORK}/prefix/include -I${WORK}/prefix/include/displaytoolkit
-        ${WORK}/headers.cpp)
+    file(GLOB names RELATIVE ${WORK}/prefix/include/displaytoolkit ${WORK}/prefix/include/displaytoolkit/*.h)
+    set(text "")
+    foreach(header IN LISTS headers)
+        string(APPEND text "#include <${header}>\n")
+    endforeach()
+    foreach(name IN LISTS names)
+        cmake_path(GET name STEM word)
+        file(WRITE ${WORK}/own/${name} "#define OWN_${word}\n")
+        string(APPEND text "#ifdef OWN_${word}\n#error a header of the package has taken ${name}\n#endif\n"
+            "#include <${name}>\n#ifndef OWN_${word}\n#error the program has not found its ${name}\n#endif\n")
+    endforeach()
+    file(WRITE ${WORK}/headers.cpp "${text}")
+    foreach(folders "${WORK}/own;${WORK}/prefix/include" "${WORK}/prefix/include;${WORK}/own")
+        list(TRANSFORM folders PREPEND -I)
+        run(nothing ${COMPILER} -std=c++20 -fsyntax-only ${folders} ${WORK}/headers.cpp)
+    endforeach()
     message(STATUS "headers: ok")
 endfunction()
 
