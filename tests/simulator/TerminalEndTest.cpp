@@ -189,11 +189,15 @@ TEST_F(TerminalEndTest, AfterAStopFromOutsideTheTerminalIsTakenAgain)
     while (readMore(0)) { }
     mSent.clear();
     kill(mChild, SIGCONT);
-    while (mSent.find("q leaves") == std::string::npos && readMore(30000)) { }
+    const auto isTaken = [this] {
+        termios now{};
+        tcgetattr(mSlave, &now);
+        return (now.c_lflag & ICANON) == 0;
+    };
+    // What it was drawing when it was stopped comes first.
+    while ((!isTaken() || mSent.find("q leaves") == std::string::npos) && readMore(30000)) { }
+    EXPECT_TRUE(isTaken());
     EXPECT_NE(mSent.find("string0: Alive"), std::string::npos) << "drawn anew without being asked";
-    termios now{};
-    tcgetattr(mSlave, &now);
-    EXPECT_EQ(now.c_lflag & ICANON, 0U);
     type("q");
     EXPECT_EQ(finish(), 0);
     expectTerminalAsBefore();
