@@ -11,6 +11,7 @@ namespace {
 constexpr int NarrowestText = 26;
 constexpr int GapBesideText = 2;
 constexpr int KeysMargin = 1;
+constexpr int GapBesideKeys = 1;
 constexpr int FewestTextLines = 5; // most screens say no more
 
 /// Hands out the lines of a terminal.
@@ -90,7 +91,7 @@ struct Heights {
 Area besideKeys(const TerminalLayout& layout, int right, int bottom)
 {
     const Area& keys = layout.keys;
-    const int column = keys.column + keys.columns + GapBesideText;
+    const int column = keys.column + keys.columns + GapBesideKeys;
     return {keys.line, column, bottom - keys.line, right - column};
 }
 

@@ -83,11 +83,11 @@ TEST_F(TerminalPictureTest, EightyByTwentyFourHoldsGlassKeysAndTheTopmostText)
     EXPECT_EQ(lines,
         Lines({
             " [F1 incoming] [F2] [F3] [F4] [F5] [F6] [F7] [F8]",
-            " [1     ] [2 abc ] [3 def ]         [ ▲ ]        name:PopupCall        … t: all",
-            " [4 ghi ] [5 jkl ] [6 mno ]   [ ◄ ] [OK ] [ ► ]  icon0:Incoming",
-            " [7 pqrs] [8 tuv ] [9 wxyz]         [ ▼ ]        caption:Bob Ortiz 4713",
-            " [*     ] [0 +   ] [#     ]         [ C ]          name:VantoListBoxItem",
-            "                                                   string0:Accept?",
+            " [1     ] [2 abc ] [3 def ]         [ ▲ ]       name:PopupCall         … t: all",
+            " [4 ghi ] [5 jkl ] [6 mno ]   [ ◄ ] [OK ] [ ► ] icon0:Incoming",
+            " [7 pqrs] [8 tuv ] [9 wxyz]         [ ▼ ]       caption:Bob Ortiz 4713",
+            " [*     ] [0 +   ] [#     ]         [ C ]         name:VantoListBoxItem",
+            "                                                  string0:Accept?",
             " ? keys",
         }));
     EXPECT_EQ(canvas.at(19, 36).style, Style::LitKey) << "OK is down";
