@@ -190,10 +190,33 @@ bool Phone::callStep(const std::string& name, const std::string& argument)
     if (step == mSettings.steps.end() || !finishPosted())
         return false;
     const std::lock_guard lock(mStepMutex);
+    if (isStepLate())
+        return false;
     if (PhoneObserver* observer = mObserver)
         observer->stepComes(name, argument);
-    step->function(argument);
+    std::packaged_task<void()> call([function = step->function, argument] { function(argument); });
+    std::future<void> end = call.get_future();
+    std::thread thread(std::move(call));
+    if (end.wait_for(mSettings.patience) != std::future_status::ready) {
+        thread.detach(); // nothing can end it but the end of the process
+        mLateStep = name;
+        mLateEnd = std::move(end);
+        return false;
+    }
+    thread.join();
+    end.get();
     return true;
+}
+
+std::string Phone::lateStep() const
+{
+    const std::lock_guard lock(mStepMutex);
+    return isStepLate() ? "the step \"" + mLateStep + "\" has not returned for " + inSeconds(mSettings.patience) : "";
+}
+
+bool Phone::isStepLate() const
+{
+    return mLateEnd.valid() && mLateEnd.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
 bool Phone::advance(std::chrono::milliseconds time)
@@ -259,6 +282,8 @@ std::string Phone::trouble() const
     if (mWatch.hasEnded())
         return mHasRun ? "the phonelet has ended" : "the phonelet has ended without calling display.exec()";
     const std::string wait = inSeconds(mSettings.patience);
+    if (const std::string late = lateStep(); !late.empty())
+        return late;
     return mHasRun ? "the GUI thread has not answered for " + wait + ": the phonelet keeps it busy"
                    : "the telephone has not started for " + wait + ": " + missingScreen();
 }

@@ -16,6 +16,7 @@
 #include <chrono>
 #include <exception>
 #include <functional>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -73,9 +74,14 @@ public:
     /// What stands on the function keys: "F3", or "F1 incoming" on one that a step has taken.
     std::vector<std::string> functionKeyLabels() const;
 
-    /// Calls a step of the phonelet's own, on the calling thread, once what was posted before has run. False when
-    /// the telephone did not answer in time, has ended, or has no such step. What the step throws comes out.
+    /// Calls a step of the phonelet's own, on a thread of its own, once what was posted before has run. False when
+    /// the telephone or the step did not answer in time, has ended, or has no such step. What the step throws comes
+    /// out.
     bool callStep(const std::string& name, const std::string& argument);
+
+    /// Which step was given up and is still at work in the phonelet, in words for its user; empty for none. While there
+    /// is one, nothing can be cleaned up.
+    std::string lateStep() const;
 
     /// Moves a manual clock, and that of the desktop behind it. False when the telephone did not answer in time, or has
     /// ended.
@@ -137,6 +143,7 @@ private:
     void publish();
     void startDesktop();
     void runDriver(const Driver& driver);
+    bool isStepLate() const;
 
     FixedFont mFont;
     Settings mSettings;
@@ -149,7 +156,9 @@ private:
     std::atomic<bool> mIsStuck = false; // has not answered when it was last asked
     std::atomic<PhoneObserver*> mObserver = nullptr;
     std::exception_ptr mDriverError;
-    std::mutex mStepMutex; // held while a step of the phonelet's own runs
+    mutable std::mutex mStepMutex; // held while a step of the phonelet's own runs, or is waited for
+    std::string mLateStep;         // that has not returned in time
+    std::future<void> mLateEnd;    // when it does
 };
 
 }

@@ -51,6 +51,14 @@ bool hasTerminal()
     return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
 }
 
+/// For a process in which something is still at work that nobody can end.
+[[noreturn]] void exitNow(int code)
+{
+    std::fflush(nullptr);
+    std::cout << std::flush;
+    std::_Exit(code);
+}
+
 int codeOf(int signal)
 {
     return signal == 0 ? Simulation::Success : SignalCodes + signal;
@@ -144,14 +152,16 @@ int Simulation::drive(Phone& phone, const Driver& driver)
 /// Ends a phonelet for which nobody waits at a terminal. One that hangs must not keep a program running for ever.
 void Simulation::end(Phone& phone, int code) const
 {
-    if (phone.end())
+    const bool hasEnded = phone.end();
+    const std::string late = phone.lateStep();
+    if (hasEnded && late.empty())
         return;
-    if (code == Success)
+    if (code == Success && !late.empty())
+        std::cerr << mOptions.program << ": " << late << std::endl;
+    else if (code == Success)
         std::cerr << mOptions.program << ": the phonelet does not end: display.exec() or what stands behind it has not "
                   << "returned for " << inSeconds(phone.patience()) << std::endl;
-    std::fflush(nullptr);
-    std::cout << std::flush;
-    std::_Exit(std::max(code, Failure));
+    exitNow(std::max(code, Failure));
 }
 
 /// The same, when a command of the control channel may be stuck in the phonelet: then nothing can be cleaned up.
@@ -189,6 +199,10 @@ int Simulation::runTerminal()
     if (!phone.hasRun()) {
         std::cerr << mOptions.program << ": " << phone.trouble() << std::endl;
         return Failure;
+    }
+    if (const std::string late = phone.lateStep(); !late.empty()) {
+        std::cerr << mOptions.program << ": " << late << std::endl;
+        exitNow(std::max(codeOf(signal), Failure));
     }
     return codeOf(signal);
 }

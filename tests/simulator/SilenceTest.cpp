@@ -60,6 +60,8 @@ void hangBehindTheLoop(Display& display)
     std::exit(PhoneSimulator(static_cast<int>(arguments.size()), arguments.data())
                   .setVersion("2.5")
                   .onStep("hang", [](const std::string&) { Simulator::callOnGui(neverReturn); })
+                  .onStep(
+                      "stay", [](const std::string&) { neverReturn(); }, 1)
                   .run(phonelet));
 }
 
@@ -85,6 +87,8 @@ TEST_F(SilenceTest, EveryWayToRunAPhoneletEndsAndSaysWhatItHasWaitedFor)
 {
     const std::string script = scriptOf("plain", "expect Anna\npress OK\n");
     const std::string hangingScript = scriptOf("hanging", "hang\nexpect Anna\ntext\n");
+    const std::string stayingScript = scriptOf("staying", "stay\nexpect Anna\n");
+    const std::string keyScript = scriptOf("key", "press F1\n");
     const std::vector<const char*> playScript{"--script", script.c_str()};
     const struct {
         const char* name;
@@ -105,6 +109,10 @@ TEST_F(SilenceTest, EveryWayToRunAPhoneletEndsAndSaysWhatItHasWaitedFor)
         {"no screen, script", showNothing, playScript, "plain:1: expect Anna: .* display.setCurrent\\(\\)"},
         {"hangs while it runs, script", showNothing, {"--script", hangingScript.c_str()},
             "^[^\n]*:2: expect Anna: the GUI thread has not answered for 1 s: the phonelet keeps it busy\n$"},
+        {"step does not return, script", showNothing, {"--script", stayingScript.c_str()},
+            "^[^\n]*:1: stay: the step \"stay\" has not returned for 1 s\n$"},
+        {"step does not return, key", showNothing, {"--script", keyScript.c_str()},
+            "^dialler: the step \"stay\" has not returned for 1 s\n$"},
         {"hangs behind, text", hangBehindTheLoop, {"--text"},
             "^dialler: the phonelet does not end: display.exec\\(\\)[^\n]*\n$"},
     };

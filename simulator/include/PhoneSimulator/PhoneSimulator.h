@@ -54,7 +54,9 @@ public:
     ///
     /// The function is called off the GUI thread, one call at a time, between the first turn of the phonelet's loop
     /// and the end of run(); it should return soon. What it throws fails the script's step; in the terminal it ends
-    /// the telephone. So what it uses is made before run() and may find the phonelet's screens gone.
+    /// the telephone. One that does not return for the time of `--timeout` is a failure too: nothing else is called
+    /// meanwhile, and if it is still at work at the end, the process ends with it. So what it uses is made before run()
+    /// and may find the phonelet's screens gone.
     /// Errors: an empty function, a name that has blanks or that a step of every script or a command of the control
     /// channel has, a key outside 0 to 8 and one key for two steps end run() with 2.
     PhoneSimulator& onStep(const std::string& name, StepFunction function, int functionKey = 0);
