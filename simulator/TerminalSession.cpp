@@ -155,7 +155,11 @@ TerminalSession::~TerminalSession()
 void TerminalSession::open()
 {
     mDevice.reset(fdopen(fcntl(gTerminal, F_DUPFD_CLOEXEC, 3), "w"));
+    // The library would stop the process in a way of its own, inside a signal handler.
+    struct sigaction stop { };
+    sigaction(SIGTSTP, nullptr, &stop);
     SCREEN* screen = mDevice ? newterm(nullptr, mDevice.get(), stdin) : nullptr;
+    sigaction(SIGTSTP, &stop, nullptr);
     if (!screen)
         throw UsageError("the terminal can't be used");
     set_term(screen);
