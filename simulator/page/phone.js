@@ -1,176 +1,154 @@
-"use strict";
+// The page: shows what the telephone behind it shows, and hands it what is done here.
 
-// Works the telephone behind this page: commands of the control channel go out, one a message; each is answered in its
-// turn, and {"event": "changed"} says that there is something new to ask for.
+import {Channel} from "./channel.js";
+import {Glass} from "./glass.js";
+import {Keys} from "./keys.js";
+import {Speech, spokenLines} from "./speech.js";
 
-const HOLD_AFTER = 600; // milliseconds
-const INK = [0x22, 0x2b, 0x1b];
-const GLASS = [0xc9, 0xd5, 0xaa];
-const KEYBOARD = {ArrowUp: "UP", ArrowDown: "DOWN", ArrowLeft: "LEFT", ArrowRight: "RIGHT", Enter: "OK",
-  Backspace: "LEFT", Delete: "CLEAR"};
-
-const glass = document.getElementById("glass");
-const text = document.getElementById("text");
-const state = document.getElementById("state");
-const commands = document.getElementById("commands");
 const MOST_COMMANDS = 100;
+const NAMES = {lines: "Display lines", model: "Model", software: "Software"};
 
-let socket = null;
-let waiting = []; // what is to be done with the answers, in their order
+const find = (id) => document.getElementById(id);
+const glass = new Glass(find("glass"));
+const desktop = new Glass(find("desktop"));
+const speech = new Speech(find("spoken"));
 let lastCommand = 0;
 let isAsking = false;
 let hasChanged = false;
+let isGone = true;
 
-function ask(command) {
-  return new Promise((resolve) => {
-    if (!socket || socket.readyState !== WebSocket.OPEN)
-      return;
-    waiting.push(resolve);
-    socket.send(JSON.stringify(command));
-  });
+const channel = new Channel({opened: greet, changed: refresh, closed: part});
+const keys = new Keys(find("keys"), (key, state) => work({do: "key", key, state}));
+
+function element(kind, properties = {}, ...children) {
+  const made = Object.assign(document.createElement(kind), properties);
+  made.append(...children);
+  return made;
 }
 
-function connect() {
-  socket = new WebSocket(`ws://${location.host}/`, "telephone");
-  socket.onopen = () => {
-    waiting = [];
-    state.textContent = "";
-    ask({do: "hello"}).then(greet);
-  };
-  socket.onmessage = (message) => {
-    const told = JSON.parse(message.data);
-    if (told.event)
-      refresh();
-    else if (waiting.length > 0)
-      waiting.shift()(told);
-  };
-  socket.onclose = () => {
-    state.textContent = "The telephone has gone. Waiting for it ...";
-    setTimeout(connect, 1000);
-  };
+function say(text) {
+  if (find("state").textContent !== text)
+    find("state").textContent = text;
 }
 
-function greet(hello) {
-  document.title = hello.program || "Telephone";
-  const steps = new Map((hello.steps || []).map((step) => [step.key, step.name]));
-  const functions = document.getElementById("functions");
-  functions.replaceChildren();
+/// Asks, and says what goes wrong.
+async function work(command) {
+  const answer = await channel.ask(command);
+  if (!isGone && answer.error !== "gone")
+    say(answer.ok ? "" : answer.reason);
+  return answer;
+}
+
+// The telephone comes and goes
+
+async function greet() {
+  const hello = await channel.ask({do: "hello"});
+  if (hello.error === "gone")
+    return;
+  isGone = false;
+  say(hello.ok ? "" : hello.reason);
+  find("telephone").classList.remove("gone");
+  find("commands").replaceChildren();
+  lastCommand = 0;
+  if (hello.ok) {
+    document.title = hello.program;
+    find("program").textContent = hello.program;
+    find("telephone").dataset.model = hello.variant.model;
+    find("plate").textContent = hello.variant.model === "plain" ? "DisplayAPI" : hello.variant.model.toUpperCase();
+    offerFunctionKeys(hello.functionKeys);
+    offerVariants(hello.variants || {}, hello.variant);
+    offerSteps(hello.steps);
+  }
+  refresh();
+}
+
+function part(reason) {
+  isGone = true;
+  keys.releaseAll();
+  find("telephone").classList.add("gone");
+  say(reason === "variant" ? "The telephone begins anew ..." : "The telephone has gone. Waiting for it ...");
+}
+
+function offerFunctionKeys(steps) {
+  const buttons = [];
   for (let number = 1; number <= 8; ++number) {
-    const button = document.createElement("button");
+    const button = element("button", {type: "button"}, element("small", {textContent: steps[`F${number}`] || ""}), `F${number}`);
     button.dataset.key = `F${number}`;
-    button.textContent = `F${number}`;
-    const label = document.createElement("small");
-    label.textContent = steps.get(`F${number}`) || "";
-    button.append(label);
-    functions.append(button);
+    buttons.push(button);
+  }
+  find("functions").replaceChildren(...buttons);
+}
+
+function offerVariants(choices, present) {
+  find("variants").querySelectorAll("fieldset").forEach((each) => each.remove());
+  find("variants").hidden = Object.keys(choices).length === 0;
+  for (const [name, values] of Object.entries(choices)) {
+    const row = element("fieldset", {className: "choice"}, element("legend", {textContent: NAMES[name] || name}));
+    for (const value of values) {
+      const button = element("button", {type: "button", textContent: value, onclick: () => work({do: "variant", [name]: value})});
+      button.dataset.variant = `${name} ${value}`;
+      button.setAttribute("aria-pressed", String(present[name] === value));
+      row.append(button);
+    }
+    find("variants").append(row);
   }
 }
 
-// Asks for what is on the screen; what changes meanwhile is asked for behind it.
+function offerSteps(names) {
+  find("steps").querySelectorAll("form").forEach((each) => each.remove());
+  find("steps").hidden = names.length === 0;
+  for (const name of names) {
+    const argument = element("input", {ariaLabel: `What goes with ${name}`, autocomplete: "off"});
+    const form = element("form", {}, argument, element("button", {textContent: name}));
+    form.addEventListener("submit", (event) => {
+      event.preventDefault();
+      work({do: name, argument: argument.value});
+    });
+    find("steps").append(form);
+  }
+}
+
+// What the telephone shows
+
+/// Asks for what is on the screen; what changes meanwhile is asked for behind it.
 async function refresh() {
   hasChanged = true;
   if (isAsking)
     return;
   isAsking = true;
-  while (hasChanged) {
+  while (hasChanged && !isGone) {
     hasChanged = false;
-    const [pixels, screen, delivered] = await Promise.all([
-      ask({do: "pixels", settled: false}), ask({do: "text", settled: false}), ask({do: "commands", since: lastCommand})]);
-    if (pixels.ok)
-      paint(pixels.rows);
-    if (screen.ok && text.textContent !== screen.text)
-      text.textContent = screen.text;
-    for (const entry of delivered.commands || [])
-      list(entry);
+    show(...await Promise.all([
+      channel.ask({do: "pixels", settled: false}), channel.ask({do: "text", settled: false}),
+      channel.ask({do: "commands", since: lastCommand}), channel.ask({do: "desktop"})]));
   }
   isAsking = false;
 }
 
-function paint(rows) {
-  glass.width = rows[0].length;
-  glass.height = rows.length;
-  const context = glass.getContext("2d");
-  const image = context.createImageData(glass.width, glass.height);
-  rows.forEach((row, y) => {
-    for (let x = 0; x < row.length; ++x) {
-      const colour = row[x] === "#" ? INK : GLASS;
-      image.data.set([...colour, 0xff], 4 * (y * glass.width + x));
-    }
-  });
-  context.putImageData(image, 0, 0);
+function show(pixels, screen, delivered, above) {
+  if (pixels.ok)
+    glass.show(pixels.rows);
+  if (screen.ok && find("text").textContent !== screen.text) {
+    find("text").textContent = screen.text;
+    speech.show(screen.text);
+  }
+  for (const id of ["strip", "desktop-text"])
+    find(id).hidden = !above.ok; // a telephone need not have a desktop
+  if (above.ok) {
+    desktop.show(above.rows);
+    find("desktop-text").textContent = above.text;
+    find("desktop").setAttribute("aria-label", `Desktop: ${spokenLines(above.text).join(", ")}`);
+  }
+  for (const entry of delivered.commands || [])
+    list(entry);
 }
 
 function list(entry) {
   lastCommand = Math.max(lastCommand, entry.number);
-  const line = document.createElement("li");
-  line.value = entry.number;
-  line.textContent = `${entry.command || entry.type || "(none)"} on ${entry.screen || "no screen"}`;
-  commands.append(line);
-  while (commands.childElementCount > MOST_COMMANDS)
-    commands.firstElementChild.remove();
-  commands.scrollTop = commands.scrollHeight;
+  const line = element("li", {value: entry.number}, element("b", {textContent: entry.command || "(no text)"}),
+    ` ${entry.type} on ${entry.screen || "no screen"}`);
+  find("commands").append(line);
+  while (find("commands").childElementCount > MOST_COMMANDS)
+    find("commands").firstElementChild.remove();
+  find("commands").scrollTop = find("commands").scrollHeight;
 }
-
-// A key is pressed, held after a while, and released, as on the telephone.
-
-const held = new Map(); // the timer of each key that is down
-
-function press(key) {
-  if (held.has(key))
-    return;
-  ask({do: "key", key, state: "press"});
-  held.set(key, setTimeout(() => ask({do: "key", key, state: "hold"}), HOLD_AFTER));
-  mark(key, true);
-}
-
-function release(key) {
-  if (!held.has(key))
-    return;
-  clearTimeout(held.get(key));
-  held.delete(key);
-  ask({do: "key", key, state: "release"});
-  mark(key, false);
-}
-
-function mark(key, isPressed) {
-  document.querySelector(`[data-key="${CSS.escape(key)}"]`)?.classList.toggle("pressed", isPressed);
-}
-
-function keyOf(event) {
-  if (event.ctrlKey || event.altKey || event.metaKey)
-    return null;
-  if (/^([0-9*#]|F[1-8])$/.test(event.key))
-    return event.key;
-  return KEYBOARD[event.key] || null;
-}
-
-document.getElementById("keys").addEventListener("pointerdown", (event) => {
-  const button = event.target.closest("button");
-  if (!button || event.button !== 0)
-    return;
-  button.setPointerCapture(event.pointerId);
-  press(button.dataset.key);
-});
-for (const kind of ["pointerup", "pointercancel"]) {
-  document.getElementById("keys").addEventListener(kind, (event) => {
-    const button = event.target.closest("button");
-    if (button)
-      release(button.dataset.key);
-  });
-}
-document.addEventListener("keydown", (event) => {
-  const key = keyOf(event);
-  if (!key)
-    return;
-  event.preventDefault();
-  if (!event.repeat)
-    press(key);
-});
-document.addEventListener("keyup", (event) => {
-  const key = keyOf(event);
-  if (key)
-    release(key);
-});
-window.addEventListener("blur", () => [...held.keys()].forEach(release));
-
-connect();
