@@ -100,6 +100,22 @@ test("the glass is seen as in the picture, wide and narrow", async () => {
   }
 });
 
+test("the canvas has the very pixels of a dense screen", async () => {
+  for (const density of [1.5, 2]) { // of the browser itself: one that is only emulated does not tell the canvas
+    const dense = await chromium.launch({...BROWSER, args: [...BROWSER.args, `--force-device-scale-factor=${density}`]});
+    const shown = await (await dense.newContext({viewport: null})).newPage();
+    await shown.goto(telephone.address);
+    await shown.waitForFunction(() => document.getElementById("glass").dataset.scale);
+    const [pixels, size] = await shown.evaluate(() => {
+      const canvas = document.getElementById("glass");
+      const {width, height} = canvas.getBoundingClientRect();
+      return [[canvas.width, canvas.height], [width, height].map((length) => Math.round(length * devicePixelRatio))];
+    });
+    assert.deepEqual(pixels, size, `at ${density}`);
+    await dense.close();
+  }
+});
+
 test("function keys have labels, and a held key is let go with the window", async () => {
   assert.deepEqual(await page.locator("#functions small").allTextContents().then((all) => all.slice(0, 2)), ["incoming", "language"]);
   await page.keyboard.down("5");

@@ -95,8 +95,9 @@ export class Peer {
   }
 
   async waitForClose() {
-    if (this.closeReason === null)
-      await once(this.socket, "end");
+    // Not by once(): the answer to a close may find the other end gone, which is no fault.
+    if (this.closeReason === null && !this.socket.destroyed)
+      await new Promise((resolve) => { this.socket.on("close", resolve); });
     return this.closeReason;
   }
 
