@@ -8,7 +8,7 @@ import zlib
 import blocks
 import shell
 from markdown import PageError
-from rules import GALLERY, rules_for
+from rules import GALLERY, PHOTOGRAPHS, rules_for
 from sandbox import CommandError, Sandbox
 
 COMMAND_IN_TEXT = re.compile(r"(\./phone|build/\w+/bin/[\w-]+) .+")
@@ -42,7 +42,7 @@ def pictures_of(page):
     root = page.root.resolve()
     files = [(root / page.path.parent / link.target).resolve().relative_to(root)
              for link in page.links if link.is_picture]
-    return [file for file in files if not file.is_relative_to(GALLERY)]
+    return [file for file in files if not file.is_relative_to(GALLERY) and str(file) not in PHOTOGRAPHS]
 
 
 def _preset(text):
