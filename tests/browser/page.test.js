@@ -94,7 +94,11 @@ test("the glass is seen as in the picture, wide and narrow", async () => {
     const other = await browser.newPage({viewport: {width, height: 800}, deviceScaleFactor: density, reducedMotion: "reduce"});
     await other.goto(telephone.address);
     await other.waitForFunction(() => document.getElementById("text").textContent.includes("Hold?"));
-    assert.equal(await differentPixels(other), 0, `${width} at ${density}`);
+    // The call's seconds go on between a screenshot and the picture; what is drawn wrongly stays wrong.
+    let different = 1;
+    for (let attempt = 0; attempt < 10 && different > 0; ++attempt)
+      different = await differentPixels(other);
+    assert.equal(different, 0, `${width} at ${density}`);
     assert.ok(await other.evaluate(() => document.documentElement.scrollWidth <= innerWidth), "nothing is cut");
     await other.close();
   }
