@@ -9,6 +9,9 @@ public:
     /// A terminal program is told of Ctrl-Z, of going on after a stop, and of a new size, too.
     enum class Of { Program, Terminal };
 
+    /// What a shell adds to the number of a signal for the exit code.
+    static constexpr int ExitCodes = 128;
+
     explicit SignalWatch(Of kind);
     ~SignalWatch();
     SignalWatch(const SignalWatch&) = delete;

@@ -32,8 +32,6 @@ namespace Simulator {
 
 namespace {
 
-constexpr int SignalCodes = 128; // what a shell adds to the number of a signal
-
 void check(const std::vector<CustomStep>& steps)
 {
     constexpr int functionKeys = 8;
@@ -61,7 +59,7 @@ bool hasTerminal()
 
 int codeOf(int signal)
 {
-    return signal == 0 ? Simulation::Success : SignalCodes + signal;
+    return signal == 0 ? Simulation::Success : SignalWatch::ExitCodes + signal;
 }
 
 }

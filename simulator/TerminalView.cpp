@@ -29,7 +29,6 @@ constexpr wchar_t ControlL = 12;
 constexpr wchar_t ControlZ = 26;
 constexpr wchar_t Escape = 27;
 constexpr int RichColours = 256;
-constexpr int SignalCodes = 128; // what a shell adds to the number of a signal
 
 void setColours()
 {
@@ -129,7 +128,7 @@ void TerminalView::leave()
     // The phonelet may be in an endless loop of its own: who wants to leave twice need not wait for it.
     if (mIsLeaving) {
         TerminalSession::restore();
-        std::_Exit(SignalCodes + (mSignal != 0 ? mSignal : SIGINT));
+        std::_Exit(SignalWatch::ExitCodes + (mSignal != 0 ? mSignal : SIGINT));
     }
     mIsLeaving = true;
     mPhone.quit();
