@@ -7,15 +7,7 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-function(run output)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE text ERROR_VARIABLE errors
-        WORKING_DIRECTORY ${WORK})
-    if(NOT result EQUAL 0)
-        list(JOIN ARGN " " command)
-        message(FATAL_ERROR "${command}\nended with ${result}:\n${text}${errors}")
-    endif()
-    set(${output} "${text}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})

@@ -9,15 +9,7 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-# Runs a command and ends the test if it fails; gives its output.
-function(run output)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE text ERROR_VARIABLE errors)
-    if(NOT result EQUAL 0)
-        list(JOIN ARGN " " command)
-        message(FATAL_ERROR "${command}\nended with ${result}:\n${text}${errors}")
-    endif()
-    set(${output} "${text}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 
 function(expect_speaker title text)
     if(NOT text MATCHES "Speaker")
@@ -61,6 +53,7 @@ endfunction()
 set(consumer ${CMAKE_CURRENT_LIST_DIR}/consumer)
 separate_arguments(compile_flags UNIX_COMMAND "${FLAGS}")
 file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK})
 run(nothing ${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
 file(GLOB_RECURSE library ${WORK}/prefix/*/libDisplayAPI.so)
 cmake_path(GET library PARENT_PATH library_folder)
